@@ -1,0 +1,57 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+/// Rows of the keyboard table: what can be rebound on the keyboard.
+enum class KeyboardAction : std::int32_t {
+    MoveLeft = 0,
+    MoveRight = 1,
+    Fire = 2,
+    Bomb = 3,
+    Heal = 4,
+};
+
+/// Rows of the gamepad and the joystick table. Steering is fixed on a pad, confirm and back on the keyboard,
+/// so the two kinds of table differ.
+enum class PadAction : std::int32_t {
+    Fire = 0,
+    Bomb = 1,
+    Heal = 2,
+    Confirm = 3,
+    Back = 4,
+};
+
+/// Which table the Controls page opens on. It has no say in what the game listens to.
+enum ControlsDevice : std::int32_t {
+    ControlsDeviceKeyboard = 0,
+    ControlsDeviceGamepad = 1,
+    ControlsDeviceJoystick = 2,
+};
+
+/// One value for each row of a table: a scancode (1 to 511), a gamepad button (0 to 25) or a joystick button
+/// (from 0). Any other value is unbound.
+using BindingTable = std::array<std::int32_t, 5>;
+
+constexpr std::int32_t BindingOf(const BindingTable &Table, KeyboardAction Action) {
+    return Table[static_cast<std::size_t>(Action)];
+}
+
+constexpr std::int32_t BindingOf(const BindingTable &Table, PadAction Action) {
+    return Table[static_cast<std::size_t>(Action)];
+}
+
+/// The arrow keys left and right, left control, X, space bar (SDL scancodes).
+constexpr BindingTable DefaultKeyboardBindings{80, 79, 224, 27, 44};
+
+/// South, west, north, south, east (SDL gamepad buttons). Fire and confirm share a button on purpose.
+constexpr BindingTable DefaultGamepadBindings{0, 2, 3, 0, 1};
+
+/// Joystick button indices; fire and confirm share one on purpose.
+constexpr BindingTable DefaultJoystickBindings{0, 1, 2, 0, 3};
+
+/// The values that an SDL scancode and an SDL gamepad button of a table may have.
+constexpr std::int32_t FirstScancode = 1;
+constexpr std::int32_t LastScancode = 511;
+constexpr std::int32_t LastGamepadButton = 25;

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <compare>
+#include <cstdint>
+
+enum AspectMode : std::int32_t {
+    AspectWidescreen = 0,
+    AspectClassic4x3 = 1,
+};
+
+/// A size in physical pixels.
+struct Resolution {
+    std::int32_t Width = 0;
+    std::int32_t Height = 0;
+
+    auto operator<=>(const Resolution &) const = default; // by width, ties by height
+};
+
+/// What a display offers.
+struct DisplayMode {
+    std::int32_t Width = 0;
+    std::int32_t Height = 0;
+    std::int32_t Hz = 0; ///< 0 where the display does not tell
+
+    bool operator==(const DisplayMode &) const = default;
+};

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "state/Bindings.hpp"
+#include "state/Display.hpp"
+#include "state/Entities.hpp"
+#include "state/Screen.hpp"
+#include "state/Sounds.hpp"
+
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+/// The one record of the game, owned by the main program and passed by reference to everything. Times are
+/// seconds, lengths logical pixels. The initial values are what the program starts with.
+struct GameState {
+    // Screens and menus.
+    enum Screen Screen = ScreenMainMenu;
+    bool Running = true; ///< false ends the main loop
+    std::uint32_t MainMenuSelection = 0;
+    std::int32_t PauseSelection = 0;
+    enum Screen OptionsReturnScreen = ScreenMainMenu;
+    enum Screen HelpReturnScreen = ScreenMainMenu;
+    float CreditsScroll = 0.0F;
+
+    // The run.
+    std::int64_t Score = 0;
+    std::int64_t HighScore = 0;
+    std::int32_t Stage = 1;                      ///< 1 or more, follows GameTime
+    std::int32_t PreviousStage = 1;              ///< the stage before the last change
+    std::int32_t WaterFlowDirection = 1;         ///< -1 or +1
+    std::int32_t PreviousWaterFlowDirection = 1; ///< before the last stage change
+    float GameTime = 0.0F;                       ///< time driven in this run
+    float RoadScroll = 0.0F;                     ///< distance scrolled; grows without wrapping
+    float CurrentScrollSpeed = 120.0F;           ///< pixels a second, smoothed
+    float StageTransition = 1.0F;                ///< share of the screen scrolled since the last stage change
+    float SpawnTimer = 0.0F; ///< until the next enemy, in seconds scaled by the road speed
+    float ObstacleSpawnTimer = 2.8F;
+    float ItemSpawnTimer = 6.0F;
+    float ReadyBanner = 0.0F;
+    float InvulnerabilityTimer = 0.0F; ///< no damage while above 0
+    float LaneMoveCooldown = 0.0F;     ///< no lane change while above 0
+    float AmmoRegenPause = 0.0F;       ///< no refill while above 0
+    float AmmoMeter = 100.0F;          ///< 0 to 100
+    std::int32_t Bombs = 3;            ///< 0 to 3
+    std::int32_t FirstAidKits = 0;     ///< 0 to 3
+    std::int32_t PlayerLane = 4;       ///< 0 to 8 from the left
+    bool SpecialActive = false;        ///< a bomb's flash is running
+    float SpecialTimer = 0.0F;
+    float InvincibilityPowerTimer = 0.0F;
+    float DualWeaponPowerTimer = 0.0F;
+    bool PlayerDying = false; ///< the last life is lost and the death animation runs
+    float DeathTimer = 0.0F;
+    bool HasRunState = false;   ///< a run exists that can be continued and is saved
+    bool SaveRequested = false; ///< the debounced save is armed
+    float SaveDelay = 0.0F;
+    struct Player Player;
+
+    // The applied options.
+    enum AspectMode AspectMode = AspectWidescreen;
+    std::int32_t ResolutionIndex = 3;
+    std::int32_t RefreshRate = 0; ///< Hz; 0 is automatic
+    bool Fullscreen = true;
+    bool VSync = true;
+    bool VSyncActive = false; ///< what the renderer reported at the last apply
+    std::int32_t MasterVolume = 100;
+    std::int32_t MusicVolume = 50;
+    std::int32_t SfxVolume = 75;
+    bool MusicEnabled = true;
+    bool SfxEnabled = true;
+    std::string Language = "en";
+    enum ControlsDevice ControlsDevice = ControlsDeviceKeyboard;
+    BindingTable KeyboardBindings = DefaultKeyboardBindings;
+    BindingTable GamepadBindings = DefaultGamepadBindings;
+    BindingTable JoystickBindings = DefaultJoystickBindings;
+
+    // Bookkeeping of the options.
+    bool OptionsDirty = false;    ///< the options file is to be written
+    bool ResetFrameClock = false; ///< the next frame's step is to have length 0
+    std::vector<Resolution> Resolutions;
+    std::vector<std::int32_t> RefreshRates;
+    std::vector<DisplayMode> DisplayModes;
+
+    // What moves on the road, each list in order of birth.
+    std::vector<Bullet> Bullets;
+    std::vector<EnemyBullet> EnemyBullets;
+    std::vector<Enemy> Enemies;
+    std::vector<Obstacle> Obstacles;
+    std::vector<Item> Items;
+    std::vector<Explosion> Explosions;
+
+    SoundQueue PendingSounds;
+    std::mt19937 Rng; ///< seeded once at start-up
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+
+// The logical screen: everything is placed and drawn in its pixels, x to the right, y downwards.
+
+/// Height of the logical screen in logical pixels, whatever the display.
+constexpr std::int32_t LogicalHeight = 720;
+
+/// The same as a float, for geometry.
+constexpr float LogicalHeightF = 720.0F;
+
+/// Width of the logical screen in logical pixels: 960, 1080, 1152, 1280, 1728 or 2560 by the display's shape.
+/// Set by ComputeLogicalWidth alone.
+extern std::int32_t LogicalWidth;

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "state/Display.hpp"
+
+#include <cstdint>
+#include <span>
+
+struct GameState;
+
+/// Whether Width by Height has the shape RatioWidth to RatioHeight within about half a percent. False for
+/// sizes of 0 or less.
+bool RatioMatches(std::int32_t Width, std::int32_t Height, std::int32_t RatioWidth, std::int32_t RatioHeight);
+
+/// Whether the shape is 64:27, 43:18, 21:9 or 12:5.
+bool IsUltrawide(std::int32_t Width, std::int32_t Height);
+
+/// Whether the Graphics page offers this size in this aspect mode.
+bool ResolutionAllowed(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height);
+
+/// Sets LogicalWidth by the shape of a resolution in physical pixels.
+void ComputeLogicalWidth(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height);
+
+/// The sizes offered while no display has told its own, smallest first.
+std::span<const Resolution> BuiltInResolutions(enum AspectMode AspectMode);
+
+/// The resolution at ResolutionIndex, the index clamped to the list that is in force; the field stays as it
+/// is.
+Resolution CurrentResolution(const GameState &State);
+
+/// The place of an exact size in the list that is in force, otherwise Fallback clamped to that list.
+std::int32_t FindResolutionIndex(
+    const GameState &State, std::int32_t Width, std::int32_t Height, std::int32_t Fallback);
