@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+
+// What a player can hold, and where things enter and leave the road (y in logical pixels).
+
+constexpr std::int32_t StartHp = 100;
+constexpr std::int32_t StartStocks = 2;
+constexpr std::int32_t MaxStocks = 5;
+constexpr std::int32_t StartBombs = 3;
+constexpr std::int32_t MaxBombs = 3;
+constexpr std::int32_t StartFirstAidKits = 0;
+constexpr std::int32_t MaxFirstAidKits = 3;
+constexpr float MaxAmmo = 100.0F;
+
+constexpr float PlayerY = 670.0F;
+constexpr float PlayerRadius = 12.0F;
+
+constexpr float BulletLeaveY = -20.0F; ///< a shot exactly there stays

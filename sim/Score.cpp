@@ -1,0 +1,21 @@
+#include "sim/Score.hpp"
+
+#include "state/GameState.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+std::int64_t ScoreForStage(std::int32_t BasePoints, std::int32_t Stage) {
+    if (BasePoints <= 0) {
+        return 0;
+    }
+    const float multiplier = std::min(1.0F + static_cast<float>(std::max(Stage, 1) - 1) * 0.06F, 2.5F);
+    const float rounded = std::round(static_cast<float>(BasePoints) * multiplier);
+    return static_cast<std::int64_t>(std::max(rounded, 1.0F));
+}
+
+void AddScore(GameState &State, std::int64_t Points) {
+    const std::int64_t room = std::numeric_limits<std::int64_t>::max() - State.Score;
+    State.Score += std::min(Points, room);
+}

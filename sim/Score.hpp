@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+
+struct GameState;
+
+/// The points that a base value pays in a stage: 6% more for each stage, at most two and a half times,
+/// rounded. 0 for a base value of 0 or less, otherwise at least 1.
+std::int64_t ScoreForStage(std::int32_t BasePoints, std::int32_t Stage);
+
+/// Pays points into the run's score, which stops at the largest number that it can hold.
+void AddScore(GameState &State, std::int64_t Points);

@@ -1,0 +1,72 @@
+#include "sim/Stages.hpp"
+
+#include "sim/Limits.hpp"
+#include "sim/Random.hpp"
+#include "state/GameState.hpp"
+#include "state/Numbers.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+struct StageRow {
+    float TargetSpeed;
+    bool Water;
+    std::int32_t Theme;
+};
+
+constexpr std::array<StageRow, 9> StageTable{{
+    {120.0F, false, 0},
+    {120.0F, true, 1},
+    {136.0F, true, 1},
+    {122.0F, false, 2},
+    {146.0F, false, 2},
+    {128.0F, false, 2},
+    {156.0F, false, 2},
+    {136.0F, false, 3},
+    {166.0F, false, 3},
+}};
+
+const StageRow &RowOf(std::int32_t Stage) {
+    return StageTable[static_cast<std::size_t>(std::max(Stage, 1) - 1) % StageTable.size()];
+}
+
+/// Every stage that is a multiple of five gives a spare life.
+void AddSpareLives(GameState &State, std::int32_t NewStage, std::int32_t OldStage) {
+    const std::int32_t extra = NewStage / 5 - OldStage / 5;
+    if (NewStage > 4 && extra > 0) {
+        State.Player.Stocks = std::min(State.Player.Stocks + extra, MaxStocks);
+    }
+}
+
+} // namespace
+
+float TargetScrollSpeed(std::int32_t Stage) {
+    return RowOf(Stage).TargetSpeed;
+}
+
+bool IsWaterStage(std::int32_t Stage) {
+    return RowOf(Stage).Water;
+}
+
+std::int32_t StageThemeOf(std::int32_t Stage) {
+    return RowOf(Stage).Theme;
+}
+
+std::int32_t StageAt(float GameTime) {
+    constexpr std::int32_t lastQuotient = 2147483646; // one less than the largest stage number
+    return std::max(std::min(TruncateToInt(GameTime / StageSeconds), lastQuotient) + 1, 1);
+}
+
+void StartStage(GameState &State, std::int32_t NewStage) {
+    const std::int32_t oldStage = State.Stage;
+    State.PreviousStage = oldStage;
+    State.Stage = NewStage;
+    State.StageTransition = 0.0F;
+    State.PreviousWaterFlowDirection = State.WaterFlowDirection;
+    AddSpareLives(State, NewStage, oldStage);
+    if (IsWaterStage(NewStage) && !IsWaterStage(oldStage)) {
+        State.WaterFlowDirection = RandomFlowDirection(State);
+    }
+}

@@ -1,0 +1,51 @@
+#include "sim/Step.hpp"
+
+#include "sim/Bomb.hpp"
+#include "sim/Bullets.hpp"
+#include "sim/Death.hpp"
+#include "sim/Explosions.hpp"
+#include "sim/PlayerControls.hpp"
+#include "sim/Road.hpp"
+#include "sim/Stages.hpp"
+#include "sim/Timers.hpp"
+#include "state/GameState.hpp"
+#include "state/SaveRequest.hpp"
+
+#include <algorithm>
+
+namespace {
+
+constexpr float SaveDelaySeconds = 0.8F;
+
+void ChangeStage(GameState &State) {
+    const std::int32_t newStage = StageAt(State.GameTime);
+    if (newStage != State.Stage) {
+        StartStage(State, newStage);
+    }
+}
+
+void KeepRun(GameState &State) {
+    State.HasRunState = true;
+    State.HighScore = std::max(State.HighScore, State.Score);
+    RequestSave(State, SaveDelaySeconds);
+}
+
+} // namespace
+
+void SimulationStep(GameState &State, float DeltaSeconds, const StepInput &StepInput) {
+    const float dt = DeltaSeconds;
+    if (State.PlayerDying) {
+        DyingStep(State, dt);
+        return;
+    }
+    MoveRoad(State, dt);
+    RunTimers(State, dt);
+    MoveLane(State, StepInput);
+    FireGun(State, StepInput);
+    ThrowBomb(State, StepInput);
+    MoveBullets(State, dt);
+    AgeExplosions(State, dt);
+    RefillAmmo(State, dt);
+    ChangeStage(State);
+    KeepRun(State);
+}
