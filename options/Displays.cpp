@@ -1,0 +1,100 @@
+#include "options/Displays.hpp"
+
+#include "state/GameState.hpp"
+#include "state/Resolutions.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// Where the built-in resolutions have a height of 720.
+constexpr std::int32_t FallbackIndex4x3 = 2;
+constexpr std::int32_t FallbackIndexWide = 3;
+
+template <typename Value> void AppendNew(std::vector<Value> &List, const Value &Entry) {
+    if (std::find(List.begin(), List.end(), Entry) == List.end()) {
+        List.push_back(Entry);
+    }
+}
+
+SDL_DisplayID DisplayOf(SDL_Window *Window) {
+    const SDL_DisplayID display = Window != nullptr ? SDL_GetDisplayForWindow(Window) : 0;
+    return display != 0 ? display : FirstDisplay();
+}
+
+/// A mode's rate in whole Hz, 0 where it tells none.
+std::int32_t RoundedRate(const SDL_DisplayMode &Mode) {
+    float rate = Mode.refresh_rate;
+    if (Mode.refresh_rate_numerator > 0 && Mode.refresh_rate_denominator > 0) {
+        rate = static_cast<float>(Mode.refresh_rate_numerator) /
+               static_cast<float>(Mode.refresh_rate_denominator);
+    }
+    if (!(rate > 0.0F)) {
+        return 0;
+    }
+    return static_cast<std::int32_t>(std::max(std::lround(rate), 0L));
+}
+
+void ListDisplayModes(GameState &State, SDL_DisplayID Display) {
+    SDL_DisplayMode **modes = SDL_GetFullscreenDisplayModes(Display, nullptr);
+    for (SDL_DisplayMode **mode = modes; mode != nullptr && *mode != nullptr; ++mode) {
+        if ((*mode)->w > 0 && (*mode)->h > 0) {
+            AppendNew(State.DisplayModes, DisplayMode{(*mode)->w, (*mode)->h, RoundedRate(**mode)});
+        }
+    }
+    SDL_free(static_cast<void *>(modes));
+}
+
+void ListResolutions(GameState &State) {
+    for (const DisplayMode &mode : State.DisplayModes) {
+        if (ResolutionAllowed(State.AspectMode, mode.Width, mode.Height)) {
+            AppendNew(State.Resolutions, Resolution{mode.Width, mode.Height});
+        }
+    }
+    if (State.Resolutions.empty()) {
+        const std::span<const Resolution> builtIn = BuiltInResolutions(State.AspectMode);
+        State.Resolutions.assign(builtIn.begin(), builtIn.end());
+    }
+    std::sort(State.Resolutions.begin(), State.Resolutions.end());
+}
+
+} // namespace
+
+SDL_DisplayID FirstDisplay() {
+    SDL_DisplayID *displays = SDL_GetDisplays(nullptr);
+    const SDL_DisplayID first = displays != nullptr ? displays[0] : 0;
+    SDL_free(displays);
+    return first;
+}
+
+void RebuildDisplayLists(GameState &State, SDL_Window *Window) {
+    const Resolution wanted = CurrentResolution(State);
+    State.DisplayModes.clear();
+    State.Resolutions.clear();
+    const SDL_DisplayID display = DisplayOf(Window);
+    if (display != 0) {
+        ListDisplayModes(State, display);
+    }
+    ListResolutions(State);
+    const std::int32_t fallback = State.AspectMode == AspectClassic4x3 ? FallbackIndex4x3 : FallbackIndexWide;
+    State.ResolutionIndex = FindResolutionIndex(State, wanted.Width, wanted.Height, fallback);
+    RebuildRefreshRates(State);
+}
+
+void RebuildRefreshRates(GameState &State) {
+    const std::int32_t wanted = std::max(State.RefreshRate, 0);
+    State.RefreshRates.assign(1, 0);
+    if (State.Fullscreen) {
+        const Resolution current = CurrentResolution(State);
+        for (const DisplayMode &mode : State.DisplayModes) {
+            if (mode.Width == current.Width && mode.Height == current.Height && mode.Hz > 0) {
+                AppendNew(State.RefreshRates, mode.Hz);
+            }
+        }
+        std::sort(State.RefreshRates.begin() + 1, State.RefreshRates.end());
+    }
+    const bool offered =
+        std::find(State.RefreshRates.begin(), State.RefreshRates.end(), wanted) != State.RefreshRates.end();
+    State.RefreshRate = offered ? wanted : 0;
+}

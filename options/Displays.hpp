@@ -1,0 +1,17 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+struct GameState;
+
+/// The first display that SDL lists; 0 if there is none.
+SDL_DisplayID FirstDisplay();
+
+/// Refills DisplayModes, Resolutions and RefreshRates from the window's display (the first one without a
+/// window) and points ResolutionIndex to the resolution that was current, or to one of height 720. Without
+/// display information the built-in resolutions stand in.
+void RebuildDisplayLists(GameState &State, SDL_Window *Window);
+
+/// Refills RefreshRates with automatic (0) and, in fullscreen, the rates that the display offers at the
+/// current resolution. A chosen rate that is not among them becomes automatic.
+void RebuildRefreshRates(GameState &State);
