@@ -1,0 +1,146 @@
+#include "gfx/Draw.hpp"
+
+#include "gfx/Atlas.hpp"
+#include "gfx/Clip.hpp"
+#include "state/LogicalScreen.hpp"
+#include "state/Numbers.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+std::uint8_t ByteOf(std::uint32_t PackedColor, unsigned Shift) {
+    return static_cast<std::uint8_t>(PackedColor >> Shift & 0xFFU);
+}
+
+const SDL_FRect &SourceOf(SpriteId Id) {
+    return SpriteAtlas.Source[static_cast<std::size_t>(Id)];
+}
+
+float SnapSize(float Size, int Step) {
+    return std::max(SnapToStep(std::max(Size, 1.0F), Step), static_cast<float>(Step));
+}
+
+/// Where a sprite centred on a point lands.
+SDL_FRect SpriteRect(SDL_Renderer *Renderer, float CenterX, float CenterY, float Width, float Height) {
+    const int step = GetPixelSnapStep(Renderer);
+    const float width = SnapSize(Width, step);
+    const float height = SnapSize(Height, step);
+    return {
+        SnapToStep(CenterX, step) - width * 0.5F, SnapToStep(CenterY, step) - height * 0.5F, width, height};
+}
+
+/// The scale at which the logical screen is shown, at least 0.0001, or 1 where the renderer does not tell.
+float PresentationScale(SDL_Renderer *Renderer) {
+    SDL_FRect shown{};
+    if (Renderer == nullptr || !SDL_GetRenderLogicalPresentationRect(Renderer, &shown) || !(shown.w > 0.0F) ||
+        !(shown.h > 0.0F)) {
+        return 1.0F;
+    }
+    const float scale = std::min(shown.h / LogicalHeightF, shown.w / static_cast<float>(LogicalWidth));
+    return std::max(scale, 0.0001F);
+}
+
+int TileSize(float SourceSize, float Scale) {
+    return std::max(RoundToInt(SourceSize * Scale), 1);
+}
+
+/// An offset brought into 0 to Size - 1. The float remainder is exact, so no offset is too large for it.
+int PhaseOf(float Offset, int Size) {
+    const int remainder = TruncateToInt(std::fmod(std::floor(Offset), static_cast<float>(Size)));
+    return remainder < 0 ? remainder + Size : remainder;
+}
+
+} // namespace
+
+void SetDrawColor(SDL_Renderer *Renderer, std::uint32_t PackedColor) {
+    SDL_SetRenderDrawColor(Renderer, ByteOf(PackedColor, 0), ByteOf(PackedColor, 8), ByteOf(PackedColor, 16),
+        ByteOf(PackedColor, 24));
+}
+
+void FillRect(SDL_Renderer *Renderer, float X, float Y, float W, float H, std::uint32_t PackedColor) {
+    SetDrawColor(Renderer, PackedColor);
+    const SDL_FRect rect{X, Y, W, H};
+    SDL_RenderFillRect(Renderer, &rect);
+}
+
+void FillDisc(SDL_Renderer *Renderer, float CenterX, float CenterY, float Radius, std::uint32_t PackedColor) {
+    SetDrawColor(Renderer, PackedColor);
+    const int r = RoundToInt(Radius);
+    // Spans that lie wholly above or below the screen are left out: a damaged file may hold any radius.
+    const int first = std::max(-r, TruncateToInt(std::floor(-CenterY)) - 1);
+    const int last = std::min(r, TruncateToInt(std::ceil(LogicalHeightF - CenterY)));
+    for (int d = first; d <= last; ++d) {
+        const auto offset = static_cast<float>(d);
+        const float half = std::sqrt(std::max(Radius * Radius - offset * offset, 0.0F));
+        const SDL_FRect span{CenterX - half, CenterY + offset, 2.0F * half + 1.0F, 1.0F};
+        SDL_RenderFillRect(Renderer, &span);
+    }
+}
+
+int GetPixelSnapStep(SDL_Renderer *Renderer) {
+    const float scale = PresentationScale(Renderer);
+    if (scale >= 1.0F) {
+        return 1;
+    }
+    return std::max(RoundToInt(1.0F / scale), 1);
+}
+
+float SnapToStep(float Value, int Step) {
+    const auto step = static_cast<float>(std::max(Step, 1));
+    return std::round(Value / step) * step;
+}
+
+void DrawSprite(
+    SDL_Renderer *Renderer, SpriteId Id, float CenterX, float CenterY, float Width, float Height) {
+    if (SpriteAtlas.Texture == nullptr) {
+        return;
+    }
+    const SDL_FRect target = SpriteRect(Renderer, CenterX, CenterY, Width, Height);
+    SDL_RenderTexture(Renderer, SpriteAtlas.Texture, &SourceOf(Id), &target);
+}
+
+void DrawSpriteTinted(SDL_Renderer *Renderer, SpriteId Id, float CenterX, float CenterY, float Width,
+    float Height, std::uint32_t PackedTint) {
+    if (SpriteAtlas.Texture == nullptr) {
+        return;
+    }
+    const SDL_FRect target = SpriteRect(Renderer, CenterX, CenterY, Width, Height);
+    SDL_SetTextureColorMod(SpriteAtlas.Texture, 255, 60, 60);
+    SDL_SetTextureAlphaMod(SpriteAtlas.Texture, ByteOf(PackedTint, 24));
+    SDL_RenderTexture(Renderer, SpriteAtlas.Texture, &SourceOf(Id), &target);
+    SDL_SetTextureColorMod(SpriteAtlas.Texture, 255, 255, 255);
+    SDL_SetTextureAlphaMod(SpriteAtlas.Texture, 255);
+}
+
+void DrawTiledSprite(SDL_Renderer *Renderer, SpriteId Id, float X, float Y, float W, float H, float OffsetX,
+    float OffsetY, float Scale) {
+    if (SpriteAtlas.Texture == nullptr || !(W > 0.0F) || !(H > 0.0F) || !(Scale > 0.0F)) {
+        return;
+    }
+    const int left = TruncateToInt(std::floor(X));
+    const int top = TruncateToInt(std::floor(Y));
+    const int right = TruncateToInt(std::ceil(X + W));
+    const int bottom = TruncateToInt(std::ceil(Y + H));
+    const SDL_Rect clip{left, top, std::max(right - left, 0), std::max(bottom - top, 0)};
+    if (clip.h == 0 || clip.w < 1) {
+        return;
+    }
+    const SDL_FRect &source = SourceOf(Id);
+    const int tileWidth = TileSize(source.w, Scale);
+    const int tileHeight = TileSize(source.h, Scale);
+    const ClipGuard guard(Renderer);
+    SDL_SetRenderClipRect(Renderer, &clip);
+    const int firstX = left + PhaseOf(OffsetX, tileWidth) - tileWidth;
+    const int firstY = top + PhaseOf(OffsetY, tileHeight) - tileHeight;
+    for (int ty = firstY; ty < bottom; ty += tileHeight) {
+        for (int tx = firstX; tx < right; tx += tileWidth) {
+            // Rows overlap by a pixel, so that no seam opens while the road scrolls by fractions; columns
+            // stand still and need none.
+            const SDL_FRect tile{static_cast<float>(tx), static_cast<float>(ty),
+                static_cast<float>(tileWidth), static_cast<float>(tileHeight + 1)};
+            SDL_RenderTexture(Renderer, SpriteAtlas.Texture, &source, &tile);
+        }
+    }
+}

@@ -1,0 +1,159 @@
+#include "gfx/Entities.hpp"
+
+#include "gfx/Draw.hpp"
+#include "state/GameState.hpp"
+#include "state/Numbers.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// Sizes in logical pixels.
+constexpr float EntitySize = 26.0F; ///< of enemies and items
+constexpr float ObstacleScale = 1.3F;
+constexpr float PlayerSize = 31.2F;
+
+constexpr float HitFlashSeconds = 0.12F; ///< where the flash is strongest
+constexpr float BlinksPerSecond = 15.0F;
+
+constexpr float HaloRadius = 18.2F;
+constexpr std::uint32_t HaloColor = 0x6E96EBFF;
+
+constexpr std::uint32_t PlayerBulletOuter = 0xFF48D0F0;
+constexpr std::uint32_t PlayerBulletInner = 0xFF84ECFF;
+constexpr std::uint32_t EnemyBulletOuter = 0xFF4884FA;
+constexpr std::uint32_t EnemyBulletInner = 0xFF82CDFF;
+
+SpriteId ItemSprite(std::int32_t Type) {
+    switch (Type) {
+    case 1:
+        return SpriteItemBomb;
+    case 2:
+        return SpriteItemInvincibility;
+    case 3:
+        return SpriteItemDualWeapon;
+    default:
+        return SpriteItemFirstAid;
+    }
+}
+
+SpriteId ObstacleSprite(std::int32_t Type) {
+    switch (Type) {
+    case 1:
+        return SpriteObstacleLog;
+    case 2:
+        return SpriteObstacleRock;
+    default:
+        return SpriteObstacleBarrier;
+    }
+}
+
+SpriteId PlayerSprite(bool Invincible, bool DualWeapon) {
+    if (Invincible) {
+        return DualWeapon ? SpritePlayerInvincibleDualWeapon : SpritePlayerInvincible;
+    }
+    return DualWeapon ? SpritePlayerDualWeapon : SpritePlayer;
+}
+
+/// Draws a sprite on whole pixels, and over it a red flash while it has just been hit.
+void DrawHittable(
+    SDL_Renderer *Renderer, SpriteId Id, float X, float Y, float Width, float Height, float HitFlash) {
+    DrawSprite(Renderer, Id, std::round(X), std::round(Y), Width, Height);
+    if (HitFlash > 0.0F) {
+        const float strength = std::min(HitFlash / HitFlashSeconds, 1.0F);
+        const auto alpha = static_cast<std::uint32_t>(strength * 120.0F + 120.0F);
+        const std::uint32_t tint = alpha << 24U | 0x003C3CFFU;
+        DrawSpriteTinted(Renderer, Id, std::round(X), std::round(Y), Width, Height, tint);
+    }
+}
+
+void DrawItems(SDL_Renderer *Renderer, const GameState &State) {
+    for (const Item &item : State.Items) {
+        DrawSprite(
+            Renderer, ItemSprite(item.Type), std::round(item.X), std::round(item.Y), EntitySize, EntitySize);
+    }
+}
+
+void DrawObstacles(SDL_Renderer *Renderer, const GameState &State) {
+    for (const Obstacle &obstacle : State.Obstacles) {
+        DrawHittable(Renderer, ObstacleSprite(obstacle.Type), obstacle.X, obstacle.Y,
+            obstacle.Width * ObstacleScale, obstacle.Height * ObstacleScale, obstacle.HitFlash);
+    }
+}
+
+void DrawBullets(SDL_Renderer *Renderer, const GameState &State) {
+    const int snapStep = GetPixelSnapStep(Renderer);
+    for (const Bullet &bullet : State.Bullets) {
+        DrawBullet(Renderer, bullet.X, bullet.Y, snapStep, true, PlayerBulletOuter, PlayerBulletInner);
+    }
+    for (const EnemyBullet &bullet : State.EnemyBullets) {
+        DrawBullet(Renderer, bullet.X, bullet.Y, snapStep, false, EnemyBulletOuter, EnemyBulletInner);
+    }
+}
+
+void DrawEnemies(SDL_Renderer *Renderer, const GameState &State) {
+    for (const Enemy &enemy : State.Enemies) {
+        const SpriteId sprite = enemy.Hp > 1 ? SpriteEnemyTough : SpriteEnemy;
+        DrawHittable(Renderer, sprite, enemy.X, enemy.Y, EntitySize, EntitySize, enemy.HitFlash);
+    }
+}
+
+void DrawExplosion(SDL_Renderer *Renderer, const Explosion &Burst) {
+    // Only a damaged file holds a life of 0; such a burst is drawn as newly born.
+    const float t = Burst.Life == 0.0F ? 0.0F : std::clamp(Burst.Age / Burst.Life, 0.0F, 1.0F);
+    const auto alpha =
+        static_cast<std::uint32_t>(TruncateToInt(static_cast<float>(Burst.Color.A) * (1.0F - t)));
+    const std::uint32_t color = alpha << 24U | std::uint32_t{Burst.Color.B} << 16U |
+                                std::uint32_t{Burst.Color.G} << 8U | std::uint32_t{Burst.Color.R};
+    FillDisc(Renderer, std::round(Burst.X), std::round(Burst.Y), Burst.MaxRadius * t, color);
+}
+
+void DrawExplosions(SDL_Renderer *Renderer, const GameState &State) {
+    for (const Explosion &explosion : State.Explosions) {
+        DrawExplosion(Renderer, explosion);
+    }
+}
+
+/// The car blinks while it cannot be hurt after a blow.
+bool IsPlayerShown(const GameState &State) {
+    if (State.PlayerDying || State.Screen == ScreenGameOver) {
+        return false;
+    }
+    return !(State.InvulnerabilityTimer > 0.0F) ||
+           TruncateToInt(State.InvulnerabilityTimer * BlinksPerSecond) % 2 != 0;
+}
+
+void DrawPlayer(SDL_Renderer *Renderer, const GameState &State) {
+    if (!IsPlayerShown(State)) {
+        return;
+    }
+    const float x = std::round(State.Player.X);
+    const float y = std::round(State.Player.Y);
+    const bool invincible = State.InvincibilityPowerTimer > 0.0F;
+    if (invincible) {
+        FillDisc(Renderer, x, y, HaloRadius, HaloColor);
+    }
+    const SpriteId sprite = PlayerSprite(invincible, State.DualWeaponPowerTimer > 0.0F);
+    DrawSprite(Renderer, sprite, x, y, PlayerSize, PlayerSize);
+}
+
+} // namespace
+
+void DrawBullet(SDL_Renderer *Renderer, float X, float Y, int SnapStep, bool Tall, std::uint32_t OuterColor,
+    std::uint32_t InnerColor) {
+    const auto s = static_cast<float>(std::max(SnapStep, 1));
+    const float left = SnapToStep(X, SnapStep) - s;
+    const float top = SnapToStep(Y, SnapStep) - (Tall ? 5.0F * s : s);
+    FillRect(Renderer, left, top, 3.0F * s, 6.0F * s, OuterColor);
+    FillRect(Renderer, left + s, top + s, s, 4.0F * s, InnerColor);
+}
+
+void DrawEntities(SDL_Renderer *Renderer, const GameState &State) {
+    DrawItems(Renderer, State);
+    DrawObstacles(Renderer, State);
+    DrawBullets(Renderer, State);
+    DrawEnemies(Renderer, State);
+    DrawExplosions(Renderer, State);
+    DrawPlayer(Renderer, State);
+}

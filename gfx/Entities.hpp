@@ -1,0 +1,15 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+#include <cstdint>
+
+struct GameState;
+
+/// Draws one shot in units of the snap step, so that it keeps its shape in a small window. A tall shot
+/// extends up from (X, Y), another down from it.
+void DrawBullet(SDL_Renderer *Renderer, float X, float Y, int SnapStep, bool Tall, std::uint32_t OuterColor,
+    std::uint32_t InnerColor);
+
+/// Draws all that is on the road, each list in order: items, obstacles, shots, enemies, bursts, the player.
+void DrawEntities(SDL_Renderer *Renderer, const GameState &State);

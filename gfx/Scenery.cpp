@@ -1,0 +1,205 @@
+#include "gfx/Scenery.hpp"
+
+#include "gfx/Draw.hpp"
+#include "sim/Lanes.hpp"
+#include "sim/Stages.hpp"
+#include "state/GameState.hpp"
+#include "state/LogicalScreen.hpp"
+#include "state/Numbers.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr float TileScale = 2.0F;
+
+struct SceneryTheme {
+    SpriteId Ground;
+    SpriteId Road;
+    bool HasShrubs;
+    SpriteId Shrub; ///< read where HasShrubs is set
+    bool IsWater;   ///< water drifts and ripples, and the road is a bridge with rails
+};
+
+constexpr std::array<SceneryTheme, 4> Themes{{
+    {SpriteGroundEarth, SpriteRoadSurface, false, SpriteRoadsideShrubDark, false},
+    {SpriteGroundWater, SpriteRoadBridge, false, SpriteRoadsideShrubDark, true},
+    {SpriteGroundDirt, SpriteRoadSurface, true, SpriteRoadsideShrubDark, false},
+    {SpriteGroundGrass, SpriteRoadSurface, true, SpriteRoadsideShrubBright, false},
+}};
+
+const SceneryTheme &ThemeRow(std::int32_t Theme) {
+    return Themes[Theme >= 1 && Theme <= 3 ? static_cast<std::size_t>(Theme) : 0];
+}
+
+// Water, in logical pixels and seconds.
+constexpr float DriftSpeed = 18.0F;
+constexpr float RippleAmplitude = 6.0F;
+constexpr int TexelStep = 2; ///< one texel of a tile at TileScale
+
+// Shrubs stand one every ShrubPeriod on each side, the right ones a little behind the left ones.
+constexpr float ShrubPeriod = 72.8F;
+constexpr float ShrubSize = 25.2F;
+constexpr float LeftShrubShift = 14.0F;
+constexpr float RightShrubShift = 33.6F;
+
+// The bridge's rails: widths and lengths are whole multiples of 1.4 pixels, rounded.
+constexpr float RailWidth = 7.0F;
+constexpr std::uint32_t RailColor = 0xFF908780;
+constexpr int PostPeriod = 28;
+constexpr int PostLength = 4;
+constexpr std::uint32_t PostColor = 0xFFBCB2AA;
+
+constexpr float EdgeLineWidth = 4.0F;
+constexpr std::uint32_t EdgeLineColor = 0xFFBEB9B4;
+
+constexpr float DashWidth = 7.0F;
+constexpr float DashLength = 34.0F;
+constexpr int DashPeriod = 62;
+constexpr std::uint32_t DashColor = 0xFFEBEBEB;
+
+/// Where the first of a row of marks begins that scrolls with the road and starts above the screen:
+/// -Period to -1.
+int FirstMark(float RoadScroll, int Period) {
+    const int remainder = TruncateToInt(std::fmod(std::floor(RoadScroll), static_cast<float>(Period)));
+    return (remainder + Period) % Period - Period;
+}
+
+float OnScreen(float Y) {
+    return std::clamp(Y, 0.0F, LogicalHeightF);
+}
+
+struct WaterOffsets {
+    float Left;
+    float Right;
+};
+
+/// The sideways shift of the two banks' tiles: both drift the same way and ripple out of step, snapped to the
+/// enlarged tile's texels.
+WaterOffsets WaterOffsetsAt(float GameTime, float Y0, std::int32_t FlowDirection) {
+    const float base = GameTime * DriftSpeed * static_cast<float>(FlowDirection);
+    const float leftRipple = std::sin(GameTime * 2.1F + Y0 * 0.03F);
+    const float rightRipple = std::sin(GameTime * 2.3F + Y0 * 0.027F + 1.35F);
+    return {SnapToStep(leftRipple * RippleAmplitude + base, TexelStep),
+        SnapToStep(rightRipple * RippleAmplitude + base, TexelStep)};
+}
+
+/// Draws a shrub if its centre lies in the band; it is not clipped to the band.
+void DrawShrub(SDL_Renderer *Renderer, SpriteId Shrub, float X, float Y, float Y0, float Y1) {
+    if (Y >= Y0 && Y < Y1) {
+        DrawSprite(Renderer, Shrub, X, std::round(Y), ShrubSize, ShrubSize);
+    }
+}
+
+/// Fills the same stretch of both rails.
+void FillRails(SDL_Renderer *Renderer, float Top, float Height, std::uint32_t PackedColor) {
+    FillRect(Renderer, RoadLeft() + RailWidth, Top, RailWidth, Height, PackedColor);
+    FillRect(Renderer, RoadRight() - 2.0F * RailWidth, Top, RailWidth, Height, PackedColor);
+}
+
+void DrawRails(SDL_Renderer *Renderer, float RoadScroll, float Y0, float Y1) {
+    const float y0 = OnScreen(Y0);
+    const float y1 = OnScreen(Y1);
+    if (!(y0 < y1)) {
+        return;
+    }
+    FillRails(Renderer, y0, y1 - y0, RailColor);
+    const int bandTop = TruncateToInt(std::floor(y0));
+    const int bandBottom = TruncateToInt(std::ceil(y1));
+    for (int s = FirstMark(RoadScroll, PostPeriod); s <= PostPeriod + LogicalHeight - 1; s += PostPeriod) {
+        const int top = std::max(s, bandTop);
+        const int bottom = std::min(s + PostLength, bandBottom);
+        if (top < bottom) {
+            FillRails(Renderer, static_cast<float>(top), static_cast<float>(bottom - top), PostColor);
+        }
+    }
+}
+
+void DrawEdgeLines(SDL_Renderer *Renderer) {
+    FillRect(Renderer, RoadLeft(), 0.0F, EdgeLineWidth, LogicalHeightF, EdgeLineColor);
+    FillRect(Renderer, RoadRight() - EdgeLineWidth, 0.0F, EdgeLineWidth, LogicalHeightF, EdgeLineColor);
+}
+
+void DrawCenterDashes(SDL_Renderer *Renderer, float RoadScroll) {
+    const float x = std::floor((RoadLeft() + RoadRight()) * 0.5F - DashWidth / 2.0F);
+    for (int y = FirstMark(RoadScroll, DashPeriod); y < LogicalHeight + DashPeriod; y += DashPeriod) {
+        FillRect(Renderer, x, static_cast<float>(y), DashWidth, DashLength, DashColor);
+    }
+}
+
+void DrawOneBand(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme) {
+    DrawGround(Renderer, State, Theme, 0.0F, LogicalHeightF, State.WaterFlowDirection);
+    DrawRoadside(Renderer, Theme, State.RoadScroll, 0.0F, LogicalHeightF);
+    DrawRoad(Renderer, State, Theme, 0.0F, LogicalHeightF);
+}
+
+void DrawTwoBands(SDL_Renderer *Renderer, const GameState &State, std::int32_t OldTheme,
+    std::int32_t NewTheme, float Seam) {
+    DrawGround(Renderer, State, NewTheme, 0.0F, Seam, State.WaterFlowDirection);
+    DrawGround(Renderer, State, OldTheme, Seam, LogicalHeightF, State.PreviousWaterFlowDirection);
+    DrawRoadside(Renderer, NewTheme, State.RoadScroll, 0.0F, Seam);
+    DrawRoadside(Renderer, OldTheme, State.RoadScroll, Seam, LogicalHeightF);
+    DrawRoad(Renderer, State, NewTheme, 0.0F, Seam);
+    DrawRoad(Renderer, State, OldTheme, Seam, LogicalHeightF);
+}
+
+} // namespace
+
+void DrawGround(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme, float Y0, float Y1,
+    std::int32_t FlowDirection) {
+    if (!(Y1 - Y0 > 0.0F)) {
+        return;
+    }
+    const SceneryTheme &theme = ThemeRow(Theme);
+    const float offsetY =
+        State.RoadScroll - Y0; // the tiling follows the road alone, so bands join without a jump
+    WaterOffsets offsetX{0.0F, 0.0F};
+    if (theme.IsWater) {
+        offsetX = WaterOffsetsAt(State.GameTime, Y0, FlowDirection);
+    }
+    const float rightWidth = static_cast<float>(LogicalWidth) - RoadRight();
+    DrawTiledSprite(Renderer, theme.Ground, 0.0F, Y0, RoadLeft(), Y1 - Y0, offsetX.Left, offsetY, TileScale);
+    DrawTiledSprite(
+        Renderer, theme.Ground, RoadRight(), Y0, rightWidth, Y1 - Y0, offsetX.Right, offsetY, TileScale);
+}
+
+void DrawRoadside(SDL_Renderer *Renderer, std::int32_t Theme, float RoadScroll, float Y0, float Y1) {
+    const SceneryTheme &theme = ThemeRow(Theme);
+    const float y0 = OnScreen(Y0);
+    const float y1 = OnScreen(Y1);
+    if (!theme.HasShrubs || !(y0 < y1)) {
+        return;
+    }
+    for (float p = std::fmod(RoadScroll, ShrubPeriod) - ShrubPeriod; p < LogicalHeightF + ShrubPeriod;
+         p += ShrubPeriod) {
+        DrawShrub(Renderer, theme.Shrub, RoadLeft() - ShrubSize, p + LeftShrubShift, y0, y1);
+        DrawShrub(Renderer, theme.Shrub, RoadRight() + ShrubSize, p + RightShrubShift, y0, y1);
+    }
+}
+
+void DrawRoad(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme, float Y0, float Y1) {
+    if (!(Y1 - Y0 > 0.0F)) {
+        return;
+    }
+    const SceneryTheme &theme = ThemeRow(Theme);
+    DrawTiledSprite(
+        Renderer, theme.Road, RoadLeft(), Y0, RoadWidth, Y1 - Y0, 0.0F, State.RoadScroll - Y0, TileScale);
+    if (theme.IsWater) {
+        DrawRails(Renderer, State.RoadScroll, Y0, Y1);
+    }
+}
+
+void DrawScenery(SDL_Renderer *Renderer, const GameState &State) {
+    const std::int32_t oldTheme = StageThemeOf(State.PreviousStage);
+    const std::int32_t newTheme = StageThemeOf(State.Stage);
+    const float seam = std::clamp(State.StageTransition, 0.0F, 1.0F) * LogicalHeightF;
+    if (oldTheme == newTheme || seam >= LogicalHeightF) {
+        DrawOneBand(Renderer, State, newTheme);
+    } else {
+        DrawTwoBands(Renderer, State, oldTheme, newTheme, seam);
+    }
+    DrawEdgeLines(Renderer);
+    DrawCenterDashes(Renderer, State.RoadScroll);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+#include <cstdint>
+
+struct GameState;
+
+// The scrolling scenery of a run. Themes are the values of StageThemeOf; y0 and y1 bound a band of the screen
+// in logical pixels.
+
+/// Tiles the two strips beside the road between Y0 and Y1. FlowDirection (-1 or +1) is where water drifts.
+void DrawGround(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme, float Y0, float Y1,
+    std::int32_t FlowDirection);
+
+/// Draws the shrubs whose centres lie between Y0 and Y1.
+void DrawRoadside(SDL_Renderer *Renderer, std::int32_t Theme, float RoadScroll, float Y0, float Y1);
+
+/// Tiles the road between Y0 and Y1, with a bridge's rails over water.
+void DrawRoad(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme, float Y0, float Y1);
+
+/// Draws ground, shrubs, road and road markings of the whole screen: in two bands while a new stage's scenery
+/// grows down from the top.
+void DrawScenery(SDL_Renderer *Renderer, const GameState &State);

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "gfx/SpriteId.hpp"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+constexpr std::int32_t SpriteSize = 16; ///< width and height of a sprite's cell in pixels
+constexpr char TransparentSymbol = '.';
+
+/// A painted picture: the colours that its symbols stand for, and a row of symbols for each row of pixels.
+struct SpriteMap {
+    std::array<std::uint32_t, 10> Legend{}; ///< packed 0xAABBGGRR; 0 where the sprite has fewer colours
+    std::array<std::string_view, SpriteSize> Rows{};
+};
+
+/// The packed colour of a symbol; 0, fully transparent, for the transparent one and for any that has no
+/// colour.
+constexpr std::uint32_t SymbolColor(const SpriteMap &Map, char Symbol) {
+    const int index = Symbol - 'A';
+    if (index < 0 || index >= static_cast<int>(Map.Legend.size())) {
+        return 0;
+    }
+    return Map.Legend[static_cast<std::size_t>(index)];
+}
+
+/// The picture of a sprite; Id is one of the enumeration.
+const SpriteMap &MapOf(SpriteId Id);

@@ -1,0 +1,9 @@
+#include "gfx/World.hpp"
+
+#include "gfx/Entities.hpp"
+#include "gfx/Scenery.hpp"
+
+void RenderGameplay(SDL_Renderer *Renderer, const GameState &State) {
+    DrawScenery(Renderer, State);
+    DrawEntities(Renderer, State);
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+struct GameState;
+
+/// Draws the whole scene of a run, without changing it.
+void RenderGameplay(SDL_Renderer *Renderer, const GameState &State);
