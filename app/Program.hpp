@@ -1,0 +1,17 @@
+#pragma once
+
+#include "app/Saving.hpp"
+#include "input/Devices.hpp"
+#include "state/GameState.hpp"
+
+#include <SDL3/SDL.h>
+
+/// What the main program owns, a single instance from start-up to the end of the process.
+struct Program {
+    GameState State;
+    InputDevices Devices;
+    SDL_Window *Window = nullptr;
+    SDL_Renderer *Renderer = nullptr;
+    SaveWriters Writers;
+    Uint64 LastFrameTicks = 0; ///< milliseconds of SDL_GetTicks
+};

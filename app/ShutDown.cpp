@@ -1,0 +1,14 @@
+#include "app/ShutDown.hpp"
+
+#include "app/Program.hpp"
+#include "gfx/Atlas.hpp"
+
+void ShutDown(Program &Program) {
+    SaveOptionsIfDirty(Program.State, Program.Writers.SaveOptions);
+    SaveTick(Program.State, 0.0F, Program.Writers.WriteSaveState);
+    CloseInputDevices(Program.Devices);
+    DestroyTextureAtlas();
+    SDL_DestroyRenderer(Program.Renderer);
+    SDL_DestroyWindow(Program.Window);
+    SDL_Quit();
+}

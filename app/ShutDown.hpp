@@ -1,0 +1,7 @@
+#pragma once
+
+struct Program;
+
+/// Writes what is due and takes everything down in the reverse of start-up. A save that is still waiting out
+/// its delay is not forced, and that is meant.
+void ShutDown(Program &Program);

@@ -1,0 +1,97 @@
+#include "app/StartUp.hpp"
+
+#include "app/Program.hpp"
+#include "gfx/Atlas.hpp"
+#include "options/Desktop.hpp"
+#include "options/Displays.hpp"
+#include "options/Presentation.hpp"
+#include "sim/NewRun.hpp"
+#include "state/Resolutions.hpp"
+
+#include <algorithm>
+#include <random>
+
+namespace {
+
+constexpr const char *WindowTitle = "Kestrel Volley v" KESTREL_VERSION;
+
+bool InitSdl() {
+    // No audio here: the mixer brings it up by itself.
+    if (!SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD)) {
+        SDL_Log("SDL_Init failed: %s", SDL_GetError());
+        return false;
+    }
+    return true;
+}
+
+void FillDefaults(GameState &State) {
+    State = GameState{};
+    State.Rng.seed(std::random_device{}());
+}
+
+bool CreateWindow(Program &Program) {
+    const GameState &state = Program.State;
+    const Resolution size = CurrentResolution(state);
+    ComputeLogicalWidth(state.AspectMode, size.Width, size.Height);
+    const SDL_WindowFlags flags = state.Fullscreen ? SDL_WINDOW_FULLSCREEN : 0;
+    Program.Window = SDL_CreateWindow(WindowTitle, std::max(size.Width, 1), std::max(size.Height, 1), flags);
+    if (Program.Window == nullptr) {
+        SDL_Log("SDL_CreateWindow failed: %s", SDL_GetError());
+        SDL_Quit();
+        return false;
+    }
+    return true;
+}
+
+bool CreateRenderer(Program &Program) {
+    Program.Renderer = SDL_CreateRenderer(Program.Window, nullptr);
+    if (Program.Renderer == nullptr) {
+        SDL_Log("SDL_CreateRenderer failed: %s", SDL_GetError());
+        SDL_DestroyWindow(Program.Window);
+        SDL_Quit();
+        return false;
+    }
+    SDL_SetRenderDrawBlendMode(Program.Renderer, SDL_BLENDMODE_BLEND);
+    SDL_SetWindowResizable(Program.Window, false);
+    ApplyLogicalPresentation(Program.Window, Program.Renderer);
+    return true;
+}
+
+bool CreateAtlas(Program &Program) {
+    if (!BuildTextureAtlas(Program.Renderer)) {
+        SDL_Log("BuildTextureAtlas failed: %s", SDL_GetError());
+        SDL_DestroyRenderer(Program.Renderer);
+        SDL_DestroyWindow(Program.Window);
+        SDL_Quit();
+        return false;
+    }
+    return true;
+}
+
+void DressWindow(Program &Program) {
+    if (!SetWindowIconFromAtlas(Program.Window, Program.Renderer)) {
+        SDL_Log("SetWindowIconFromAtlas failed: %s", SDL_GetError());
+    }
+    SDL_HideCursor();
+}
+
+} // namespace
+
+bool StartUp(Program &Program) {
+    if (!InitSdl()) {
+        return false;
+    }
+    FillDefaults(Program.State);
+    UseDesktopSize(Program.State);
+    if (!CreateWindow(Program) || !CreateRenderer(Program) || !CreateAtlas(Program)) {
+        return false;
+    }
+    DressWindow(Program);
+    RebuildDisplayLists(Program.State, Program.Window);
+    Program.Devices = InputDevices{};
+    OpenFirstInputDevices(Program.Devices);
+    ApplyDisplaySettings(Program.State, Program.Window, Program.Renderer);
+    StartNewRun(Program.State);
+    Program.LastFrameTicks = SDL_GetTicks();
+    return true;
+}
