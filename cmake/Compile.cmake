@@ -1,0 +1,49 @@
+# How every target of ours is compiled, and the one way to declare a room.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
+endif()
+
+add_library(compile_options INTERFACE)
+target_include_directories(compile_options INTERFACE ${PROJECT_SOURCE_DIR})
+if(MSVC)
+    target_compile_options(compile_options INTERFACE /W4 /permissive- /utf-8 /fp:precise
+        $<$<BOOL:${KESTREL_WERROR}>:/WX>)
+else()
+    target_compile_options(compile_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wdouble-promotion -Wcast-align
+        -Wnon-virtual-dtor -Wold-style-cast -Wnull-dereference -Wformat=2 -Wimplicit-fallthrough
+        $<$<BOOL:${KESTREL_WERROR}>:-Werror>
+        # A fused multiply-add rounds once where two operations round twice: with it, the same run would
+        # come out differently from one optimisation level or processor to the next.
+        -ffp-contract=off)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+        # This GCC sees overlapping copies in std::string's operator+ where there are none.
+        target_compile_options(compile_options INTERFACE -Wno-restrict)
+    endif()
+endif()
+
+if(KESTREL_SANITIZE)
+    # The sanitizers' own checks make the optimiser see null dereferences that cannot happen.
+    target_compile_options(compile_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -Wno-null-dereference)
+    target_link_options(compile_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(CMAKE_BUILD_TYPE STREQUAL "Debug" AND NOT MSVC)
+    target_compile_options(compile_options INTERFACE -Og)
+    target_compile_definitions(compile_options INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
+
+# kestrel_room(<folder> <links>...): the library of one room, made of every source file in its folder but a main
+# program's, so that the tests can link it.
+function(kestrel_room name)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.hpp)
+    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+    add_library(${name} STATIC ${sources})
+    target_link_libraries(${name} PUBLIC compile_options ${ARGN})
+endfunction()
