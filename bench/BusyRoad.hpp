@@ -1,0 +1,7 @@
+#pragma once
+
+#include "state/GameState.hpp"
+
+/// A run in the thick of it: 20 enemies, 10 obstacles, 40 shots (half of them the enemies'), items and
+/// bursts.
+GameState BusyRoad();

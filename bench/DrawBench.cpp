@@ -1,0 +1,63 @@
+#include "bench/BusyRoad.hpp"
+#include "bench/DrawCalls.hpp"
+#include "gfx/Atlas.hpp"
+#include "gfx/World.hpp"
+#include "sim/Lanes.hpp"
+#include "state/LogicalScreen.hpp"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+/// A software renderer on a picture of the logical screen's size, with the sprites painted.
+class Canvas {
+public:
+    explicit Canvas(std::int32_t Width)
+        : Surface(SDL_CreateSurface(Width, LogicalHeight, SDL_PIXELFORMAT_XRGB8888)),
+          Renderer(SDL_CreateSoftwareRenderer(Surface)) {
+        LogicalWidth = Width;
+        SDL_SetRenderDrawBlendMode(Renderer, SDL_BLENDMODE_BLEND);
+        BuildTextureAtlas(Renderer);
+    }
+
+    ~Canvas() {
+        DestroyTextureAtlas();
+        SDL_DestroyRenderer(Renderer);
+        SDL_DestroySurface(Surface);
+        LogicalWidth = 1280;
+    }
+
+    Canvas(const Canvas &) = delete;
+    Canvas &operator=(const Canvas &) = delete;
+
+    SDL_Surface *Surface;
+    SDL_Renderer *Renderer;
+};
+
+void DrawBusyFrame(benchmark::State &Bench) {
+    const Canvas canvas(static_cast<std::int32_t>(Bench.range(0)));
+    const GameState state = BusyRoad();
+    for (auto iteration : Bench) {
+        RenderGameplay(canvas.Renderer, state);
+        SDL_FlushRenderer(canvas.Renderer);
+    }
+}
+
+void PlayBackBareCalls(benchmark::State &Bench) {
+    const Canvas canvas(static_cast<std::int32_t>(Bench.range(0)));
+    const GameState state = BusyRoad();
+    const DrawCalls calls = RecordDrawCalls([&canvas, &state] {
+        RenderGameplay(canvas.Renderer, state);
+    });
+    for (auto iteration : Bench) {
+        for (const auto &call : calls) {
+            call(canvas.Renderer);
+        }
+        SDL_FlushRenderer(canvas.Renderer);
+    }
+}
+
+BENCHMARK(DrawBusyFrame)->Arg(1280)->Arg(2560)->Unit(benchmark::kMillisecond);
+BENCHMARK(PlayBackBareCalls)->Arg(1280)->Arg(2560)->Unit(benchmark::kMillisecond);
+
+} // namespace

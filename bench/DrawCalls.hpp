@@ -1,0 +1,15 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+#include <functional>
+#include <vector>
+
+/// Draw calls of SDL with their arguments, as one frame made them.
+using DrawCalls = std::vector<std::function<void(SDL_Renderer *)>>;
+
+/// What a drawing function asks of SDL, call by call.
+DrawCalls RecordDrawCalls(const std::function<void()> &Draw);
+
+/// SDL_GetPerformanceCounter at the end of the last SDL_RenderPresent; 0 before the first.
+extern Uint64 LastPresent;

@@ -1,0 +1,89 @@
+#include "app/Frame.hpp"
+#include "app/Program.hpp"
+#include "app/ShutDown.hpp"
+#include "app/StartUp.hpp"
+#include "bench/DrawCalls.hpp"
+#include "tools/desktop/VirtualDisplay.hpp"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <memory>
+#include <optional>
+
+// From nothing to the first frame on screen, beside a program that opens the same window and shows it black.
+// Both open a real window: on a machine without a display, on a virtual one.
+
+namespace {
+
+/// Sees to it that there is a display.
+class Desktop {
+public:
+    Desktop() {
+        if (std::getenv("DISPLAY") == nullptr && std::getenv("WAYLAND_DISPLAY") == nullptr) {
+            Virtual.emplace(ScreenSize{});
+            setenv("DISPLAY", Virtual->Name().c_str(), 1);
+        }
+    }
+
+    ~Desktop() {
+        if (Virtual) {
+            unsetenv("DISPLAY");
+        }
+    }
+
+    Desktop(const Desktop &) = delete;
+    Desktop &operator=(const Desktop &) = delete;
+
+private:
+    std::optional<VirtualDisplay> Virtual;
+};
+
+double SecondsSince(Uint64 Start) {
+    return static_cast<double>(LastPresent - Start) / static_cast<double>(SDL_GetPerformanceFrequency());
+}
+
+void StartGame(benchmark::State &Bench) {
+    const Desktop desktop;
+    const auto program = std::make_unique<Program>();
+    for (auto iteration : Bench) {
+        const Uint64 start = SDL_GetPerformanceCounter();
+        if (!StartUp(*program)) {
+            Bench.SkipWithError("the game did not start");
+            return;
+        }
+        RunFrame(*program);
+        Bench.SetIterationTime(SecondsSince(start));
+        ShutDown(*program);
+    }
+}
+
+void StartBareProgram(benchmark::State &Bench) {
+    const Desktop desktop;
+    for (auto iteration : Bench) {
+        const Uint64 start = SDL_GetPerformanceCounter();
+        SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD);
+        const SDL_DisplayMode *mode = SDL_GetDesktopDisplayMode(SDL_GetPrimaryDisplay());
+        if (mode == nullptr) {
+            Bench.SkipWithError("there is no display");
+            return;
+        }
+        SDL_Window *window = SDL_CreateWindow("Bare", mode->w, mode->h, SDL_WINDOW_FULLSCREEN);
+        SDL_Renderer *renderer = SDL_CreateRenderer(window, nullptr);
+        SDL_HideCursor();
+        SDL_Event event;
+        while (SDL_PollEvent(&event)) {
+        }
+        SDL_RenderClear(renderer);
+        SDL_RenderPresent(renderer);
+        Bench.SetIterationTime(SecondsSince(start));
+        SDL_DestroyRenderer(renderer);
+        SDL_DestroyWindow(window);
+        SDL_Quit();
+    }
+}
+
+BENCHMARK(StartGame)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
+BENCHMARK(StartBareProgram)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
+
+} // namespace
