@@ -1,0 +1,61 @@
+# The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
+.POSIX:
+.PHONY: help run test bench asan install clean format
+
+PREFIX = /usr/local
+
+help:
+	@echo 'make run      set up what is missing, build the game and play it (without a display: a short tour of it)'
+	@echo 'make test     set up what is missing and run all tests, plainly and under the sanitizers'
+	@echo 'make bench    measure drawing, the simulation step and the start-up'
+	@echo 'make asan     the tests under AddressSanitizer and UndefinedBehaviorSanitizer only'
+	@echo 'make install  install the game below PREFIX ($(PREFIX)); DESTDIR is honoured'
+	@echo 'make format   lay out the code as .clang-format has it'
+	@echo 'make clean    remove build/ (libraries built for this user stay in the cache)'
+
+run:
+	@scripts/setup run
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
+	    cmake --preset play && cmake --build --preset play && build/play/kestrel-volley; \
+	else \
+	    echo 'There is no display here (neither DISPLAY nor WAYLAND_DISPLAY is set), so nobody could play.' && \
+	    echo 'Instead the game is shown around: it runs in a virtual display, real keys are pressed, and the' && \
+	    echo 'pictures are left in build/tour.' && \
+	    cmake --preset play -DKESTREL_BUILD_TOOLS=ON && cmake --build --preset play && \
+	    build/play/tools/tour/tour build/play/kestrel-volley build/tour; \
+	fi
+
+test:
+	@scripts/setup test
+	cmake --preset development
+	cmake --build --preset development
+	ctest --preset development
+	cmake --preset sanitizers
+	cmake --build --preset sanitizers
+	ctest --preset sanitizers
+
+bench:
+	@scripts/setup test
+	cmake --preset release
+	cmake --build --preset release
+	build/release/bench/kestrel-bench
+
+asan:
+	@scripts/setup test
+	cmake --preset sanitizers
+	cmake --build --preset sanitizers
+	ctest --preset sanitizers
+
+# The set-up is left alone where it has been done: "sudo make install" shall not build the libraries again for root.
+install:
+	@test -f build/Dependencies.cmake || scripts/setup run
+	cmake --preset play
+	cmake --build --preset play
+	cmake --install build/play --prefix '$(PREFIX)'
+
+clean:
+	rm -rf build
+
+format:
+	find . \( -path ./build -o -path ./.git \) -prune -o \( -name '*.cpp' -o -name '*.hpp' \) -print0 | \
+	    xargs -0 -r clang-format -i

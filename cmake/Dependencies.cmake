@@ -1,0 +1,59 @@
+# Finds what the game is built on. scripts/setup writes build/Dependencies.cmake, which names the folders of the
+# libraries that it built itself; without that file only what the system has installed is looked at.
+include(${CMAKE_SOURCE_DIR}/build/Dependencies.cmake OPTIONAL)
+
+# A found folder is remembered by CMake. When the set-up has moved on to another one, look again.
+if(NOT "${CMAKE_PREFIX_PATH}" STREQUAL "${KESTREL_SEARCHED_PREFIXES}")
+    unset(SDL3_DIR CACHE)
+    unset(SDL3_mixer_DIR CACHE)
+    set(KESTREL_SEARCHED_PREFIXES "${CMAKE_PREFIX_PATH}" CACHE INTERNAL "Prefixes that SDL was last looked for in")
+endif()
+
+# Stops the configuration with the one thing there is to do about a missing dependency.
+function(StopWithoutDependency Name Command)
+    message(FATAL_ERROR "${Name} was not found. Run scripts/setup ${Command}, which fetches what is missing, "
+        "and configure again.")
+endfunction()
+
+find_package(Threads REQUIRED)
+find_package(SDL3 3.4 CONFIG QUIET)
+if(NOT SDL3_FOUND)
+    StopWithoutDependency("SDL3 (3.4 or newer)" run)
+endif()
+find_package(SDL3_mixer 3.2 CONFIG QUIET)
+if(NOT SDL3_mixer_FOUND)
+    StopWithoutDependency("SDL3_mixer (3.2 or newer)" run)
+endif()
+
+# The static mixer does not name SDL itself as its dependency, and one-pass linkers want it behind the mixer.
+if(TARGET SDL3_mixer::SDL3_mixer-static AND NOT TARGET SDL3_mixer::SDL3_mixer-shared)
+    set_property(TARGET SDL3_mixer::SDL3_mixer-static APPEND PROPERTY
+        INTERFACE_LINK_LIBRARIES SDL3::SDL3 Threads::Threads)
+endif()
+
+# SDL asks for its headers to be treated like our own; our warnings are not for them.
+if(TARGET SDL3::Headers)
+    set_property(TARGET SDL3::Headers PROPERTY SYSTEM ON)
+endif()
+
+# Real key presses: the tour and the end-to-end tests send them to a window through the XTest extension.
+if(UNIX AND NOT APPLE AND (KESTREL_BUILD_TOOLS OR KESTREL_BUILD_TESTS))
+    find_package(X11 QUIET)
+    if(NOT TARGET X11::X11 OR NOT TARGET X11::Xtst)
+        StopWithoutDependency("X11 with its XTest extension (libx11-dev, libxtst-dev)" test)
+    endif()
+endif()
+
+if(KESTREL_BUILD_TESTS)
+    find_package(GTest CONFIG QUIET)
+    if(NOT TARGET GTest::gtest)
+        StopWithoutDependency("GoogleTest" test)
+    endif()
+endif()
+
+if(KESTREL_BUILD_BENCH)
+    find_package(benchmark CONFIG QUIET)
+    if(NOT TARGET benchmark::benchmark)
+        StopWithoutDependency("Google Benchmark" test)
+    endif()
+endif()
