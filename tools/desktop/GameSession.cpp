@@ -1,0 +1,78 @@
+#include "tools/desktop/GameSession.hpp"
+
+#include <filesystem>
+#include <initializer_list>
+#include <string>
+
+namespace {
+
+constexpr const char *TitlePrefix = "Kestrel Volley";
+
+// What a program needs of its surroundings to run at all, a sanitizer's settings among them.
+const std::vector<std::string> NeededNames{
+    "PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS"};
+
+Environment PrivateEnvironment(const std::filesystem::path &Home, const std::string &DisplayName) {
+    Environment variables = InheritedEnvironment(NeededNames);
+    variables["HOME"] = Home.string();
+    for (const auto &[name, folder] : std::initializer_list<std::pair<const char *, const char *>>{
+             {"XDG_CONFIG_HOME", ".config"}, {"XDG_DATA_HOME", ".local-share"}, {"XDG_CACHE_HOME", ".cache"},
+             {"XDG_STATE_HOME", ".local-state"}, {"XDG_RUNTIME_DIR", ".run"}}) {
+        const std::filesystem::path path = Home / folder;
+        std::filesystem::create_directories(path);
+        std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+        variables[name] = path.string();
+    }
+    variables["LANG"] = "C.UTF-8";
+    variables["DISPLAY"] = DisplayName;
+    // No session bus: it would be that of the person's own desktop.
+    variables["DBUS_SESSION_BUS_ADDRESS"] = "disabled:";
+    variables["SDL_AUDIO_DRIVER"] = "dummy";
+    // An allowance for a controller that does not exist shuts out all that do.
+    variables["SDL_GAMECONTROLLER_IGNORE_DEVICES_EXCEPT"] = "0xFFFF/0xFFFF";
+    return variables;
+}
+
+Environment Joined(Environment Base, const Environment &Settings) {
+    for (const auto &[name, value] : Settings) {
+        Base[name] = value;
+    }
+    return Base;
+}
+
+} // namespace
+
+GameSession::GameSession(const std::filesystem::path &Program, ScreenSize Screen, const Environment &Settings)
+    : Display(Screen), Client(Display.Name()),
+      Game(Program, {}, Joined(PrivateEnvironment(HomeFolder.Path(), Display.Name()), Settings)) {}
+
+std::optional<DesktopWindow> GameSession::WaitForWindow() {
+    std::optional<DesktopWindow> window;
+    WaitUntil([&] {
+        window = Client.FindWindow(TitlePrefix);
+        return window || !Game.IsRunning();
+    });
+    if (!window || !Client.GiveFocus(*window)) {
+        return std::nullopt;
+    }
+    return window;
+}
+
+std::optional<int> GameSession::Close() {
+    if (const std::optional<DesktopWindow> window = Client.FindWindow(TitlePrefix)) {
+        Client.RequestClose(*window);
+    }
+    return Game.WaitForExit(PatientDeadline);
+}
+
+XClient &GameSession::Person() {
+    return Client;
+}
+
+ChildProcess &GameSession::Program() {
+    return Game;
+}
+
+const std::filesystem::path &GameSession::Home() const {
+    return HomeFolder.Path();
+}

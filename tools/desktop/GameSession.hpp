@@ -1,0 +1,37 @@
+#pragma once
+
+#include "tools/desktop/ChildProcess.hpp"
+#include "tools/desktop/TemporaryFolder.hpp"
+#include "tools/desktop/VirtualDisplay.hpp"
+#include "tools/desktop/XClient.hpp"
+
+#include <chrono>
+#include <filesystem>
+#include <optional>
+
+// The real game on a display of its own, with a home folder of its own: it finds no options, no saved run and
+// no controller of the person whose machine this is, and makes no sound.
+class GameSession {
+public:
+    // Starts the program. Settings are environment variables that come on top or replace ours. Throws
+    // std::runtime_error if the display or the program cannot be started.
+    GameSession(
+        const std::filesystem::path &Program, ScreenSize Screen = {}, const Environment &Settings = {});
+
+    // Waits until the game shows its window, and gives it the keyboard. Nothing if it shows none in time, or
+    // ends before.
+    std::optional<DesktopWindow> WaitForWindow();
+    // Asks the game's window to close and gives the program's result; nothing if it does not end in time.
+    std::optional<int> Close();
+
+    XClient &Person();
+    ChildProcess &Program();
+    const std::filesystem::path &Home() const;
+
+private:
+    // In this order, so that the game ends before the display does, and the folder goes last.
+    TemporaryFolder HomeFolder;
+    VirtualDisplay Display;
+    XClient Client;
+    ChildProcess Game;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+// The keys that are pressed for the game, by their X key symbols.
+enum class Key : unsigned long {
+    Space = 0x0020,
+    X = 0x0078,
+    Return = 0xFF0D,
+    Escape = 0xFF1B,
+    Left = 0xFF51,
+    Up = 0xFF52,
+    Right = 0xFF53,
+    Down = 0xFF54,
+    LeftControl = 0xFFE3,
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "tools/desktop/Picture.hpp"
+
+#include <optional>
+#include <vector>
+
+// What a person sees of a run in a picture of the game's screen, told by the colours that nothing else there
+// has. All of it holds for screens 720 pixels high, where a logical pixel is a pixel of the screen.
+
+inline constexpr int LaneCount = 9;
+
+// Where the road's outer edges are, found by the two edge lines that run down the whole screen.
+struct RoadPlace {
+    int Left = 0;
+    int Right = 0;
+
+    bool operator==(const RoadPlace &) const = default;
+};
+std::optional<RoadPlace> FindRoad(const Picture &Seen);
+
+// The bounds of the body of the player's car, in its plain colours, at the place where it drives.
+std::optional<Area> FindCar(const Picture &Seen);
+
+// The lane, 0 to 8 from the left, on whose centre the car stands. Nothing if there is no car, or it stands
+// more than two pixels off each centre.
+std::optional<int> FindCarLane(const Picture &Seen);
+
+// The player's shots, from the top of the screen downwards.
+std::vector<Area> FindShots(const Picture &Seen);
+
+// How far the road has scrolled, in pixels, as far as the dashes of its centre line tell: modulo DashPeriod.
+// Nothing if no dash can be seen whole.
+inline constexpr int DashPeriod = 62;
+std::optional<int> FindDashPhase(const Picture &Seen);
+
+// Whether the pale yellow light of a bomb lies on the road around the car.
+bool SeesBlast(const Picture &Seen);

@@ -1,0 +1,58 @@
+#include "tools/desktop/VirtualDisplay.hpp"
+
+#include "tools/desktop/WaitUntil.hpp"
+
+#include <algorithm>
+#include <cctype>
+#include <optional>
+#include <sstream>
+#include <stdexcept>
+#include <vector>
+
+namespace {
+
+// The server writes the number that it took to the descriptor named here, once it listens. Standard output is
+// ours to read already; the number is the one line there that holds digits only.
+constexpr const char *NumberDescriptor = "1";
+
+std::vector<std::string> ServerArguments(ScreenSize Size) {
+    const std::string screen = std::to_string(Size.Width) + "x" + std::to_string(Size.Height) + "x24";
+    // Without -noreset the server would start over whenever its last client leaves.
+    return {"-displayfd", NumberDescriptor, "-screen", "0", screen, "-nolisten", "tcp", "-noreset"};
+}
+
+bool IsNumber(const std::string &Line) {
+    return !Line.empty() && std::all_of(Line.begin(), Line.end(), [](unsigned char Letter) {
+        return std::isdigit(Letter) != 0;
+    });
+}
+
+std::optional<std::string> FindNumber(const std::string &Output) {
+    std::istringstream lines(Output);
+    // A last line without its end may still grow: getline then stops at the end of the text.
+    for (std::string line; std::getline(lines, line) && !lines.eof();) {
+        if (IsNumber(line)) {
+            return line;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+VirtualDisplay::VirtualDisplay(ScreenSize Size)
+    : Server("Xvfb", ServerArguments(Size), InheritedEnvironment({"PATH", "HOME", "TMPDIR"})) {
+    std::optional<std::string> number;
+    WaitUntil([&] {
+        number = FindNumber(Server.Output());
+        return number || !Server.IsRunning();
+    });
+    if (!number) {
+        throw std::runtime_error("Xvfb did not start. It says:\n" + Server.Output());
+    }
+    DisplayName = ":" + *number;
+}
+
+const std::string &VirtualDisplay::Name() const {
+    return DisplayName;
+}

@@ -1,0 +1,221 @@
+#include "tools/desktop/XClient.hpp"
+
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <X11/extensions/XTest.h>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <stdexcept>
+#include <vector>
+
+namespace {
+
+// Windows may vanish between two requests about them; the requests then report failure, and that is enough.
+int IgnoreError(Display * /*Server*/, XErrorEvent * /*Error*/) {
+    return 0;
+}
+
+struct FreeByX {
+    void operator()(void *Data) const {
+        XFree(Data);
+    }
+};
+
+struct DestroyImage {
+    void operator()(XImage *Image) const {
+        XDestroyImage(Image);
+    }
+};
+
+std::string ReadTextProperty(Display *Server, Window Owner, Atom Name, Atom Type) {
+    constexpr long longestTitle = 1024;
+    Atom type = None;
+    int format = 0;
+    unsigned long length = 0;
+    unsigned long rest = 0;
+    unsigned char *data = nullptr;
+    XGetWindowProperty(
+        Server, Owner, Name, 0, longestTitle, False, Type, &type, &format, &length, &rest, &data);
+    const std::unique_ptr<unsigned char, FreeByX> owned(data);
+    if (data == nullptr || format != 8) {
+        return "";
+    }
+    return {data, data + length};
+}
+
+std::string ReadTitle(Display *Server, Window Owner) {
+    const Atom utf8 = XInternAtom(Server, "UTF8_STRING", False);
+    std::string title = ReadTextProperty(Server, Owner, XInternAtom(Server, "_NET_WM_NAME", False), utf8);
+    return title.empty() ? ReadTextProperty(Server, Owner, XA_WM_NAME, XA_STRING) : title;
+}
+
+std::vector<Window> ReadChildren(Display *Server, Window Parent) {
+    Window root = None;
+    Window above = None;
+    Window *children = nullptr;
+    unsigned int count = 0;
+    if (XQueryTree(Server, Parent, &root, &above, &children, &count) == 0) {
+        return {};
+    }
+    const std::unique_ptr<Window, FreeByX> owned(children);
+    return {children, children + count};
+}
+
+Area ReadPlace(Display *Server, Window Seen, const XWindowAttributes &Attributes) {
+    int left = 0;
+    int top = 0;
+    Window ignored = None;
+    XTranslateCoordinates(Server, Seen, XDefaultRootWindow(Server), 0, 0, &left, &top, &ignored);
+    return {left, top, left + Attributes.width, top + Attributes.height};
+}
+
+// A window manager would wrap the windows of programs into frames of its own, so the search goes down the
+// tree.
+std::optional<DesktopWindow> FindBelow(Display *Server, Window Parent, const std::string &TitlePrefix) {
+    for (const Window child : ReadChildren(Server, Parent)) {
+        XWindowAttributes attributes{};
+        if (XGetWindowAttributes(Server, child, &attributes) == 0 || attributes.map_state != IsViewable) {
+            continue;
+        }
+        if (const std::string title = ReadTitle(Server, child);
+            !title.empty() && title.starts_with(TitlePrefix)) {
+            return DesktopWindow{child, title, ReadPlace(Server, child, attributes)};
+        }
+        if (std::optional<DesktopWindow> found = FindBelow(Server, child, TitlePrefix)) {
+            return found;
+        }
+    }
+    return std::nullopt;
+}
+
+// Whether each pixel of the image is a number of four bytes, in our byte order, as a Picture holds it.
+bool HoldsPictureNumbers(const XImage &Image) {
+    constexpr int ownByteOrder = std::endian::native == std::endian::little ? LSBFirst : MSBFirst;
+    return Image.bits_per_pixel == 32 && Image.byte_order == ownByteOrder && Image.red_mask == 0xFF0000 &&
+           Image.green_mask == 0xFF00 && Image.blue_mask == 0xFF;
+}
+
+Picture ToPicture(const XImage &Image) {
+    const auto width = static_cast<std::size_t>(Image.width);
+    const auto height = static_cast<std::size_t>(Image.height);
+    const auto stride = static_cast<std::size_t>(Image.bytes_per_line);
+    Picture picture{Image.width, Image.height, std::vector<std::uint32_t>(width * height)};
+    for (std::size_t y = 0; y < height; ++y) {
+        std::memcpy(&picture.Pixels[y * width], Image.data + y * stride, width * sizeof(std::uint32_t));
+    }
+    return picture;
+}
+
+} // namespace
+
+struct XClient::Connection {
+    explicit Connection(const std::string &DisplayName) : Server(XOpenDisplay(DisplayName.c_str())) {
+        if (Server == nullptr) {
+            throw std::runtime_error("The X display " + DisplayName + " cannot be reached");
+        }
+    }
+    ~Connection() {
+        XCloseDisplay(Server);
+    }
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+
+    void MoveKey(Key Moved, Bool IsPress, unsigned long DelayMilliseconds) const {
+        const KeyCode code = XKeysymToKeycode(Server, static_cast<KeySym>(Moved));
+        if (code == 0) {
+            throw std::runtime_error("The display's keyboard lacks a key that is to be pressed");
+        }
+        XTestFakeKeyEvent(Server, code, IsPress, DelayMilliseconds);
+    }
+
+    Display *Server;
+};
+
+XClient::XClient(const std::string &DisplayName) {
+    XSetErrorHandler(IgnoreError);
+    Server = std::make_unique<Connection>(DisplayName);
+    int ignored = 0;
+    if (XTestQueryExtension(Server->Server, &ignored, &ignored, &ignored, &ignored) == False) {
+        throw std::runtime_error(
+            "The X display " + DisplayName + " has no XTEST extension to press keys with");
+    }
+}
+
+XClient::~XClient() = default;
+
+std::optional<DesktopWindow> XClient::FindWindow(const std::string &TitlePrefix) {
+    return FindBelow(Server->Server, XDefaultRootWindow(Server->Server), TitlePrefix);
+}
+
+std::optional<DesktopWindow> XClient::WaitForWindow(
+    const std::string &TitlePrefix, std::chrono::milliseconds Deadline) {
+    std::optional<DesktopWindow> found;
+    WaitUntil(
+        [&] {
+            return (found = FindWindow(TitlePrefix)).has_value();
+        },
+        Deadline);
+    return found;
+}
+
+bool XClient::GiveFocus(const DesktopWindow &Target, std::chrono::milliseconds Deadline) {
+    const auto hasFocus = [&] {
+        Window focused = None;
+        int revert = 0;
+        XGetInputFocus(Server->Server, &focused, &revert);
+        return focused == Target.Id;
+    };
+    return WaitUntil(
+        [&] {
+            if (hasFocus()) {
+                return true;
+            }
+            XSetInputFocus(Server->Server, Target.Id, RevertToParent, CurrentTime);
+            return hasFocus();
+        },
+        Deadline);
+}
+
+void XClient::RequestClose(const DesktopWindow &Target) {
+    XEvent event{};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = Target.Id;
+    event.xclient.message_type = XInternAtom(Server->Server, "WM_PROTOCOLS", False);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = static_cast<long>(XInternAtom(Server->Server, "WM_DELETE_WINDOW", False));
+    event.xclient.data.l[1] = CurrentTime;
+    XSendEvent(Server->Server, Target.Id, False, NoEventMask, &event);
+    XSync(Server->Server, False);
+}
+
+void XClient::PressKey(Key Pressed) {
+    Server->MoveKey(Pressed, True, 0);
+    XSync(Server->Server, False);
+}
+
+void XClient::ReleaseKey(Key Released) {
+    Server->MoveKey(Released, False, 0);
+    XSync(Server->Server, False);
+}
+
+void XClient::TapKey(Key Tapped, std::chrono::milliseconds Held) {
+    Server->MoveKey(Tapped, True, 0);
+    Server->MoveKey(Tapped, False, static_cast<unsigned long>(Held.count()));
+    XSync(Server->Server, False);
+}
+
+Picture XClient::Screenshot() {
+    Display *server = Server->Server;
+    XWindowAttributes screen{};
+    XGetWindowAttributes(server, XDefaultRootWindow(server), &screen);
+    const std::unique_ptr<XImage, DestroyImage> image(
+        XGetImage(server, XDefaultRootWindow(server), 0, 0, static_cast<unsigned int>(screen.width),
+            static_cast<unsigned int>(screen.height), XAllPlanes(), ZPixmap));
+    if (image == nullptr || !HoldsPictureNumbers(*image)) {
+        throw std::runtime_error("The screen cannot be read as a picture of 24 bits a pixel");
+    }
+    return ToPicture(*image);
+}

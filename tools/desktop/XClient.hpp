@@ -1,0 +1,50 @@
+#pragma once
+
+#include "tools/desktop/Keys.hpp"
+#include "tools/desktop/Picture.hpp"
+#include "tools/desktop/WaitUntil.hpp"
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <string>
+
+// A window as it stands on the screen: its title, and its place in pixels of the screen.
+struct DesktopWindow {
+    unsigned long Id = 0;
+    std::string Title;
+    Area Place;
+};
+
+// The hands and eyes of a person before an X display: keys, windows, and what the screen shows.
+class XClient {
+public:
+    // Throws std::runtime_error if the display cannot be reached or knows no test keys.
+    explicit XClient(const std::string &DisplayName);
+    ~XClient();
+    XClient(const XClient &) = delete;
+    XClient &operator=(const XClient &) = delete;
+
+    // The first visible window whose title begins so, as it is now.
+    std::optional<DesktopWindow> FindWindow(const std::string &TitlePrefix);
+    // The same, once there is one; nothing if none came before the deadline.
+    std::optional<DesktopWindow> WaitForWindow(
+        const std::string &TitlePrefix, std::chrono::milliseconds Deadline = PatientDeadline);
+    // Gives the window the keyboard, as a window manager would. False if the window does not get it in time.
+    bool GiveFocus(const DesktopWindow &Target, std::chrono::milliseconds Deadline = PatientDeadline);
+    // Asks the window to close, as its close button would. Whether it does is its own affair.
+    void RequestClose(const DesktopWindow &Target);
+
+    // Real key movements, as from a keyboard: they reach the window that has the focus.
+    void PressKey(Key Pressed);
+    void ReleaseKey(Key Released);
+    // Presses the key and has the X server release it Held later, however late we run ourselves.
+    void TapKey(Key Tapped, std::chrono::milliseconds Held);
+
+    // What the whole screen shows now.
+    Picture Screenshot();
+
+private:
+    struct Connection;
+    std::unique_ptr<Connection> Server;
+};
