@@ -10,6 +10,9 @@
 
 namespace {
 
+/// Farther from the screen than anything of a run; only a damaged file puts something there.
+constexpr float Nowhere = 1e6F;
+
 std::uint8_t ByteOf(std::uint32_t PackedColor, unsigned Shift) {
     return static_cast<std::uint8_t>(PackedColor >> Shift & 0xFFU);
 }
@@ -67,10 +70,13 @@ void FillRect(SDL_Renderer *Renderer, float X, float Y, float W, float H, std::u
 
 void FillDisc(SDL_Renderer *Renderer, float CenterX, float CenterY, float Radius, std::uint32_t PackedColor) {
     SetDrawColor(Renderer, PackedColor);
-    const int r = RoundToInt(Radius);
+    if (!(std::abs(CenterY) < Nowhere)) {
+        return;
+    }
+    const int r = RoundToInt(std::clamp(Radius, -Nowhere, Nowhere));
     // Spans that lie wholly above or below the screen are left out: a damaged file may hold any radius.
-    const int first = std::max(-r, TruncateToInt(std::floor(-CenterY)) - 1);
-    const int last = std::min(r, TruncateToInt(std::ceil(LogicalHeightF - CenterY)));
+    const int first = std::max(-r, TruncateToInt(-CenterY) - 1);
+    const int last = std::min(r, TruncateToInt(LogicalHeightF - CenterY) + 1);
     for (int d = first; d <= last; ++d) {
         const auto offset = static_cast<float>(d);
         const float half = std::sqrt(std::max(Radius * Radius - offset * offset, 0.0F));

@@ -73,7 +73,7 @@ void UseFirstAid(GameState &State) {
     if (State.FirstAidKits < 1 || player.Hp >= player.MaxHp) {
         return;
     }
-    player.Hp = std::min(player.Hp + FirstAidHp, player.MaxHp);
+    player.Hp += std::min(FirstAidHp, player.MaxHp - player.Hp); // a file may hold any MaxHp: no sum above it
     --State.FirstAidKits;
     AddExplosion(State, player.X, player.Y, FirstAidBurstLife, FirstAidBurstRadius, FirstAidBurstColor);
     PushSound(State, SfxId::PlayerHeal);

@@ -34,7 +34,7 @@ const StageRow &RowOf(std::int32_t Stage) {
 
 /// Every stage that is a multiple of five gives a spare life.
 void AddSpareLives(GameState &State, std::int32_t NewStage, std::int32_t OldStage) {
-    const std::int32_t extra = NewStage / 5 - OldStage / 5;
+    const std::int32_t extra = NewStage / 5 - std::max(OldStage, 0) / 5;
     if (NewStage > 4 && extra > 0) {
         State.Player.Stocks = std::min(State.Player.Stocks + extra, MaxStocks);
     }
