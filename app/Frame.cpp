@@ -77,5 +77,5 @@ void RunFrame(Program &Program) {
     SaveTick(state, deltaSeconds, Program.Writers.WriteSaveState);
     Present(Program.Renderer, state);
     CapFrame(state, frameStartTicks);
-    Program.LastFrameTicks = now;
+    Program.LastFrameTicks = now; // a step is measured from here, the cap from the top of the frame
 }

@@ -33,6 +33,7 @@ void SaveTick(GameState &State, float DeltaSeconds, StateWriter WriteSaveState) 
     }
     if (WriteSaveState(State)) {
         State.SaveRequested = false;
+        State.SaveDelay = 0.0F;
     } else {
         SDL_Log("Failed to write save state: %s", "SaveState.bin");
         State.SaveDelay = RetrySeconds;

@@ -9,6 +9,8 @@ void ShutDown(Program &Program) {
     CloseInputDevices(Program.Devices);
     DestroyTextureAtlas();
     SDL_DestroyRenderer(Program.Renderer);
+    Program.Renderer = nullptr;
     SDL_DestroyWindow(Program.Window);
+    Program.Window = nullptr;
     SDL_Quit();
 }

@@ -43,12 +43,17 @@ bool CreateWindow(Program &Program) {
     return true;
 }
 
+void DestroyWindow(Program &Program) {
+    SDL_DestroyWindow(Program.Window);
+    Program.Window = nullptr;
+    SDL_Quit();
+}
+
 bool CreateRenderer(Program &Program) {
     Program.Renderer = SDL_CreateRenderer(Program.Window, nullptr);
     if (Program.Renderer == nullptr) {
         SDL_Log("SDL_CreateRenderer failed: %s", SDL_GetError());
-        SDL_DestroyWindow(Program.Window);
-        SDL_Quit();
+        DestroyWindow(Program);
         return false;
     }
     SDL_SetRenderDrawBlendMode(Program.Renderer, SDL_BLENDMODE_BLEND);
@@ -61,8 +66,8 @@ bool CreateAtlas(Program &Program) {
     if (!BuildTextureAtlas(Program.Renderer)) {
         SDL_Log("BuildTextureAtlas failed: %s", SDL_GetError());
         SDL_DestroyRenderer(Program.Renderer);
-        SDL_DestroyWindow(Program.Window);
-        SDL_Quit();
+        Program.Renderer = nullptr;
+        DestroyWindow(Program);
         return false;
     }
     return true;

@@ -4,6 +4,7 @@
 #include "gfx/Draw.hpp"
 #include "gfx/SpriteMaps.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <string_view>

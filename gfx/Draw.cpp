@@ -13,6 +13,9 @@ namespace {
 /// Farther from the screen than anything of a run; only a damaged file puts something there.
 constexpr float Nowhere = 1e6F;
 
+/// Larger than any sprite of a run; a damaged file may hold a size that would take seconds to draw.
+constexpr float LargestSprite = 1024.0F;
+
 std::uint8_t ByteOf(std::uint32_t PackedColor, unsigned Shift) {
     return static_cast<std::uint8_t>(PackedColor >> Shift & 0xFFU);
 }
@@ -22,7 +25,7 @@ const SDL_FRect &SourceOf(SpriteId Id) {
 }
 
 float SnapSize(float Size, int Step) {
-    return std::max(SnapToStep(std::max(Size, 1.0F), Step), static_cast<float>(Step));
+    return std::max(SnapToStep(std::clamp(Size, 1.0F, LargestSprite), Step), static_cast<float>(Step));
 }
 
 /// Where a sprite centred on a point lands.
@@ -73,13 +76,14 @@ void FillDisc(SDL_Renderer *Renderer, float CenterX, float CenterY, float Radius
     if (!(std::abs(CenterY) < Nowhere)) {
         return;
     }
-    const int r = RoundToInt(std::clamp(Radius, -Nowhere, Nowhere));
+    const float radius = std::clamp(Radius, -Nowhere, Nowhere);
+    const int r = RoundToInt(radius);
     // Spans that lie wholly above or below the screen are left out: a damaged file may hold any radius.
     const int first = std::max(-r, TruncateToInt(-CenterY) - 1);
     const int last = std::min(r, TruncateToInt(LogicalHeightF - CenterY) + 1);
     for (int d = first; d <= last; ++d) {
         const auto offset = static_cast<float>(d);
-        const float half = std::sqrt(std::max(Radius * Radius - offset * offset, 0.0F));
+        const float half = std::sqrt(std::max(radius * radius - offset * offset, 0.0F));
         const SDL_FRect span{CenterX - half, CenterY + offset, 2.0F * half + 1.0F, 1.0F};
         SDL_RenderFillRect(Renderer, &span);
     }
@@ -142,8 +146,8 @@ void DrawTiledSprite(SDL_Renderer *Renderer, SpriteId Id, float X, float Y, floa
     const int firstY = top + PhaseOf(OffsetY, tileHeight) - tileHeight;
     for (int ty = firstY; ty < bottom; ty += tileHeight) {
         for (int tx = firstX; tx < right; tx += tileWidth) {
-            // Rows overlap by a pixel, so that no seam opens while the road scrolls by fractions; columns
-            // stand still and need none.
+            // Rows overlap by a pixel, so that no seam opens between them when the screen is shown scaled;
+            // columns need none.
             const SDL_FRect tile{static_cast<float>(tx), static_cast<float>(ty),
                 static_cast<float>(tileWidth), static_cast<float>(tileHeight + 1)};
             SDL_RenderTexture(Renderer, SpriteAtlas.Texture, &source, &tile);

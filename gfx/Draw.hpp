@@ -15,7 +15,7 @@ void SetDrawColor(SDL_Renderer *Renderer, std::uint32_t PackedColor);
 /// Fills a rectangle.
 void FillRect(SDL_Renderer *Renderer, float X, float Y, float W, float H, std::uint32_t PackedColor);
 
-/// Fills a disc by spans one pixel high, without anti-aliasing.
+/// Fills a disc by spans one pixel high, without anti-aliasing; rows off the logical screen are left out.
 void FillDisc(SDL_Renderer *Renderer, float CenterX, float CenterY, float Radius, std::uint32_t PackedColor);
 
 /// How many logical pixels one physical pixel covers, rounded, at least 1: what sprites are snapped to, so

@@ -195,7 +195,7 @@ void DrawScenery(SDL_Renderer *Renderer, const GameState &State) {
     const std::int32_t oldTheme = StageThemeOf(State.PreviousStage);
     const std::int32_t newTheme = StageThemeOf(State.Stage);
     const float seam = std::clamp(State.StageTransition, 0.0F, 1.0F) * LogicalHeightF;
-    if (oldTheme == newTheme || seam >= LogicalHeightF) {
+    if (oldTheme == newTheme || !(seam < LogicalHeightF)) {
         DrawOneBand(Renderer, State, newTheme);
     } else {
         DrawTwoBands(Renderer, State, oldTheme, newTheme, seam);

@@ -6,7 +6,7 @@
 
 struct GameState;
 
-// The scrolling scenery of a run. Themes are the values of StageThemeOf; y0 and y1 bound a band of the screen
+// The scrolling scenery of a run. Themes are the values of StageThemeOf; Y0 and Y1 bound a band of the screen
 // in logical pixels.
 
 /// Tiles the two strips beside the road between Y0 and Y1. FlowDirection (-1 or +1) is where water drifts.

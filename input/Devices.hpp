@@ -27,7 +27,8 @@ void OpenFirstInputDevices(InputDevices &Devices);
 /// a gamepad or cannot be opened.
 bool TryOpenJoystick(InputDevices &Devices, SDL_JoystickID Id);
 
-/// Opens and closes devices as they come and go; every other event is ignored.
+/// Opens and closes devices as they come and go; every other event is ignored. A device that goes in the
+/// middle of a run pauses nothing, and the next one that is there takes its place.
 void HandleHotPlug(InputDevices &Devices, const SDL_Event &Event);
 
 /// Closes what is open, the gamepad first.

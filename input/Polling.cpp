@@ -43,11 +43,15 @@ void AddGamepad(StepInput &Input, SDL_Gamepad *Gamepad, const BindingTable &Bind
 }
 
 void AddJoystick(StepInput &Input, SDL_Joystick *Joystick, const BindingTable &Bindings) {
-    const Uint8 hat =
-        SDL_GetNumJoystickHats(Joystick) > 0 ? SDL_GetJoystickHat(Joystick, 0) : SDL_HAT_CENTERED;
-    const Sint16 axis = SDL_GetNumJoystickAxes(Joystick) > 0 ? SDL_GetJoystickAxis(Joystick, 0) : Sint16{0};
-    Input.MoveLeft = Input.MoveLeft || axis <= -GameplayAxisThreshold || (hat & SDL_HAT_LEFT) != 0;
-    Input.MoveRight = Input.MoveRight || axis >= GameplayAxisThreshold || (hat & SDL_HAT_RIGHT) != 0;
+    const auto hat = [Joystick] {
+        return SDL_GetNumJoystickHats(Joystick) > 0 ? SDL_GetJoystickHat(Joystick, 0)
+                                                    : Uint8{SDL_HAT_CENTERED};
+    };
+    const auto axis = [Joystick] {
+        return SDL_GetNumJoystickAxes(Joystick) > 0 ? SDL_GetJoystickAxis(Joystick, 0) : Sint16{0};
+    };
+    Input.MoveLeft = Input.MoveLeft || axis() <= -GameplayAxisThreshold || (hat() & SDL_HAT_LEFT) != 0;
+    Input.MoveRight = Input.MoveRight || axis() >= GameplayAxisThreshold || (hat() & SDL_HAT_RIGHT) != 0;
     Input.Fire = Input.Fire || IsJoystickButtonHeld(Joystick, BindingOf(Bindings, PadAction::Fire));
     Input.Bomb = Input.Bomb || IsJoystickButtonHeld(Joystick, BindingOf(Bindings, PadAction::Bomb));
 }

@@ -1,10 +1,10 @@
 #include "options/Displays.hpp"
 
 #include "state/GameState.hpp"
+#include "state/Numbers.hpp"
 #include "state/Resolutions.hpp"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -30,10 +30,7 @@ std::int32_t RoundedRate(const SDL_DisplayMode &Mode) {
         rate = static_cast<float>(Mode.refresh_rate_numerator) /
                static_cast<float>(Mode.refresh_rate_denominator);
     }
-    if (!(rate > 0.0F)) {
-        return 0;
-    }
-    return static_cast<std::int32_t>(std::max(std::lround(rate), 0L));
+    return std::max(RoundToInt(rate), 0);
 }
 
 void ListDisplayModes(GameState &State, SDL_DisplayID Display) {

@@ -8,8 +8,9 @@ struct GameState;
 SDL_DisplayID FirstDisplay();
 
 /// Refills DisplayModes, Resolutions and RefreshRates from the window's display (the first one without a
-/// window) and points ResolutionIndex to the resolution that was current, or to one of height 720. Without
-/// display information the built-in resolutions stand in.
+/// window) and points ResolutionIndex to the resolution that was current, or to a middling one (of height 720
+/// in the built-in lists). Where no size of the display fits the aspect mode, the built-in resolutions stand
+/// in.
 void RebuildDisplayLists(GameState &State, SDL_Window *Window);
 
 /// Refills RefreshRates with automatic (0) and, in fullscreen, the rates that the display offers at the

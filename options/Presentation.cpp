@@ -28,7 +28,9 @@ void ChangeLogicalWidth(GameState &State, const Resolution &Resolution) {
 }
 
 void EnterFullscreen(SDL_Window *Window, bool WasFullscreen) {
-    // Without a mode of its own the window is borderless on the desktop: no video mode is ever switched.
+    // Without a mode of its own the window is borderless on the desktop: no video mode is ever switched. In
+    // fullscreen the resolution thus only shapes the logical screen, and the refresh rate is a wish that is
+    // kept but never handed on. Both are meant.
     if (!SDL_SetWindowFullscreenMode(Window, nullptr)) {
         SDL_Log("SDL_SetWindowFullscreenMode(borderless) failed: %s", SDL_GetError());
     }
@@ -44,6 +46,7 @@ void EnterWindowed(SDL_Window *Window, bool WasFullscreen, const Resolution &Siz
     if (!SDL_SetWindowSize(Window, Size.Width, Size.Height)) {
         SDL_Log("SDL_SetWindowSize(%d, %d) failed: %s", Size.Width, Size.Height, SDL_GetError());
     }
+    // A window that was one before keeps its place.
     if (WasFullscreen && !SDL_SetWindowPosition(Window, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED)) {
         SDL_Log("SDL_SetWindowPosition(centered) failed: %s", SDL_GetError());
     }

@@ -10,6 +10,6 @@ constexpr std::int32_t LogicalHeight = 720;
 /// The same as a float, for geometry.
 constexpr float LogicalHeightF = 720.0F;
 
-/// Width of the logical screen in logical pixels: 960, 1080, 1152, 1280, 1728 or 2560 by the display's shape.
-/// Set by ComputeLogicalWidth alone.
+/// Width of the logical screen in logical pixels: 960, 1080, 1152, 1280, 1728 or 2560, by the aspect mode and
+/// the shape of the chosen resolution. Set by ComputeLogicalWidth alone.
 extern std::int32_t LogicalWidth;

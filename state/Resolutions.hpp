@@ -20,7 +20,7 @@ bool ResolutionAllowed(enum AspectMode AspectMode, std::int32_t Width, std::int3
 /// Sets LogicalWidth by the shape of a resolution in physical pixels.
 void ComputeLogicalWidth(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height);
 
-/// The sizes offered while no display has told its own, smallest first.
+/// The sizes offered where no size of a display fits the aspect mode, smallest first.
 std::span<const Resolution> BuiltInResolutions(enum AspectMode AspectMode);
 
 /// The resolution at ResolutionIndex, the index clamped to the list that is in force; the field stays as it
