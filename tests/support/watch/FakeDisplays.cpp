@@ -1,0 +1,90 @@
+#include "tests/support/watch/FakeDisplays.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <new>
+
+namespace {
+
+FakeDisplays *LivingDisplays = nullptr;
+
+void TellCount(int *Count, std::size_t Value) {
+    if (Count != nullptr) {
+        *Count = static_cast<int>(Value);
+    }
+}
+
+} // namespace
+
+SDL_DisplayMode Mode(int Width, int Height, float Rate, int Numerator, int Denominator) {
+    SDL_DisplayMode mode{};
+    mode.w = Width;
+    mode.h = Height;
+    mode.refresh_rate = Rate;
+    mode.refresh_rate_numerator = Numerator;
+    mode.refresh_rate_denominator = Denominator;
+    return mode;
+}
+
+FakeDisplays::FakeDisplays() {
+    SDL_assert_always(LivingDisplays == nullptr);
+    LivingDisplays = this;
+}
+
+FakeDisplays::~FakeDisplays() {
+    LivingDisplays = nullptr;
+}
+
+FakeDisplays *FakeDisplays::Living() {
+    return LivingDisplays;
+}
+
+FakeDisplay &FakeDisplays::Add(SDL_DisplayID Id, int Width, int Height) {
+    FakeDisplay display;
+    display.Id = Id;
+    display.Desktop = Mode(Width, Height, 60.0F);
+    display.Current = display.Desktop;
+    List.push_back(display);
+    return List.back();
+}
+
+const FakeDisplay *FakeDisplays::Find(SDL_DisplayID Id) const {
+    const auto found = std::find_if(List.begin(), List.end(), [Id](const FakeDisplay &Display) {
+        return Display.Id == Id;
+    });
+    return found == List.end() ? nullptr : &*found;
+}
+
+SDL_DisplayID *FakeDisplays::ListDisplays(int *Count) {
+    auto *ids = static_cast<SDL_DisplayID *>(SDL_calloc(List.size() + 1, sizeof(SDL_DisplayID)));
+    std::transform(List.begin(), List.end(), ids, [](const FakeDisplay &Display) {
+        return Display.Id;
+    });
+    TellCount(Count, List.size());
+    Lent.insert(ids);
+    return ids;
+}
+
+SDL_DisplayMode **FakeDisplays::ListModes(SDL_DisplayID Id, int *Count) {
+    const FakeDisplay *display = Find(Id);
+    if (display == nullptr || display->Modes.empty()) {
+        TellCount(Count, 0);
+        SDL_SetError("The display has no modes");
+        return nullptr;
+    }
+    const std::size_t count = display->Modes.size();
+    const std::size_t pointers = (count + 1) * sizeof(SDL_DisplayMode *);
+    void *memory = SDL_calloc(1, pointers + count * sizeof(SDL_DisplayMode));
+    auto **list = static_cast<SDL_DisplayMode **>(memory);
+    std::byte *place = static_cast<std::byte *>(memory) + pointers;
+    for (std::size_t i = 0; i < count; ++i) {
+        list[i] = new (place + i * sizeof(SDL_DisplayMode)) SDL_DisplayMode(display->Modes[i]);
+    }
+    TellCount(Count, count);
+    Lent.insert(memory);
+    return list;
+}
+
+void FakeDisplays::NoticeFree(void *Memory) {
+    Lent.erase(Memory);
+}
