@@ -1,0 +1,46 @@
+#pragma once
+
+#include "app/Frame.hpp"
+#include "app/Program.hpp"
+#include "app/ShutDown.hpp"
+#include "app/StartUp.hpp"
+#include "tests/app/CountingWriters.hpp"
+#include "tests/support/Sdl.hpp"
+#include "tests/support/watch/SdlWatch.hpp"
+
+/// What start-up says on the drivers that need no hardware, as their windows have no icons.
+inline const std::string NoIconsLine = "SetWindowIconFromAtlas failed: That operation is not supported";
+
+/// A test with the whole program, on drivers that need no hardware, and with counting writers. What a test
+/// has started is shut down at its end.
+class ProgramTest : public ::testing::Test {
+protected:
+    ProgramTest();
+    ~ProgramTest() override;
+
+    /// Starts the program; the test fails if that fails.
+    void Start();
+
+    /// Shuts the program down now.
+    void Stop();
+
+    /// Makes the next frame believe that the last one was Milliseconds ago. A long time gives a step of
+    /// exactly 0.033 seconds.
+    void LetTimePass(Uint64 Milliseconds);
+
+    /// Shows a screen, with vertical sync off in the renderer so that presents do not wait. The frame cap
+    /// is off as well.
+    void ShowWithoutWaiting(enum Screen Screen);
+
+    struct Program Program;
+    GameState &State = Program.State;
+
+private:
+    bool Started = false;
+};
+
+/// A test whose program has been started.
+class RunningTest : public ProgramTest {
+protected:
+    void SetUp() override;
+};

@@ -1,0 +1,109 @@
+#include "gfx/Atlas.hpp"
+#include "tests/app/ProgramTest.hpp"
+#include "tests/support/VirtualDevice.hpp"
+
+#include <algorithm>
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+class ShuttingDown : public RunningTest {
+protected:
+    void SetUp() override {
+        RunningTest::SetUp();
+        State.SaveRequested = false;
+    }
+};
+
+TEST_F(ShuttingDown, WritesMarkedOptions) {
+    State.OptionsDirty = true;
+    Stop();
+    EXPECT_EQ(Written.OptionsWrites, 1);
+    EXPECT_EQ(Written.SaveWrites, 0);
+    EXPECT_FALSE(State.OptionsDirty);
+}
+
+TEST_F(ShuttingDown, WritesASaveThatIsDue) {
+    State.SaveRequested = true;
+    State.SaveDelay = 0.0F;
+    Stop();
+    EXPECT_EQ(Written.SaveWrites, 1);
+    EXPECT_EQ(Written.OptionsWrites, 0);
+}
+
+TEST_F(ShuttingDown, DoesNotForceASaveThatIsStillWaiting) {
+    State.SaveRequested = true;
+    State.SaveDelay = 0.001F;
+    Stop();
+    EXPECT_EQ(Written.SaveWrites, 0);
+}
+
+TEST_F(ShuttingDown, WritesNothingThatIsNotMarked) {
+    Stop();
+    EXPECT_EQ(Written.OptionsWrites, 0);
+    EXPECT_EQ(Written.SaveWrites, 0);
+}
+
+TEST_F(ShuttingDown, TriesAFailingWriteOnceAndGoesOn) {
+    State.OptionsDirty = true;
+    State.SaveRequested = true;
+    State.SaveDelay = 0.0F;
+    Written.OptionsFailures = 9;
+    Written.SaveFailures = 9;
+    const LogCatcher log;
+    const SdlWatch watch;
+    Stop();
+    EXPECT_EQ(log.Lines,
+        (Names{"Failed to write options config: Config.ini", "Failed to write save state: SaveState.bin"}));
+    EXPECT_EQ(watch.Count("SDL_Quit"), 1);
+}
+
+TEST_F(ShuttingDown, GoesInItsOrder) {
+    if (HasRealDevices()) {
+        GTEST_SKIP() << "a real pad or joystick is plugged in";
+    }
+    const VirtualDevice stick(JoystickShape);
+    const VirtualDevice pad(GamepadShape);
+    RunFrame(Program); // opens them
+    ASSERT_NE(Program.Devices.Gamepad, nullptr);
+    ASSERT_NE(Program.Devices.Joystick, nullptr);
+    State.OptionsDirty = true;
+    State.SaveRequested = true;
+    State.SaveDelay = 0.0F;
+    SdlWatch watch;
+    Written.OnOptionsWrite = [] {
+        SdlWatch::Notice("options", {});
+    };
+    Written.OnSaveWrite = [] {
+        SdlWatch::Notice("save", {});
+    };
+    Stop();
+    EXPECT_EQ(watch.NamesAmong({"options", "save", "SDL_CloseGamepad", "SDL_CloseJoystick",
+                  "SDL_DestroyTexture", "SDL_DestroyRenderer", "SDL_DestroyWindow", "SDL_Quit"}),
+        (Names{"options", "save", "SDL_CloseGamepad", "SDL_CloseJoystick", "SDL_DestroyTexture",
+            "SDL_DestroyRenderer", "SDL_DestroyWindow", "SDL_Quit"}));
+}
+
+TEST_F(ShuttingDown, WithoutDevicesClosesNone) {
+    const SdlWatch watch;
+    Stop();
+    EXPECT_EQ(watch.Count("SDL_CloseGamepad"), 0);
+    EXPECT_EQ(watch.Count("SDL_CloseJoystick"), 0);
+}
+
+TEST_F(ShuttingDown, NullsTheAtlasAndEndsSdl) {
+    ASSERT_NE(SpriteAtlas.Texture, nullptr);
+    Stop();
+    EXPECT_EQ(SpriteAtlas.Texture, nullptr);
+    EXPECT_EQ(SDL_WasInit(0), 0U);
+}
+
+TEST_F(ShuttingDown, LeavesNothingInTheWayOfAnotherStart) {
+    Stop();
+    Start();
+    RunFrame(Program);
+    EXPECT_EQ(State.Screen, ScreenPlaying);
+}
+
+} // namespace

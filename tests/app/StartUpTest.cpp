@@ -1,0 +1,222 @@
+#include "gfx/Atlas.hpp"
+#include "state/LogicalScreen.hpp"
+#include "tests/app/ProgramTest.hpp"
+#include "tests/support/VirtualDevice.hpp"
+
+namespace {
+
+using StartingUp = ProgramTest;
+using Names = std::vector<std::string>;
+
+TEST_F(StartingUp, GoesInItsOrder) {
+    const SdlWatch watch;
+    Start();
+    EXPECT_TRUE(watch.SawInOrder({"SDL_Init", "SDL_GetPrimaryDisplay", "SDL_GetDesktopDisplayMode",
+        "SDL_CreateWindow", "SDL_CreateRenderer", "SDL_SetRenderDrawBlendMode", "SDL_SetWindowResizable",
+        "SDL_SetRenderLogicalPresentation", "SDL_CreateTexture", "SDL_SetWindowIcon", "SDL_HideCursor",
+        "SDL_GetDisplayForWindow", "SDL_GetFullscreenDisplayModes", "SDL_GetGamepads", "SDL_GetJoysticks",
+        "SDL_SetWindowFullscreenMode", "SDL_SetRenderVSync", "SDL_GetRenderVSync",
+        "SDL_SetRenderLogicalPresentation"}));
+    EXPECT_EQ(watch.NamesAmong({"SDL_Init", "SDL_CreateWindow", "SDL_CreateRenderer", "SDL_CreateTexture",
+                  "SDL_SetWindowIcon", "SDL_HideCursor", "SDL_GetGamepads", "SDL_SetRenderVSync"}),
+        (Names{"SDL_Init", "SDL_CreateWindow", "SDL_CreateRenderer", "SDL_CreateTexture", "SDL_SetWindowIcon",
+            "SDL_HideCursor", "SDL_GetGamepads", "SDL_SetRenderVSync"})); // each of them once
+}
+
+TEST_F(StartingUp, SaysNoMoreThanThatTheDriverHasNoIcons) {
+    const LogCatcher log;
+    Start();
+    EXPECT_EQ(log.Lines, Names{NoIconsLine});
+}
+
+TEST_F(StartingUp, BringsUpVideoAndPadsButNoAudio) {
+    const SdlWatch watch;
+    Start();
+    EXPECT_EQ(watch.CallsOf("SDL_Init"),
+        (std::vector<SdlCall>{{"SDL_Init", {SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD}}}));
+    EXPECT_EQ(SDL_WasInit(SDL_INIT_AUDIO), 0U);
+}
+
+TEST_F(StartingUp, OpensAFullscreenWindowOfTheDesktopsSizeWithItsTitle) {
+    const SdlWatch watch;
+    Start();
+    EXPECT_EQ(watch.CallsOf("SDL_CreateWindow"),
+        (std::vector<SdlCall>{{"SDL_CreateWindow", {1, 1024, 768, SDL_WINDOW_FULLSCREEN}}}));
+    EXPECT_STREQ(SDL_GetWindowTitle(Program.Window), "Kestrel Volley v0.1.0");
+    int width = 0;
+    int height = 0;
+    SDL_GetWindowSize(Program.Window, &width, &height);
+    EXPECT_EQ(width, 1024);
+    EXPECT_EQ(height, 768);
+    const SDL_WindowFlags flags = SDL_GetWindowFlags(Program.Window);
+    EXPECT_NE(flags & SDL_WINDOW_FULLSCREEN, 0U);
+    EXPECT_EQ(flags & SDL_WINDOW_RESIZABLE, 0U);
+}
+
+TEST_F(StartingUp, LetsSdlChooseTheRenderer) {
+    const SdlWatch watch;
+    Start();
+    EXPECT_EQ(watch.CallsOf("SDL_CreateRenderer"), (std::vector<SdlCall>{{"SDL_CreateRenderer", {1, 0}}}));
+}
+
+TEST_F(StartingUp, MakesTheWindowNotResizable) {
+    const SdlWatch watch;
+    Start();
+    EXPECT_EQ(
+        watch.CallsOf("SDL_SetWindowResizable"), (std::vector<SdlCall>{{"SDL_SetWindowResizable", {1, 0}}}));
+}
+
+TEST_F(StartingUp, DrawsWithBlending) {
+    Start();
+    SDL_BlendMode blend = SDL_BLENDMODE_NONE;
+    ASSERT_TRUE(SDL_GetRenderDrawBlendMode(Program.Renderer, &blend));
+    EXPECT_EQ(blend, SDL_BLENDMODE_BLEND);
+}
+
+TEST_F(StartingUp, LetterboxesTheLogicalScreen) {
+    Start();
+    int width = 0;
+    int height = 0;
+    SDL_RendererLogicalPresentation mode{};
+    ASSERT_TRUE(SDL_GetRenderLogicalPresentation(Program.Renderer, &width, &height, &mode));
+    EXPECT_EQ(width, 960);
+    EXPECT_EQ(height, 720);
+    EXPECT_EQ(mode, SDL_LOGICAL_PRESENTATION_LETTERBOX);
+}
+
+TEST_F(StartingUp, HidesTheCursor) {
+    Start();
+    EXPECT_FALSE(SDL_CursorVisible());
+}
+
+TEST_F(StartingUp, BuildsTheAtlasAndHandsTheWindowAnIcon) {
+    const SdlWatch watch;
+    Start();
+    EXPECT_NE(SpriteAtlas.Texture, nullptr);
+    EXPECT_EQ(SDL_GetRendererFromTexture(SpriteAtlas.Texture), Program.Renderer);
+    EXPECT_EQ(SDL_GetRenderTarget(Program.Renderer), nullptr); // frames go straight to the window
+    EXPECT_EQ(watch.CallsOf("SDL_SetWindowIcon"), (std::vector<SdlCall>{{"SDL_SetWindowIcon", {1, 1}}}));
+}
+
+TEST_F(StartingUp, OpensTheDevicesThatAreThere) {
+    ASSERT_TRUE(SDL_Init(SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD));
+    if (HasRealDevices()) {
+        GTEST_SKIP() << "a real pad or joystick is plugged in";
+    }
+    const VirtualDevice pad(GamepadShape);
+    const VirtualDevice stick(JoystickShape);
+    Program.Devices.GamepadId = 77; // what stood there before is cleared
+    Program.Devices.JoystickLeftLatch = true;
+    Start();
+    EXPECT_NE(Program.Devices.Gamepad, nullptr);
+    EXPECT_EQ(Program.Devices.GamepadId, pad.Id);
+    EXPECT_NE(Program.Devices.Joystick, nullptr);
+    EXPECT_EQ(Program.Devices.JoystickId, stick.Id);
+    EXPECT_FALSE(Program.Devices.JoystickLeftLatch);
+    Stop();
+}
+
+TEST_F(StartingUp, AppliesTheDisplaySettingsAndRestartsTheFrameClock) {
+    Start();
+    EXPECT_TRUE(State.VSync);
+    EXPECT_TRUE(State.VSyncActive);
+    int actual = 0;
+    ASSERT_TRUE(SDL_GetRenderVSync(Program.Renderer, &actual));
+    EXPECT_EQ(actual, 1);
+    EXPECT_TRUE(State.ResetFrameClock);
+}
+
+TEST_F(StartingUp, FillsTheStateWithItsDefaults) {
+    State.Running = false;
+    State.Score = 5;
+    State.HighScore = 6;
+    State.MasterVolume = 7;
+    State.Fullscreen = false;
+    State.OptionsDirty = true;
+    State.KeyboardBindings = {1, 2, 3, 4, 5};
+    Start();
+    EXPECT_TRUE(State.Running);
+    EXPECT_EQ(State.Score, 0);
+    EXPECT_EQ(State.HighScore, 0);
+    EXPECT_EQ(State.MasterVolume, 100);
+    EXPECT_EQ(State.MusicVolume, 50);
+    EXPECT_EQ(State.SfxVolume, 75);
+    EXPECT_TRUE(State.MusicEnabled);
+    EXPECT_TRUE(State.SfxEnabled);
+    EXPECT_TRUE(State.Fullscreen);
+    EXPECT_EQ(State.RefreshRate, 0);
+    EXPECT_EQ(State.Language, "en");
+    EXPECT_FALSE(State.OptionsDirty);
+    EXPECT_EQ(State.KeyboardBindings, DefaultKeyboardBindings);
+}
+
+TEST_F(StartingUp, HasTheFirstRunRunning) {
+    Start();
+    EXPECT_EQ(State.Screen, ScreenPlaying);
+    EXPECT_TRUE(State.HasRunState);
+    EXPECT_TRUE(State.SaveRequested);
+    EXPECT_FLOAT_EQ(State.SaveDelay, 0.0F);
+    EXPECT_FLOAT_EQ(State.Player.X, 480.0F); // lane 4 of a road in the middle of 960
+    EXPECT_EQ(State.Player.Stocks, 2);
+}
+
+TEST_F(StartingUp, SeedsEachLaunchDifferently) {
+    Start();
+    const std::mt19937 first = State.Rng;
+    Stop();
+    Start();
+    EXPECT_FALSE(State.Rng == first);
+}
+
+TEST_F(StartingUp, RemembersWhenItEnded) {
+    const Uint64 before = SDL_GetTicks();
+    Start();
+    EXPECT_GE(Program.LastFrameTicks, before);
+    EXPECT_LE(Program.LastFrameTicks, SDL_GetTicks());
+}
+
+TEST_F(StartingUp, WritesNothingYet) {
+    Start();
+    EXPECT_EQ(Written.OptionsWrites, 0);
+    EXPECT_EQ(Written.SaveWrites, 0);
+}
+
+TEST_F(StartingUp, GoesOnWithoutTheIcon) {
+    SdlWatch watch;
+    watch.Refuse("SDL_SetWindowIcon");
+    const LogCatcher log;
+    Start();
+    EXPECT_EQ(log.Lines, (Names{"SetWindowIconFromAtlas failed: refused for the test"}));
+    EXPECT_FALSE(SDL_CursorVisible());
+    EXPECT_EQ(State.Screen, ScreenPlaying);
+}
+
+TEST_F(StartingUp, GoesOnWithoutVSync) {
+    SdlWatch watch;
+    watch.Refuse("SDL_SetRenderVSync");
+    const LogCatcher log;
+    Start();
+    EXPECT_EQ(log.Lines, (Names{NoIconsLine, "SDL_SetRenderVSync(1) failed: refused for the test"}));
+    EXPECT_FALSE(State.VSyncActive);
+}
+
+TEST_F(StartingUp, GoesOnWithoutLogicalPresentation) {
+    SdlWatch watch;
+    watch.Refuse("SDL_SetRenderLogicalPresentation");
+    const LogCatcher log;
+    Start();
+    EXPECT_EQ(log.Lines, (Names{"SDL_SetRenderLogicalPresentation failed: refused for the test", NoIconsLine,
+                             "SDL_SetRenderLogicalPresentation failed: refused for the test"}));
+}
+
+TEST_F(StartingUp, WorksOffscreenToo) {
+    SDL_SetHint(SDL_HINT_VIDEO_DRIVER, "offscreen");
+    Start();
+    EXPECT_STREQ(SDL_GetCurrentVideoDriver(), "offscreen");
+    EXPECT_EQ(State.Screen, ScreenPlaying);
+    EXPECT_NE(SpriteAtlas.Texture, nullptr);
+    RunFrame(Program);
+    EXPECT_TRUE(State.Running);
+}
+
+} // namespace

@@ -1,0 +1,146 @@
+#include "tests/options/PresentationTest.hpp"
+
+namespace {
+
+using ApplySettings = PresentationTest;
+using Presentation = PresentationTest;
+using Calls = std::vector<SdlCall>;
+using Lines = std::vector<std::string>;
+
+const std::vector<std::string> AllSteps{"SDL_SetWindowFullscreenMode", "SDL_SetWindowFullscreen",
+    "SDL_SetWindowSize", "SDL_SetWindowPosition", "SDL_SetRenderVSync", "SDL_GetRenderVSync",
+    "SDL_SetRenderLogicalPresentation"};
+
+void RefuseAll(SdlWatch &Watch) {
+    for (const std::string &step : AllSteps) {
+        Watch.Refuse(step);
+    }
+}
+
+TEST_F(ApplySettings, GoesStepByStepIntoFullscreen) {
+    State.Fullscreen = true;
+    const SdlWatch watch;
+    const LogCatcher log;
+    Apply();
+    EXPECT_EQ(watch.NamesAmong(AllSteps),
+        (Lines{"SDL_SetWindowFullscreenMode", "SDL_SetWindowFullscreen", "SDL_SetRenderVSync",
+            "SDL_GetRenderVSync", "SDL_SetRenderLogicalPresentation"}));
+    EXPECT_EQ(log.Lines, Lines{});
+}
+
+TEST_F(ApplySettings, GoesStepByStepIntoAWindow) {
+    ASSERT_TRUE(SDL_SetWindowFullscreen(Window, true));
+    const SdlWatch watch;
+    const LogCatcher log;
+    Apply();
+    EXPECT_EQ(watch.NamesAmong(AllSteps),
+        (Lines{"SDL_SetWindowFullscreen", "SDL_SetWindowSize", "SDL_SetWindowPosition", "SDL_SetRenderVSync",
+            "SDL_GetRenderVSync", "SDL_SetRenderLogicalPresentation"}));
+    EXPECT_EQ(log.Lines, Lines{});
+}
+
+TEST_F(ApplySettings, LogsEachFailureIntoFullscreenAndGoesOn) {
+    State.Fullscreen = true;
+    SdlWatch watch;
+    RefuseAll(watch);
+    const LogCatcher log;
+    Apply();
+    EXPECT_EQ(log.Lines, (Lines{"SDL_SetWindowFullscreenMode(borderless) failed: refused for the test",
+                             "SDL_SetWindowFullscreen(true) failed: refused for the test",
+                             "SDL_SetRenderVSync(1) failed: refused for the test",
+                             "SDL_GetRenderVSync failed: refused for the test",
+                             "SDL_SetRenderLogicalPresentation failed: refused for the test"}));
+    EXPECT_TRUE(State.Fullscreen); // the option stays as it was chosen
+    EXPECT_TRUE(State.ResetFrameClock);
+}
+
+TEST_F(ApplySettings, LogsEachFailureIntoAWindowAndGoesOn) {
+    ASSERT_TRUE(SDL_SetWindowFullscreen(Window, true));
+    State.VSync = false;
+    Choose(1920, 1200);
+    SdlWatch watch;
+    RefuseAll(watch);
+    const LogCatcher log;
+    Apply();
+    EXPECT_EQ(log.Lines, (Lines{"SDL_SetWindowFullscreen(false) failed: refused for the test",
+                             "SDL_SetWindowSize(1920, 1200) failed: refused for the test",
+                             "SDL_SetWindowPosition(centered) failed: refused for the test",
+                             "SDL_SetRenderVSync(0) failed: refused for the test",
+                             "SDL_GetRenderVSync failed: refused for the test",
+                             "SDL_SetRenderLogicalPresentation failed: refused for the test"}));
+    EXPECT_EQ(LogicalWidth, 1152); // an earlier step is not undone
+    EXPECT_FALSE(State.Fullscreen);
+    EXPECT_TRUE(State.ResetFrameClock);
+}
+
+TEST_F(ApplySettings, AFailureOfOneStepLeavesTheOthersTheirEffect) {
+    ASSERT_TRUE(SDL_SetWindowFullscreen(Window, true));
+    SdlWatch watch;
+    watch.Refuse("SDL_SetWindowPosition");
+    Choose(800, 450);
+    const LogCatcher log;
+    Apply();
+    EXPECT_EQ(log.Lines, (Lines{"SDL_SetWindowPosition(centered) failed: refused for the test"}));
+    EXPECT_FALSE(IsFullscreen());
+    int width = 0;
+    int height = 0;
+    SDL_GetWindowSize(Window, &width, &height);
+    EXPECT_EQ(width, 800);
+    EXPECT_EQ(height, 450);
+    EXPECT_TRUE(State.VSyncActive);
+}
+
+TEST_F(ApplySettings, RestartsTheFrameClock) {
+    ASSERT_FALSE(State.ResetFrameClock);
+    Apply();
+    EXPECT_TRUE(State.ResetFrameClock);
+}
+
+TEST_F(ApplySettings, WithoutAWindowDoesNothing) {
+    State.AspectMode = AspectClassic4x3;
+    State.Bullets = {{608.0F, 100.0F, 430.0F, 2.0F}};
+    const SdlWatch watch;
+    ApplyDisplaySettings(State, nullptr, Renderer);
+    EXPECT_EQ(watch.Calls, Calls{});
+    EXPECT_EQ(LogicalWidth, 1280);
+    EXPECT_FLOAT_EQ(State.Bullets[0].X, 608.0F);
+    EXPECT_FALSE(State.ResetFrameClock);
+}
+
+TEST_F(Presentation, LetterboxesTheLogicalScreen) {
+    for (const std::int32_t width : {960, 1080, 1152, 1280, 1728, 2560}) {
+        LogicalWidth = width;
+        ApplyLogicalPresentation(Window, Renderer);
+        int actualWidth = 0;
+        int actualHeight = 0;
+        SDL_RendererLogicalPresentation mode{};
+        ASSERT_TRUE(SDL_GetRenderLogicalPresentation(Renderer, &actualWidth, &actualHeight, &mode));
+        EXPECT_EQ(actualWidth, width);
+        EXPECT_EQ(actualHeight, 720);
+        EXPECT_EQ(mode, SDL_LOGICAL_PRESENTATION_LETTERBOX);
+    }
+}
+
+TEST_F(Presentation, TakesTheWidthOfTheChosenShape) {
+    Choose(3840, 1600);
+    const SdlWatch watch;
+    Apply();
+    EXPECT_EQ(watch.CallsOf("SDL_SetRenderLogicalPresentation"),
+        (Calls{{"SDL_SetRenderLogicalPresentation", {1, 1728, 720, SDL_LOGICAL_PRESENTATION_LETTERBOX}}}));
+}
+
+TEST_F(Presentation, DoesNothingWithoutAWindow) {
+    const SdlWatch watch;
+    ApplyLogicalPresentation(nullptr, Renderer);
+    EXPECT_EQ(watch.Calls, Calls{});
+}
+
+TEST_F(Presentation, LogsItsFailure) {
+    SdlWatch watch;
+    watch.Refuse("SDL_SetRenderLogicalPresentation");
+    const LogCatcher log;
+    ApplyLogicalPresentation(Window, Renderer);
+    EXPECT_EQ(log.Lines, (Lines{"SDL_SetRenderLogicalPresentation failed: refused for the test"}));
+}
+
+} // namespace
