@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace {
 
 void SetTimers(GameState &State, float Seconds) {
@@ -16,14 +18,15 @@ void SetTimers(GameState &State, float Seconds) {
     State.ReadyBanner = Seconds;
 }
 
+std::array<float, 7> TimersOf(const GameState &State) {
+    return {State.Player.FireCooldown, State.InvulnerabilityTimer, State.LaneMoveCooldown,
+        State.AmmoRegenPause, State.InvincibilityPowerTimer, State.DualWeaponPowerTimer, State.ReadyBanner};
+}
+
 void ExpectTimers(const GameState &State, float Seconds) {
-    EXPECT_EQ(State.Player.FireCooldown, Seconds);
-    EXPECT_EQ(State.InvulnerabilityTimer, Seconds);
-    EXPECT_EQ(State.LaneMoveCooldown, Seconds);
-    EXPECT_EQ(State.AmmoRegenPause, Seconds);
-    EXPECT_EQ(State.InvincibilityPowerTimer, Seconds);
-    EXPECT_EQ(State.DualWeaponPowerTimer, Seconds);
-    EXPECT_EQ(State.ReadyBanner, Seconds);
+    std::array<float, 7> expected{};
+    expected.fill(Seconds);
+    EXPECT_EQ(TimersOf(State), expected);
 }
 
 } // namespace

@@ -3,7 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <array>
+#include <bit>
 #include <type_traits>
 
 namespace {
@@ -155,6 +156,5 @@ TEST(Defaults, AColourIsRedGreenBlueAlphaInMemory) {
     EXPECT_EQ(color.G, 2);
     EXPECT_EQ(color.B, 3);
     EXPECT_EQ(color.A, 4);
-    const unsigned char bytes[]{1, 2, 3, 4};
-    EXPECT_EQ(std::memcmp(&color, bytes, sizeof bytes), 0);
+    EXPECT_EQ((std::bit_cast<std::array<std::uint8_t, 4>>(color)), (std::array<std::uint8_t, 4>{1, 2, 3, 4}));
 }

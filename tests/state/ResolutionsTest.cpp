@@ -140,11 +140,14 @@ TEST(BuiltInResolutions, ClassicHasItsSevenRows) {
     }
 }
 
-TEST(BuiltInResolutions, EachRowIsOfferedInItsOwnModeOnly) {
+TEST(BuiltInResolutions, WidescreenRowsAreOfferedInWidescreenOnly) {
     for (const WideRow &row : WideRows) {
         EXPECT_TRUE(ResolutionAllowed(AspectWidescreen, row.Size.Width, row.Size.Height)) << row.Size.Width;
         EXPECT_FALSE(ResolutionAllowed(AspectClassic4x3, row.Size.Width, row.Size.Height)) << row.Size.Width;
     }
+}
+
+TEST(BuiltInResolutions, ClassicRowsAreOfferedInClassicOnly) {
     for (const Resolution &row : ClassicRows) {
         EXPECT_TRUE(ResolutionAllowed(AspectClassic4x3, row.Width, row.Height)) << row.Width;
         EXPECT_FALSE(ResolutionAllowed(AspectWidescreen, row.Width, row.Height)) << row.Width;

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 TEST(Sounds, HaveTheNumbersOfTheirRecipes) {
     EXPECT_EQ(static_cast<int>(SfxId::UiMove), 0);
     EXPECT_EQ(static_cast<int>(SfxId::UiConfirm), 1);
@@ -29,17 +31,18 @@ TEST(Sounds, QueueInTheOrderInWhichTheyAreAskedFor) {
 }
 
 TEST(Sounds, The64thOfAFrameIsKeptAndThe65thIsDropped) {
+    std::array<SfxId, 64> expected{};
+    expected.fill(SfxId::PlayerFire);
+    expected.back() = SfxId::EnemyDown;
+
     GameState state;
-    for (int i = 0; i < 63; ++i) {
-        PushSound(state, SfxId::PlayerFire);
+    for (const SfxId id : expected) {
+        PushSound(state, id);
     }
-    PushSound(state, SfxId::EnemyDown);
-    ASSERT_EQ(state.PendingSounds.Count, 64U);
-    const auto full = state.PendingSounds.Ids;
-    EXPECT_EQ(full[62], SfxId::PlayerFire);
-    EXPECT_EQ(full[63], SfxId::EnemyDown);
+    EXPECT_EQ(state.PendingSounds.Count, 64U);
+    EXPECT_EQ(state.PendingSounds.Ids, expected);
 
     PushSound(state, SfxId::PlayerBomb);
     EXPECT_EQ(state.PendingSounds.Count, 64U);
-    EXPECT_EQ(state.PendingSounds.Ids, full);
+    EXPECT_EQ(state.PendingSounds.Ids, expected);
 }
