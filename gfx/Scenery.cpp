@@ -172,10 +172,11 @@ void DrawRoadside(SDL_Renderer *Renderer, std::int32_t Theme, float RoadScroll, 
     if (!theme.HasShrubs || !(y0 < y1)) {
         return;
     }
-    for (float p = std::fmod(RoadScroll, ShrubPeriod) - ShrubPeriod; p < LogicalHeightF + ShrubPeriod;
-         p += ShrubPeriod) {
+    float p = std::fmod(RoadScroll, ShrubPeriod) - ShrubPeriod;
+    while (p < LogicalHeightF + ShrubPeriod) {
         DrawShrub(Renderer, theme.Shrub, RoadLeft() - ShrubSize, p + LeftShrubShift, y0, y1);
         DrawShrub(Renderer, theme.Shrub, RoadRight() + ShrubSize, p + RightShrubShift, y0, y1);
+        p += ShrubPeriod;
     }
 }
 

@@ -4,6 +4,7 @@ void ChooseSoftwareDrivers() {
     SDL_SetHint(SDL_HINT_VIDEO_DRIVER, "dummy");
     SDL_SetHint(SDL_HINT_AUDIO_DRIVER, "dummy");
     SDL_SetHint(SDL_HINT_RENDER_DRIVER, "software");
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0"); // or a system's OpenGL is loaded after all
 }
 
 SdlTest::SdlTest() {
