@@ -1,7 +1,7 @@
 #pragma once
 
-#include <compare>
 #include <cstdint>
+#include <tuple>
 
 enum AspectMode : std::int32_t {
     AspectWidescreen = 0,
@@ -13,7 +13,12 @@ struct Resolution {
     std::int32_t Width = 0;
     std::int32_t Height = 0;
 
-    auto operator<=>(const Resolution &) const = default; // by width, ties by height
+    bool operator==(const Resolution &) const = default;
+
+    /// By width, ties by height.
+    bool operator<(const Resolution &Other) const {
+        return std::tie(Width, Height) < std::tie(Other.Width, Other.Height);
+    }
 };
 
 /// What a display offers.

@@ -4,7 +4,6 @@
 #include "tests/gfx/GfxTest.hpp"
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 

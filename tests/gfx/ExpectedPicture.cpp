@@ -10,6 +10,7 @@ namespace {
 
 constexpr double TieSlack = 0.002; ///< the renderer's fixed-point steps are that exact over a sprite
 constexpr int BlendSlack = 2;      ///< per channel: the renderer cuts two fractions off in each blend
+constexpr int RedSlack = 3;        ///< and a third one in reddening
 constexpr double CutSlack = 0.6;   ///< a copy cut by a clip rectangle is taken from whole pixels of the art
 
 int Channel(std::uint32_t PackedColor, unsigned Index) {
@@ -161,7 +162,7 @@ void ExpectedPicture::PutRedTexels(
     }
     const Pixel below = PixelAt(X, Y);
     Pixel pixel;
-    pixel.Tolerance = below.Tolerance + BlendSlack;
+    pixel.Tolerance = below.Tolerance + RedSlack;
     for (int row = Rows.First; row <= Rows.Last; ++row) {
         for (int column = Columns.First; column <= Columns.Last; ++column) {
             const std::uint32_t color = ArtPixel(Id, column, row);
@@ -180,7 +181,7 @@ void ExpectedPicture::PutFlashedTexels(
     }
     const Pixel below = PixelAt(X, Y);
     Pixel pixel;
-    pixel.Tolerance = below.Tolerance + BlendSlack;
+    pixel.Tolerance = below.Tolerance + RedSlack;
     for (int row = Rows.First; row <= Rows.Last; ++row) {
         for (int column = Columns.First; column <= Columns.Last; ++column) {
             const std::uint32_t color = ArtPixel(Id, column, row);
