@@ -16,4 +16,11 @@ constexpr float MaxAmmo = 100.0F;
 constexpr float PlayerY = 670.0F;
 constexpr float PlayerRadius = 12.0F;
 
-constexpr float BulletLeaveY = -20.0F; ///< a shot exactly there stays
+constexpr float EnemySpawnY = -20.0F;
+constexpr float ObstacleSpawnY = -24.0F;
+constexpr float ItemSpawnY = -18.0F;
+constexpr float BulletLeaveY = -20.0F; ///< what is exactly at its line stays
+constexpr float EnemyBulletLeaveY = 740.0F;
+constexpr float ItemLeaveY = 744.0F;
+constexpr float EnemyLeaveY = 745.0F;
+constexpr float ObstacleLeaveY = 748.0F;

@@ -1,6 +1,6 @@
 #include "sim/PlayerControls.hpp"
 
-#include "sim/Explosions.hpp"
+#include "sim/Bursts.hpp"
 #include "sim/Lanes.hpp"
 #include "sim/Limits.hpp"
 #include "state/GameState.hpp"
@@ -22,9 +22,6 @@ constexpr float BulletSpeed = 430.0F;
 constexpr float BulletRadius = 2.0F;
 
 constexpr std::int32_t FirstAidHp = 35;
-constexpr float FirstAidBurstLife = 0.35F;
-constexpr float FirstAidBurstRadius = 22.0F;
-constexpr Color FirstAidBurstColor{0x6E, 0xF5, 0x96, 0xDC};
 
 void AddBullet(GameState &State, float X) {
     State.Bullets.push_back({X, State.Player.Y - MuzzleDistance, BulletSpeed, BulletRadius});
@@ -75,6 +72,6 @@ void UseFirstAid(GameState &State) {
     }
     player.Hp += std::min(FirstAidHp, player.MaxHp - player.Hp); // a file may hold any MaxHp: no sum above it
     --State.FirstAidKits;
-    AddExplosion(State, player.X, player.Y, FirstAidBurstLife, FirstAidBurstRadius, FirstAidBurstColor);
+    AddBurst(State, Burst::FirstAid, player.X, player.Y);
     PushSound(State, SfxId::PlayerHeal);
 }

@@ -5,3 +5,10 @@ struct GameState;
 /// Eases the road towards its stage's speed, then drives on for dt seconds: the distance, the time and the
 /// seam of the scenery.
 void MoveRoad(GameState &State, float dt);
+
+/// How much faster than in stage 1 the road is now: what all motion and the spawn timers are scaled by.
+float SpeedScale(const GameState &State);
+
+/// How far a thing of a speed rolls in dt seconds, in logical pixels: it is always faster than the road by at
+/// least Lead pixels a second.
+float RollingDistance(const GameState &State, float Speed, float Lead, float dt);

@@ -2,10 +2,18 @@
 
 #include "sim/Bomb.hpp"
 #include "sim/Bullets.hpp"
+#include "sim/Contacts.hpp"
 #include "sim/Death.hpp"
+#include "sim/Enemies.hpp"
+#include "sim/EnemySpawn.hpp"
 #include "sim/Explosions.hpp"
+#include "sim/ItemSpawn.hpp"
+#include "sim/Items.hpp"
+#include "sim/ObstacleSpawn.hpp"
+#include "sim/Obstacles.hpp"
 #include "sim/PlayerControls.hpp"
 #include "sim/Road.hpp"
+#include "sim/ShotHits.hpp"
 #include "sim/Stages.hpp"
 #include "sim/Timers.hpp"
 #include "state/GameState.hpp"
@@ -43,7 +51,19 @@ void SimulationStep(GameState &State, float DeltaSeconds, const StepInput &StepI
     MoveLane(State, StepInput);
     FireGun(State, StepInput);
     ThrowBomb(State, StepInput);
+    SpawnEnemy(State, dt);
+    SpawnTimedItem(State, dt);
+    SpawnObstacle(State, dt);
     MoveBullets(State, dt);
+    MoveEnemies(State, dt);
+    MoveObstacles(State, dt);
+    MoveEnemyBullets(State, dt);
+    HitTargets(State);
+    MeetEnemies(State);
+    MeetEnemyBullets(State);
+    MeetObstacles(State);
+    MoveItems(State, dt);
+    PickUpItems(State);
     AgeExplosions(State, dt);
     RefillAmmo(State, dt);
     ChangeStage(State);

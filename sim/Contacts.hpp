@@ -1,0 +1,15 @@
+#pragma once
+
+struct GameState;
+
+// What touches the player's car is used up, whether it hurts or not; what has passed the bottom of the screen
+// leaves. Neither pays points.
+
+/// Enemies ram the player.
+void MeetEnemies(GameState &State);
+
+/// Enemy shots strike the player.
+void MeetEnemyBullets(GameState &State);
+
+/// The player crashes into obstacles.
+void MeetObstacles(GameState &State);

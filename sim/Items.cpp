@@ -1,0 +1,71 @@
+#include "sim/Items.hpp"
+
+#include "sim/Geometry.hpp"
+#include "sim/ItemType.hpp"
+#include "sim/Lanes.hpp"
+#include "sim/Limits.hpp"
+#include "sim/Road.hpp"
+#include "sim/Score.hpp"
+#include "state/GameState.hpp"
+
+#include <algorithm>
+
+namespace {
+
+constexpr float ItemLead = 2.0F;
+constexpr std::int32_t FullPocketPoints = 300; ///< before stage scaling
+constexpr float InvincibilitySeconds = 6.0F;
+constexpr float DualWeaponSeconds = 8.0F;
+
+/// One more in a pocket, or points where it is full.
+void Pocket(GameState &State, std::int32_t &Held, std::int32_t Most) {
+    if (Held < Most) {
+        ++Held;
+    } else {
+        AddScore(State, ScoreForStage(FullPocketPoints, State.Stage));
+    }
+}
+
+void ApplyItem(GameState &State, std::int32_t Type) {
+    switch (Type) {
+    case ItemTypeFirstAid:
+        Pocket(State, State.FirstAidKits, MaxFirstAidKits);
+        break;
+    case ItemTypeBomb:
+        Pocket(State, State.Bombs, MaxBombs);
+        break;
+    case ItemTypeInvincibility:
+        State.InvincibilityPowerTimer = std::max(InvincibilitySeconds, State.InvincibilityPowerTimer);
+        break;
+    case ItemTypeDualWeapon:
+        State.DualWeaponPowerTimer = std::max(DualWeaponSeconds, State.DualWeaponPowerTimer);
+        break;
+    default:
+        break;
+    }
+}
+
+bool PickUp(GameState &State, const Item &Item) {
+    const Player &player = State.Player;
+    if (!CirclesTouch(player.X, player.Y, player.Radius, Item.X, Item.Y, Item.Radius)) {
+        return false;
+    }
+    ApplyItem(State, Item.Type);
+    PushSound(State, SfxId::Item);
+    return true;
+}
+
+} // namespace
+
+void MoveItems(GameState &State, float dt) {
+    for (Item &item : State.Items) {
+        item.X = LaneCenterX(item.Lane);
+        item.Y += RollingDistance(State, item.Speed, ItemLead, dt);
+    }
+}
+
+void PickUpItems(GameState &State) {
+    std::erase_if(State.Items, [&State](const Item &Item) {
+        return PickUp(State, Item) || Item.Y > ItemLeaveY;
+    });
+}
