@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+
+constexpr int GlyphRows = 8;
+constexpr int GlyphColumns = 7;
+
+/// A picture of 7 by 8 squares: a byte a row, the top row in the highest byte, bit 6 the leftmost column.
+struct Glyph {
+    std::uint64_t Rows = 0;
+};
+
+constexpr bool IsSet(Glyph Glyph, int Row, int Column) {
+    const int bit = (GlyphRows - 1 - Row) * 8 + (GlyphColumns - 1 - Column);
+    return (Glyph.Rows >> static_cast<unsigned>(bit) & 1U) != 0;
+}
+
+/// The built-in font's picture of a code point: blank below U+0080 where it draws nothing, a question mark
+/// for what it does not have.
+Glyph FindGlyph(std::uint32_t CodePoint);
