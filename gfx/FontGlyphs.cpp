@@ -12,7 +12,7 @@ struct GlyphEntry {
 };
 
 // Sorted by code point.
-constexpr std::array<GlyphEntry, 105> GlyphTable{{
+constexpr std::array<GlyphEntry, 105> FontGlyphs{{
     // clang-format off
     {0x0021, 0x0808080808000800}, {0x0022, 0x1414140000000000}, {0x0023, 0x143E143E14000000},
     {0x0024, 0x081E281C0A3C0800}, {0x0025, 0x3333060C18333300}, {0x0026, 0x182428102A241A00},
@@ -52,14 +52,14 @@ constexpr std::array<GlyphEntry, 105> GlyphTable{{
     // clang-format on
 }};
 
-static_assert(std::ranges::is_sorted(GlyphTable, {}, &GlyphEntry::CodePoint));
+static_assert(std::ranges::is_sorted(FontGlyphs, {}, &GlyphEntry::CodePoint));
 
 /// Bit 7 of a row has no column.
 constexpr std::uint64_t ColumnMask = 0x7F7F7F7F7F7F7F7F;
 
 constexpr std::optional<Glyph> GlyphInTable(std::uint32_t CodePoint) {
-    const auto found = std::ranges::lower_bound(GlyphTable, CodePoint, {}, &GlyphEntry::CodePoint);
-    if (found == GlyphTable.end() || found->CodePoint != CodePoint) {
+    const auto found = std::ranges::lower_bound(FontGlyphs, CodePoint, {}, &GlyphEntry::CodePoint);
+    if (found == FontGlyphs.end() || found->CodePoint != CodePoint) {
         return std::nullopt;
     }
     return Glyph{found->Rows & ColumnMask};

@@ -4,7 +4,7 @@
 #include "gfx/Text.hpp"
 #include "sim/Bomb.hpp"
 #include "sim/Lanes.hpp"
-#include "sim/Limits.hpp"
+#include "state/Limits.hpp"
 #include "state/GameState.hpp"
 #include "state/LogicalScreen.hpp"
 #include "text/Localization.hpp"

@@ -3,8 +3,8 @@
 #include "sim/Bursts.hpp"
 #include "sim/Damage.hpp"
 #include "sim/Geometry.hpp"
-#include "sim/Limits.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 
 #include <array>
 

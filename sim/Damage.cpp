@@ -2,8 +2,8 @@
 
 #include "sim/Bursts.hpp"
 #include "sim/Lanes.hpp"
-#include "sim/Limits.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 
 #include <algorithm>
 #include <limits>

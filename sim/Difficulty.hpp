@@ -17,4 +17,6 @@ float LightEnemySpeed(std::int32_t Stage);
 float HeavyEnemySpeed(std::int32_t Stage);
 float ObstacleSpeed(std::int32_t Stage);
 float ItemSpeed(std::int32_t Stage);
+
+/// A shot's own speed; the road speed scale does not touch it.
 float EnemyShotSpeed(std::int32_t Stage);

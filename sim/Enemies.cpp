@@ -28,7 +28,7 @@ constexpr float ShootBelowY = 14.0F;
 constexpr float ShootAboveY = 650.0F;
 constexpr float MuzzleDistance = 11.0F;
 
-/// How an enemy thinks and shoots, by the points that it has now: a heavy one that is down to its last point
+/// How an enemy thinks and shoots, by the hit points that it has now: a heavy one that is down to its last
 /// acts like a light one, and that is meant.
 struct Temper {
     float ThinkSeconds;

@@ -2,12 +2,12 @@
 
 #include "sim/Difficulty.hpp"
 #include "sim/Lanes.hpp"
-#include "sim/Limits.hpp"
 #include "sim/Random.hpp"
 #include "sim/Road.hpp"
 #include "sim/SpawnClearance.hpp"
 #include "sim/Timers.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 
 namespace {
 
@@ -45,7 +45,7 @@ Enemy DrawEnemy(GameState &State) {
     return enemy;
 }
 
-/// Puts the enemy into the first clear lane of a random order; none is clear only on a crowded road.
+/// Puts the enemy into the first clear lane of a random order; on a crowded road none may be, and it is lost.
 void PlaceEnemy(GameState &State, Enemy Enemy) {
     for (const std::int32_t lane : ShuffledLanes(State)) {
         Enemy.Lane = lane;

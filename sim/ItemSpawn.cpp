@@ -3,18 +3,19 @@
 #include "sim/Difficulty.hpp"
 #include "sim/ItemType.hpp"
 #include "sim/Lanes.hpp"
-#include "sim/Limits.hpp"
 #include "sim/Random.hpp"
 #include "sim/Road.hpp"
 #include "sim/SpawnClearance.hpp"
 #include "sim/Timers.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 
 #include <cmath>
 
 namespace {
 
 constexpr float ItemRadius = 10.0F;
+constexpr float DropChance = 0.08F;
 
 using LaneOrder = std::array<std::int32_t, LaneCount>;
 
@@ -112,5 +113,11 @@ void SpawnItem(GameState &State, float X, float Y) {
             State.Items.push_back(item);
             return;
         }
+    }
+}
+
+void DropItem(GameState &State, float X, float Y) {
+    if (RandomFloat(State, 0.0F, 1.0F) < DropChance) {
+        SpawnItem(State, X, Y);
     }
 }

@@ -9,3 +9,6 @@ void SpawnTimedItem(GameState &State, float dt);
 /// are tried from the one nearest to X outward; a negative Y means the spawn line. Where no lane is clear
 /// there is none.
 void SpawnItem(GameState &State, float X, float Y);
+
+/// Lets a destroyed enemy at (X, Y) drop an item now and then.
+void DropItem(GameState &State, float X, float Y);

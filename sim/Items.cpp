@@ -3,10 +3,10 @@
 #include "sim/Geometry.hpp"
 #include "sim/ItemType.hpp"
 #include "sim/Lanes.hpp"
-#include "sim/Limits.hpp"
 #include "sim/Road.hpp"
 #include "sim/Score.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 
 #include <algorithm>
 
@@ -65,7 +65,11 @@ void MoveItems(GameState &State, float dt) {
 }
 
 void PickUpItems(GameState &State) {
-    std::erase_if(State.Items, [&State](const Item &Item) {
-        return PickUp(State, Item) || Item.Y > ItemLeaveY;
-    });
+    for (std::size_t i = 0; i < State.Items.size();) {
+        if (PickUp(State, State.Items[i]) || State.Items[i].Y > ItemLeaveY) {
+            State.Items.erase(State.Items.begin() + static_cast<std::ptrdiff_t>(i));
+        } else {
+            ++i;
+        }
+    }
 }

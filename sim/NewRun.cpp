@@ -1,16 +1,14 @@
 #include "sim/NewRun.hpp"
 
 #include "sim/Lanes.hpp"
-#include "sim/Limits.hpp"
 #include "sim/Random.hpp"
 #include "sim/Stages.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 #include "state/SaveRequest.hpp"
 
 namespace {
 
-constexpr float FirstObstacleSeconds = 2.8F;
-constexpr float FirstItemSeconds = 6.0F;
 constexpr float ReadyBannerSeconds = 2.0F;
 
 void ResetRoad(GameState &State) {

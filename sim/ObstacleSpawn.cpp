@@ -3,12 +3,12 @@
 #include "sim/Difficulty.hpp"
 #include "sim/Geometry.hpp"
 #include "sim/Lanes.hpp"
-#include "sim/Limits.hpp"
 #include "sim/Random.hpp"
 #include "sim/Road.hpp"
 #include "sim/SpawnClearance.hpp"
 #include "sim/Timers.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 
 #include <algorithm>
 #include <array>

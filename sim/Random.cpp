@@ -16,7 +16,7 @@ std::uint32_t Draw(GameState &State) {
 
 float RandomFloat(GameState &State, float A, float B) {
     constexpr float largestBelowOne = 0x1.fffffep-1F;
-    // The conversion rounds the largest 127 outputs up to 2^32, which would make the end of the range part of
+    // The conversion rounds the largest 128 outputs up to 2^32, which would make the end of the range part of
     // it.
     const float v = std::min(static_cast<float>(Draw(State)) * 0x1p-32F, largestBelowOne);
     return (B - A) * v + A;
@@ -33,8 +33,8 @@ std::uint32_t RandomIndex(GameState &State, std::uint32_t N) {
     return static_cast<std::uint32_t>(product >> 32U);
 }
 
-std::array<std::int32_t, 9> ShuffledLanes(GameState &State) {
-    std::array<std::int32_t, 9> lanes{0, 1, 2, 3, 4, 5, 6, 7, 8};
+std::array<std::int32_t, LaneCount> ShuffledLanes(GameState &State) {
+    std::array<std::int32_t, LaneCount> lanes{0, 1, 2, 3, 4, 5, 6, 7, 8};
     for (std::uint32_t i = 1; i <= 7; i += 2) {
         // One draw serves two swaps: its quotient picks among the first i + 1, its remainder among i + 2.
         const std::uint32_t b = i + 2;

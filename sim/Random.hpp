@@ -1,21 +1,23 @@
 #pragma once
 
+#include "sim/Lanes.hpp"
+
 #include <array>
 #include <cstdint>
 
 struct GameState;
 
 // The draws of a run. They are spelled out, not left to the standard library's distributions, so that the
-// same generator gives the same run with every compiler.
+// same generator gives the same draws with every compiler.
 
-/// A uniform draw in [A, B).
+/// A uniform draw in [A, B); rounding may reach B where A is not 0.
 float RandomFloat(GameState &State, float A, float B);
 
 /// A uniform draw in 0 to N - 1; N is at least 1.
 std::uint32_t RandomIndex(GameState &State, std::uint32_t N);
 
 /// The nine lanes in a random order, from four draws.
-std::array<std::int32_t, 9> ShuffledLanes(GameState &State);
+std::array<std::int32_t, LaneCount> ShuffledLanes(GameState &State);
 
 /// -1 or +1.
 std::int32_t RandomFlowDirection(GameState &State);

@@ -17,6 +17,9 @@ constexpr float ScaledSpeed = 120.0F; ///< the road speed at which the scale is 
 void MoveRoad(GameState &State, float dt) {
     const float target = TargetScrollSpeed(State.Stage);
     State.CurrentScrollSpeed += (target - State.CurrentScrollSpeed) * (1.0F - std::exp(-EaseRate * dt));
+    if (!std::isfinite(State.CurrentScrollSpeed)) {
+        State.CurrentScrollSpeed = target; // from a damaged file; it would never ease back
+    }
     const float distance = State.CurrentScrollSpeed * dt;
     State.StageTransition = std::min(State.StageTransition + distance / LogicalHeightF, 1.0F);
     State.RoadScroll += distance;

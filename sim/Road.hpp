@@ -6,7 +6,7 @@ struct GameState;
 /// seam of the scenery.
 void MoveRoad(GameState &State, float dt);
 
-/// How much faster than in stage 1 the road is now: what all motion and the spawn timers are scaled by.
+/// How much faster than in stage 1 the road is now: what the traffic and the spawn timers are scaled by.
 float SpeedScale(const GameState &State);
 
 /// How far a thing of a speed rolls in dt seconds, in logical pixels: it is always faster than the road by at

@@ -3,7 +3,6 @@
 #include "sim/Bursts.hpp"
 #include "sim/Geometry.hpp"
 #include "sim/ItemSpawn.hpp"
-#include "sim/Random.hpp"
 #include "sim/Score.hpp"
 #include "state/GameState.hpp"
 
@@ -12,9 +11,8 @@
 namespace {
 
 constexpr float HitFlashSeconds = 0.12F;
-constexpr float DropChance = 0.08F;
 
-/// Takes one point and tells whether none is left. Below 0, which only a damaged file holds, it stays one
+/// Takes one hit point and tells whether none is left. Below 0, which only a damaged file holds, it stays one
 /// hit.
 bool TakePoint(std::int32_t &Hp) {
     Hp = std::max(Hp, 0) - 1;
@@ -35,9 +33,7 @@ void DestroyEnemy(GameState &State, std::vector<Enemy>::iterator Target) {
     AddBurst(State, Burst::DestroyedEnemy, x, y);
     PushSound(State, SfxId::EnemyDown);
     State.Enemies.erase(Target);
-    if (RandomFloat(State, 0.0F, 1.0F) < DropChance) {
-        SpawnItem(State, x, y);
-    }
+    DropItem(State, x, y);
 }
 
 bool HitObstacle(GameState &State, const Bullet &Bullet) {
@@ -76,7 +72,12 @@ bool HitEnemy(GameState &State, const Bullet &Bullet) {
 } // namespace
 
 void HitTargets(GameState &State) {
-    std::erase_if(State.Bullets, [&State](const Bullet &Bullet) {
-        return HitObstacle(State, Bullet) || HitEnemy(State, Bullet);
-    });
+    std::vector<Bullet> &bullets = State.Bullets;
+    for (std::size_t i = 0; i < bullets.size();) {
+        if (HitObstacle(State, bullets[i]) || HitEnemy(State, bullets[i])) {
+            bullets.erase(bullets.begin() + static_cast<std::ptrdiff_t>(i));
+        } else {
+            ++i;
+        }
+    }
 }

@@ -1,8 +1,8 @@
 #include "sim/Stages.hpp"
 
-#include "sim/Limits.hpp"
 #include "sim/Random.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 #include "state/Numbers.hpp"
 
 #include <algorithm>
@@ -66,7 +66,8 @@ void StartStage(GameState &State, std::int32_t NewStage) {
     State.StageTransition = 0.0F;
     State.PreviousWaterFlowDirection = State.WaterFlowDirection;
     AddSpareLives(State, NewStage, oldStage);
-    if (IsWaterStage(NewStage) && !IsWaterStage(oldStage)) {
+    if (IsWaterStage(NewStage) &&
+        !IsWaterStage(oldStage)) { // from one water stage to the next the flow stays
         State.WaterFlowDirection = RandomFlowDirection(State);
     }
 }

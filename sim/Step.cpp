@@ -7,11 +7,12 @@
 #include "sim/Enemies.hpp"
 #include "sim/EnemySpawn.hpp"
 #include "sim/Explosions.hpp"
+#include "sim/Fire.hpp"
 #include "sim/ItemSpawn.hpp"
 #include "sim/Items.hpp"
+#include "sim/LaneMove.hpp"
 #include "sim/ObstacleSpawn.hpp"
 #include "sim/Obstacles.hpp"
-#include "sim/PlayerControls.hpp"
 #include "sim/Road.hpp"
 #include "sim/ShotHits.hpp"
 #include "sim/Stages.hpp"
@@ -27,7 +28,8 @@ constexpr float SaveDelaySeconds = 0.8F;
 
 void ChangeStage(GameState &State) {
     const std::int32_t newStage = StageAt(State.GameTime);
-    if (newStage != State.Stage) {
+    if (newStage !=
+        State.Stage) { // also backwards: a loaded run whose stage does not fit its time is corrected
         StartStage(State, newStage);
     }
 }
@@ -59,7 +61,7 @@ void SimulationStep(GameState &State, float DeltaSeconds, const StepInput &StepI
     MoveObstacles(State, dt);
     MoveEnemyBullets(State, dt);
     HitTargets(State);
-    MeetEnemies(State);
+    MeetEnemies(State); // a life lost from here on does not leave the step
     MeetEnemyBullets(State);
     MeetObstacles(State);
     MoveItems(State, dt);

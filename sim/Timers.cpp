@@ -5,7 +5,8 @@
 #include <algorithm>
 
 void CountDown(float &Timer, float dt) {
-    Timer = std::max(Timer - dt, 0.0F);
+    // In this order the comparison turns what is no number, as a damaged file may hold, into 0 as well.
+    Timer = std::max(0.0F, Timer - dt);
 }
 
 void RunTimers(GameState &State, float dt) {

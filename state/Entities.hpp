@@ -1,6 +1,7 @@
 #pragma once
 
 #include "state/Color.hpp"
+#include "state/Limits.hpp"
 
 #include <cstdint>
 
@@ -9,11 +10,11 @@
 
 struct Player {
     float X = 640.0F;
-    float Y = 670.0F;
-    float Radius = 12.0F;
-    std::int32_t Hp = 100;
-    std::int32_t MaxHp = 100;
-    std::int32_t Stocks = 2; ///< spare lives, 0 to 5
+    float Y = PlayerY;
+    float Radius = PlayerRadius;
+    std::int32_t Hp = StartHp;
+    std::int32_t MaxHp = StartHp;
+    std::int32_t Stocks = StartStocks; ///< spare lives, 0 to 5
     float FireCooldown = 0.0F;
 
     bool operator==(const Player &) const = default;

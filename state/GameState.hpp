@@ -3,6 +3,7 @@
 #include "state/Bindings.hpp"
 #include "state/Display.hpp"
 #include "state/Entities.hpp"
+#include "state/Limits.hpp"
 #include "state/Screen.hpp"
 #include "state/Sounds.hpp"
 
@@ -35,17 +36,17 @@ struct GameState {
     float CurrentScrollSpeed = 120.0F;           ///< pixels a second, smoothed
     float StageTransition = 1.0F;                ///< share of the screen scrolled since the last stage change
     float SpawnTimer = 0.0F; ///< until the next enemy, in seconds scaled by the road speed
-    float ObstacleSpawnTimer = 2.8F;
-    float ItemSpawnTimer = 6.0F;
+    float ObstacleSpawnTimer = FirstObstacleSeconds;
+    float ItemSpawnTimer = FirstItemSeconds;
     float ReadyBanner = 0.0F;
-    float InvulnerabilityTimer = 0.0F; ///< no damage while above 0
-    float LaneMoveCooldown = 0.0F;     ///< no lane change while above 0
-    float AmmoRegenPause = 0.0F;       ///< no refill while above 0
-    float AmmoMeter = 100.0F;          ///< 0 to 100
-    std::int32_t Bombs = 3;            ///< 0 to 3
-    std::int32_t FirstAidKits = 0;     ///< 0 to 3
-    std::int32_t PlayerLane = 4;       ///< 0 to 8 from the left
-    bool SpecialActive = false;        ///< a bomb's flash is running
+    float InvulnerabilityTimer = 0.0F;             ///< no damage while above 0
+    float LaneMoveCooldown = 0.0F;                 ///< no lane change while above 0
+    float AmmoRegenPause = 0.0F;                   ///< no refill while above 0
+    float AmmoMeter = MaxAmmo;                     ///< 0 to 100
+    std::int32_t Bombs = StartBombs;               ///< 0 to 3
+    std::int32_t FirstAidKits = StartFirstAidKits; ///< 0 to 3
+    std::int32_t PlayerLane = 4;                   ///< 0 to 8 from the left
+    bool SpecialActive = false;                    ///< a bomb's flash is running
     float SpecialTimer = 0.0F;
     float InvincibilityPowerTimer = 0.0F;
     float DualWeaponPowerTimer = 0.0F;

@@ -8,7 +8,7 @@
 constexpr std::int32_t LogicalHeight = 720;
 
 /// The same as a float, for geometry.
-constexpr float LogicalHeightF = 720.0F;
+constexpr float LogicalHeightF = static_cast<float>(LogicalHeight);
 
 /// Width of the logical screen in logical pixels: 960, 1080, 1152, 1280, 1728 or 2560, by the aspect mode and
 /// the shape of the chosen resolution. Set by ComputeLogicalWidth alone.

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 /// Every word that the game shows, but the names that are never translated.
 enum class TextKey : std::uint8_t {
@@ -216,3 +217,7 @@ constexpr std::array<TextRow, 98> TextTable{{
 constexpr const TextRow &RowOf(TextKey Key) {
     return TextTable[static_cast<std::size_t>(Key)];
 }
+
+static_assert(
+    std::string_view(RowOf(TextKey::GameOverHintBackToMainMenu).Key) == "GameOver.Hint.BackToMainMenu",
+    "a row is missing");

@@ -1,15 +1,17 @@
 #include "tests/sim/Bot.hpp"
+#include "sim/FirstAid.hpp"
 #include "sim/Lanes.hpp"
 #include "sim/NewRun.hpp"
-#include "sim/PlayerControls.hpp"
 #include "sim/Step.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <random>
 #include <string>
+#include <utility>
 
 // Whole runs, from the first step to the game over, with steps of any length: what must hold after each step.
 
@@ -90,7 +92,7 @@ std::string BrokenField(const GameState &State) {
                            [](const Explosion &Burst) {
                                return Burst.Age >= 0.0F && Burst.Age < Burst.Life;
                            })},
-        {"PendingSounds", State.PendingSounds.Count < SoundQueue::Capacity},
+        {"PendingSounds", State.PendingSounds.Count <= SoundQueue::Capacity},
     };
     for (const auto &[name, holds] : promises) {
         if (!holds) {

@@ -1,4 +1,4 @@
-#include "sim/PlayerControls.hpp"
+#include "sim/FirstAid.hpp"
 #include "tests/sim/Runs.hpp"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "sim/NewRun.hpp"
 
-#include "sim/Limits.hpp"
+#include "state/Limits.hpp"
 #include "sim/Step.hpp"
 #include "state/GameState.hpp"
 #include "tests/sim/Runs.hpp"

@@ -2,7 +2,8 @@
 
 #include <cstdint>
 
-// What a player can hold, and where things enter and leave the road (y in logical pixels).
+// What a run starts with, what a player can hold, and where things enter and leave the road (y in logical
+// pixels).
 
 constexpr std::int32_t StartHp = 100;
 constexpr std::int32_t StartStocks = 2;
@@ -12,6 +13,9 @@ constexpr std::int32_t MaxBombs = 3;
 constexpr std::int32_t StartFirstAidKits = 0;
 constexpr std::int32_t MaxFirstAidKits = 3;
 constexpr float MaxAmmo = 100.0F;
+
+constexpr float FirstObstacleSeconds = 2.8F; ///< until the first one of a run, scaled by the road speed
+constexpr float FirstItemSeconds = 6.0F;
 
 constexpr float PlayerY = 670.0F;
 constexpr float PlayerRadius = 12.0F;

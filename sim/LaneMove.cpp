@@ -1,0 +1,19 @@
+#include "sim/LaneMove.hpp"
+
+#include "sim/Lanes.hpp"
+#include "state/GameState.hpp"
+
+namespace {
+
+constexpr float LaneMoveSeconds = 0.09F;
+
+} // namespace
+
+void MoveLane(GameState &State, const StepInput &StepInput) {
+    if (StepInput.MoveLeft == StepInput.MoveRight || State.LaneMoveCooldown > 0.0F) {
+        return;
+    }
+    State.PlayerLane = ClampLane(State.PlayerLane + (StepInput.MoveLeft ? -1 : 1));
+    State.LaneMoveCooldown = LaneMoveSeconds; // at the road's edge too, where the lane stays
+    State.Player.X = LaneCenterX(State.PlayerLane);
+}
