@@ -3,6 +3,8 @@
 #include "sim/Explosions.hpp"
 #include "sim/Lanes.hpp"
 #include "sim/NewRun.hpp"
+#include "sim/Stages.hpp"
+#include "sim/Step.hpp"
 
 GameState BusyRoad() {
     GameState state;
@@ -36,6 +38,21 @@ GameState BusyRoad() {
         state.Items.push_back(
             {LaneCenterX(2 * i), 100.0F + 120.0F * static_cast<float>(i), 87.0F, 10.0F, 2 * i, i});
         AddExplosion(state, LaneCenterX(i), 200.0F, 0.45F, 24.0F, {0xFF, 0xC8, 0x64, 0xE6});
+    }
+    return state;
+}
+
+GameState RoadOfStage30() {
+    GameState state;
+    state.Rng.seed(1);
+    StartNewRun(state);
+    StartStage(state, 30);
+    state.GameTime = 29.0F * StageSeconds;
+    for (int i = 0; i < 30 * 60; ++i) {
+        state.InvincibilityPowerTimer = 6.0F;
+        state.GameTime = 29.0F * StageSeconds;
+        SimulationStep(state, 1.0F / 60.0F, {});
+        state.PendingSounds.Count = 0;
     }
     return state;
 }

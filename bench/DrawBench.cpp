@@ -1,6 +1,7 @@
 #include "bench/BusyRoad.hpp"
 #include "bench/DrawCalls.hpp"
 #include "gfx/Atlas.hpp"
+#include "gfx/Hud.hpp"
 #include "gfx/World.hpp"
 #include "sim/Lanes.hpp"
 #include "state/LogicalScreen.hpp"
@@ -34,20 +35,22 @@ public:
     SDL_Renderer *Renderer;
 };
 
-void DrawBusyFrame(benchmark::State &Bench) {
+using DrawFunction = void (*)(SDL_Renderer *Renderer, const GameState &State);
+
+void DrawWith(benchmark::State &Bench, DrawFunction Draw) {
     const Canvas canvas(static_cast<std::int32_t>(Bench.range(0)));
     const GameState state = BusyRoad();
     for (auto iteration : Bench) {
-        RenderGameplay(canvas.Renderer, state);
+        Draw(canvas.Renderer, state);
         SDL_FlushRenderer(canvas.Renderer);
     }
 }
 
-void PlayBackBareCalls(benchmark::State &Bench) {
+void PlayBackCallsOf(benchmark::State &Bench, DrawFunction Draw) {
     const Canvas canvas(static_cast<std::int32_t>(Bench.range(0)));
     const GameState state = BusyRoad();
-    const DrawCalls calls = RecordDrawCalls([&canvas, &state] {
-        RenderGameplay(canvas.Renderer, state);
+    const DrawCalls calls = RecordDrawCalls([&canvas, &state, Draw] {
+        Draw(canvas.Renderer, state);
     });
     for (auto iteration : Bench) {
         for (const auto &call : calls) {
@@ -57,7 +60,25 @@ void PlayBackBareCalls(benchmark::State &Bench) {
     }
 }
 
+void DrawBusyFrame(benchmark::State &Bench) {
+    DrawWith(Bench, RenderGameplay);
+}
+
+void PlayBackBareCalls(benchmark::State &Bench) {
+    PlayBackCallsOf(Bench, RenderGameplay);
+}
+
+void DrawHudFrame(benchmark::State &Bench) {
+    DrawWith(Bench, DrawHud);
+}
+
+void PlayBackBareHudCalls(benchmark::State &Bench) {
+    PlayBackCallsOf(Bench, DrawHud);
+}
+
 BENCHMARK(DrawBusyFrame)->Arg(1280)->Arg(2560)->Unit(benchmark::kMillisecond);
 BENCHMARK(PlayBackBareCalls)->Arg(1280)->Arg(2560)->Unit(benchmark::kMillisecond);
+BENCHMARK(DrawHudFrame)->Arg(1280)->Unit(benchmark::kMillisecond);
+BENCHMARK(PlayBackBareHudCalls)->Arg(1280)->Unit(benchmark::kMillisecond);
 
 } // namespace

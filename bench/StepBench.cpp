@@ -35,7 +35,12 @@ void StepOnFullRoad(benchmark::State &Bench) {
     StepFrom(Bench, BusyRoad());
 }
 
+void StepInStage30(benchmark::State &Bench) {
+    StepFrom(Bench, RoadOfStage30());
+}
+
 BENCHMARK(StepOnEmptyRoad);
 BENCHMARK(StepOnFullRoad);
+BENCHMARK(StepInStage30);
 
 } // namespace

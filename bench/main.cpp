@@ -34,6 +34,7 @@ struct Ratio {
 constexpr std::array Ratios{
     Ratio{"drawing at 1280x720", "DrawBusyFrame/1280", "PlayBackBareCalls/1280", 1.10},
     Ratio{"drawing at 2560x720", "DrawBusyFrame/2560", "PlayBackBareCalls/2560", 1.10},
+    Ratio{"the HUD", "DrawHudFrame/1280", "PlayBackBareHudCalls/1280", 1.10},
     Ratio{"start-up", "StartGame/iterations:20/manual_time", "StartBareProgram/iterations:20/manual_time",
         1.25},
 };

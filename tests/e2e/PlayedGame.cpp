@@ -58,14 +58,17 @@ std::optional<int> PlayedGame::Close() {
     return Session.Close();
 }
 
-std::optional<Picture> PlayedGame::WaitForPicture(const std::function<bool(const Picture &)> &Shows) {
+std::optional<Picture> PlayedGame::WaitForPicture(
+    const std::function<bool(const Picture &)> &Shows, std::chrono::milliseconds Deadline) {
     Picture seen;
     bool shown = false;
-    WaitUntil([&] {
-        seen = Person().Screenshot();
-        shown = Shows(seen);
-        return shown || !Program().IsRunning();
-    });
+    WaitUntil(
+        [&] {
+            seen = Person().Screenshot();
+            shown = Shows(seen);
+            return shown || !Program().IsRunning();
+        },
+        Deadline);
     return shown ? std::optional(seen) : std::nullopt;
 }
 
@@ -75,7 +78,7 @@ testing::AssertionResult PlayedGame::StaysFor(int Frames, const std::function<bo
     while (frames < Frames) {
         const std::optional<Picture> next = WaitForPicture([&](const Picture &Seen) {
             const std::optional<int> phase = FindDashPhase(Seen);
-            return !Shows(Seen) || (phase && phase != lastPhase);
+            return FindCar(Seen) && (!Shows(Seen) || (phase && phase != lastPhase));
         });
         if (!next) {
             return testing::AssertionFailure() << "the road stood still after frame " << frames;

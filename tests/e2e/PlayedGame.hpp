@@ -2,7 +2,9 @@
 
 #include "tools/desktop/GameSession.hpp"
 #include "tools/desktop/RoadSight.hpp"
+#include "tools/desktop/WaitUntil.hpp"
 
+#include <chrono>
 #include <functional>
 #include <gtest/gtest.h>
 #include <optional>
@@ -21,8 +23,10 @@ public:
     std::optional<int> Close();
 
     // Takes pictures until one satisfies Shows, and gives that one; nothing if none did in time.
-    std::optional<Picture> WaitForPicture(const std::function<bool(const Picture &)> &Shows);
-    // Whether each of the next Frames pictures in which the road has moved on satisfies Shows.
+    std::optional<Picture> WaitForPicture(const std::function<bool(const Picture &)> &Shows,
+        std::chrono::milliseconds Deadline = PatientDeadline);
+    // Whether each of the next Frames pictures in which the road has moved on satisfies Shows. Those in which
+    // the car cannot be seen, because it blinks after a blow or a burst lies over it, do not count.
     testing::AssertionResult StaysFor(int Frames, const std::function<bool(const Picture &)> &Shows);
 
 private:

@@ -10,6 +10,8 @@ namespace {
 constexpr Pixel EdgeLineColour{0xB4, 0xB9, 0xBE};
 constexpr Pixel DashColour{0xEB, 0xEB, 0xEB};
 constexpr Pixel CarBodyColour{0x2C, 0x5E, 0x96};
+constexpr Pixel EnemyColour{0x8E, 0x76, 0x62};
+constexpr Pixel ToughEnemyColour{0x80, 0x6C, 0x58};
 constexpr Pixel ShotColour{0xF0, 0xD0, 0x48};
 
 constexpr int RoadWidth = 320;
@@ -24,12 +26,43 @@ constexpr std::array<int, LaneCount> LaneOffsets{30, 63, 95, 128, 160, 193, 225,
 constexpr int CarTop = 640;
 constexpr int CarBottom = 700;
 
+// The numbers in the left column, of the HUD's text size.
+constexpr Pixel TextColour{0xEB, 0xEB, 0xEB};
+constexpr int TextLeft = 24;
+constexpr int TextHeight = 24;
+constexpr int DigitAdvance = 21;
+constexpr int ScoreWidth = 8 * DigitAdvance;
+constexpr int ScoreTop = 122;
+constexpr int HighScoreTop = 190;
+
+// The digit 0, a row of 7 squares each, the leftmost in bit 6.
+constexpr int GlyphRows = 8;
+constexpr int GlyphColumns = 7;
+constexpr std::array<int, GlyphRows> ZeroRows{0x1C, 0x22, 0x26, 0x2A, 0x32, 0x22, 0x1C, 0x00};
+
+// The panel at the right: 24 from the edge, as wide as "HEALTH", a gap of 12 and a bar of 110.
+constexpr int PanelWidth = 6 * DigitAdvance + 12 + 110;
+constexpr int PanelMargin = 24;
+constexpr int BarHeight = 10;
+constexpr int HealthBarTop = 34;
+constexpr int AmmoBarTop = 68;
+constexpr Pixel HealthColour{0x5F, 0xE6, 0x82};
+constexpr Pixel AmmoColour{0xF0, 0xDC, 0x50};
+constexpr Pixel BombColour{0xCD, 0xD7, 0xEB};
+constexpr int BombRowTop = 137;
+constexpr int IconSize = 26;
+constexpr std::array<int, 3> IconLefts{0, 30, 60};
+
 int RoadCentre(const Picture &Seen) {
     return Seen.Width / 2;
 }
 
 Area RoadArea(const Picture &Seen, int Top, int Bottom) {
     return {RoadCentre(Seen) - RoadWidth / 2, Top, RoadCentre(Seen) + RoadWidth / 2, Bottom};
+}
+
+int PanelLeft(const Picture &Seen) {
+    return Seen.Width - PanelMargin - PanelWidth;
 }
 
 // Things on the road may cover a stretch of an edge line, so a little more than half of it is enough.
@@ -61,6 +94,24 @@ bool IsWholeDash(const Picture &Seen, int X, int Top) {
 // Whether a pixel of a shot belongs to those already found in this group; a shot is 3 wide and 6 high.
 bool Touches(const Area &Shot, int X, int Y) {
     return X >= Shot.Left - 3 && X < Shot.Right + 3 && Y >= Shot.Top - 3 && Y < Shot.Bottom + 3;
+}
+
+// How wide a bar's fill is: the run of its colour in the middle row of the bar.
+int BarShown(const Picture &Seen, int Top, Pixel Colour) {
+    const Area row{PanelLeft(Seen), Top + BarHeight / 2, Seen.Width, Top + BarHeight / 2 + 1};
+    return CountPixels(Seen, row, [Colour](const Pixel &Dot) {
+        return Dot == Colour;
+    });
+}
+
+// Which pixels of eight digits in the left column are lit.
+std::vector<bool> DigitsAt(const Picture &Seen, int Top) {
+    std::vector<bool> lit;
+    ForEachPixel(
+        Seen, {TextLeft, Top, TextLeft + ScoreWidth, Top + TextHeight}, [&lit](int, int, const Pixel &Dot) {
+            lit.push_back(Dot == TextColour);
+        });
+    return lit;
 }
 
 } // namespace
@@ -116,6 +167,12 @@ std::vector<Area> FindShots(const Picture &Seen) {
     return shots;
 }
 
+bool SeesEnemy(const Picture &Seen) {
+    return CountPixels(Seen, RoadArea(Seen, 0, CarTop), [](const Pixel &Dot) {
+        return Dot == EnemyColour || Dot == ToughEnemyColour;
+    }) > 0;
+}
+
 std::optional<int> FindDashPhase(const Picture &Seen) {
     for (int top = 1; top < CarTop; ++top) {
         if (IsWholeDash(Seen, RoadCentre(Seen), top)) {
@@ -126,17 +183,50 @@ std::optional<int> FindDashPhase(const Picture &Seen) {
 }
 
 // The road itself is bluish throughout; under that light, red outweighs blue. It takes more than half of the
-// patch of road above the car's nose to be lit, so that no shot or item counts.
+// road around the car to be lit, so that no shot, item or burst counts.
 bool SeesBlast(const Picture &Seen) {
-    const std::optional<Area> car = FindCar(Seen);
-    if (!car) {
-        return false;
-    }
-    const Area road = RoadArea(Seen, 0, Seen.Height);
-    const Area patch{std::max(car->Left - 32, road.Left), car->Top - 42,
-        std::min(car->Right + 32, road.Right), car->Top - 17};
+    const Area patch = RoadArea(Seen, CarTop - 60, CarBottom);
     const int lit = CountPixels(Seen, patch, [](const Pixel &Dot) {
         return Dot.Red > Dot.Blue + 4;
     });
     return lit * 2 > (patch.Right - patch.Left) * (patch.Bottom - patch.Top);
+}
+
+int HealthShown(const Picture &Seen) {
+    return BarShown(Seen, HealthBarTop, HealthColour);
+}
+
+int AmmoShown(const Picture &Seen) {
+    return BarShown(Seen, AmmoBarTop, AmmoColour);
+}
+
+int BombsShown(const Picture &Seen) {
+    int bombs = 0;
+    for (const int x : IconLefts) {
+        const Area slot{
+            PanelLeft(Seen) + x, BombRowTop, PanelLeft(Seen) + x + IconSize, BombRowTop + IconSize};
+        bombs += BoundsOfColour(Seen, slot, BombColour) != Area{} ? 1 : 0;
+    }
+    return bombs;
+}
+
+bool ScoreEqualsHighScore(const Picture &Seen) {
+    return DigitsAt(Seen, ScoreTop) == DigitsAt(Seen, HighScoreTop);
+}
+
+bool ScoreIsZero(const Picture &Seen) {
+    constexpr int scale = 3;
+    for (int digit = 0; digit < 8; ++digit) {
+        const int left = TextLeft + digit * DigitAdvance;
+        for (int row = 0; row < GlyphRows; ++row) {
+            for (int column = 0; column < GlyphColumns; ++column) {
+                const bool lit = PixelAt(Seen, left + column * scale, ScoreTop + row * scale) == TextColour;
+                if (lit !=
+                    ((ZeroRows[static_cast<std::size_t>(row)] >> (GlyphColumns - 1 - column) & 1) != 0)) {
+                    return false;
+                }
+            }
+        }
+    }
+    return true;
 }

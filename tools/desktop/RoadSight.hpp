@@ -29,6 +29,9 @@ std::optional<int> FindCarLane(const Picture &Seen);
 // The player's shots, from the top of the screen downwards.
 std::vector<Area> FindShots(const Picture &Seen);
 
+// Whether an enemy car is on the road.
+bool SeesEnemy(const Picture &Seen);
+
 // How far the road has scrolled, in pixels, as far as the dashes of its centre line tell: modulo DashPeriod.
 // Nothing if no dash can be seen whole.
 inline constexpr int DashPeriod = 62;
@@ -36,3 +39,15 @@ std::optional<int> FindDashPhase(const Picture &Seen);
 
 // Whether the pale yellow light of a bomb lies on the road around the car.
 bool SeesBlast(const Picture &Seen);
+
+// How wide the fills of the bars are, 0 to 110.
+int HealthShown(const Picture &Seen);
+int AmmoShown(const Picture &Seen);
+
+// How many bombs are shown in the panel, 0 to 3.
+int BombsShown(const Picture &Seen);
+
+// Whether the score shows eight times the digit 0, and whether it reads the same as the high score. Both hold
+// for scores of eight digits.
+bool ScoreIsZero(const Picture &Seen);
+bool ScoreEqualsHighScore(const Picture &Seen);

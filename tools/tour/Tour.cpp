@@ -39,12 +39,17 @@ bool ShotsFly(const Picture &Seen) {
     return FindShots(Seen).size() >= 3;
 }
 
+bool IsHurt(const Picture &Seen) {
+    return HealthShown(Seen) < 110;
+}
+
 bool RoadIsQuiet(const Picture &Seen) {
     return FindCar(Seen) && FindShots(Seen).empty() && !SeesBlast(Seen);
 }
 
 constexpr std::array Stops{
     Stop{"start", {Nothing}, CarIsInLane<4>, "The run begins: the car on the middle of its nine lanes."},
+    Stop{"traffic", {Nothing}, SeesEnemy, "An enemy car comes down the road."},
     Stop{"left-edge", {Key::Left}, CarIsInLane<0>, "Left is held: the car has jumped to the leftmost lane."},
     Stop{"right-edge", {Key::Right}, CarIsInLane<8>, "Right is held: the car has crossed the whole road."},
     Stop{"fire", {Key::LeftControl}, ShotsFly, "Left Ctrl is held: shots fly up the road."},
@@ -55,6 +60,7 @@ constexpr std::array Stops{
         },
         "Left and left Ctrl together: the car weaves to the left edge and shoots on its way."},
     Stop{"road-ahead", {Nothing}, RoadIsQuiet, "All keys are up: the road scrolls on."},
+    Stop{"hurt", {Nothing}, IsHurt, "Shots and cars that are not dodged cost health: the bar has gone down."},
 };
 
 void MoveKeys(XClient &Person, const Stop &Here, void (XClient::*Move)(Key)) {

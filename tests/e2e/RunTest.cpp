@@ -1,0 +1,83 @@
+#include "tests/e2e/PlayedGame.hpp"
+
+#include "tools/desktop/WaitUntil.hpp"
+
+// A run as a person plays it, and what the HUD tells of it.
+
+TEST(Run, TheHudStartsFull) {
+    PlayedGame game;
+    const Picture seen = game.Person().Screenshot();
+    EXPECT_EQ(HealthShown(seen), 110);
+    EXPECT_EQ(AmmoShown(seen), 110);
+    EXPECT_EQ(BombsShown(seen), 3);
+    EXPECT_TRUE(ScoreIsZero(seen));
+    EXPECT_TRUE(ScoreEqualsHighScore(seen));
+}
+
+TEST(Run, FiringEmptiesTheAmmoBarAndARestRefillsIt) {
+    PlayedGame game;
+    game.Person().PressKey(Key::LeftControl);
+    // 33 salvos at most; a frame a salvo or more, so the bar goes down by 3.3 at a time.
+    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+        return AmmoShown(Seen) <= 4;
+    }));
+    game.Person().ReleaseKey(Key::LeftControl);
+    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+        return AmmoShown(Seen) >= 60;
+    }));
+}
+
+TEST(Run, ABombGoesFromThePanel) {
+    PlayedGame game;
+    game.Person().PressKey(Key::X);
+    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+        return BombsShown(Seen) == 2;
+    }));
+    game.Person().ReleaseKey(Key::X);
+    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+        return !SeesBlast(Seen);
+    }));
+    EXPECT_EQ(BombsShown(game.Person().Screenshot()), 2);
+}
+
+// A car that stands still and shoots for a while scores; one that then only stands still loses its three
+// lives in about half a minute of play.
+TEST(Run, PlayedToItsDeathTheHudTellsAllOfIt) {
+    constexpr std::chrono::minutes patience{4};
+    PlayedGame game;
+    game.Person().PressKey(Key::LeftControl);
+    EXPECT_TRUE(game.WaitForPicture(
+        [](const Picture &Seen) {
+            return !ScoreIsZero(Seen) && ScoreEqualsHighScore(Seen);
+        },
+        patience));
+    game.Person().ReleaseKey(Key::LeftControl);
+    EXPECT_TRUE(game.WaitForPicture(
+        [](const Picture &Seen) {
+            return HealthShown(Seen) < 110;
+        },
+        patience));
+    ASSERT_TRUE(game.WaitForPicture(
+        [](const Picture &Seen) {
+            return HealthShown(Seen) == 0;
+        },
+        patience));
+    // The death animation runs out, the car is gone and the road stands still.
+    const std::optional<int> phase = [&game] {
+        std::optional<int> last;
+        int same = 0;
+        game.WaitForPicture([&](const Picture &Seen) {
+            const std::optional<int> now = FindDashPhase(Seen);
+            same = now && now == last ? same + 1 : 0;
+            last = now;
+            return same == 20;
+        });
+        return same == 20 ? last : std::nullopt;
+    }();
+    EXPECT_TRUE(phase) << "the road scrolls on";
+    const Picture over = game.Person().Screenshot();
+    EXPECT_FALSE(FindCar(over));
+    EXPECT_EQ(HealthShown(over), 0);
+    EXPECT_FALSE(ScoreIsZero(over));
+    EXPECT_EQ(game.Close(), std::optional(0));
+}
