@@ -8,7 +8,7 @@
 /// The draws of a run, worked out a second time from a copy of its generator. A test takes from it what the
 /// game is expected to take, in that order, and compares values and, with IsAt, how many were taken.
 class Draws {
-  public:
+public:
     explicit Draws(std::uint32_t Seed) : Engine(Seed) {}
 
     /// In [0, 1).
@@ -53,7 +53,7 @@ class Draws {
         return Engine == Rng;
     }
 
-  private:
+private:
     std::uint64_t Next() {
         return Engine();
     }

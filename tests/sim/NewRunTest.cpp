@@ -1,8 +1,8 @@
 #include "sim/NewRun.hpp"
 
-#include "state/Limits.hpp"
 #include "sim/Step.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 #include "tests/sim/Runs.hpp"
 #include "tests/support/LogicalWidthScope.hpp"
 

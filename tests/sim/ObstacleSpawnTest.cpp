@@ -160,7 +160,7 @@ TEST(ObstacleSpawn, AnItemThatTouchesTheWidenedRectangleRefusesTheLane) {
 TEST(ObstacleSpawn, AnEnemyRefusesTheLanesBesideItToABarrierButNotToARock) {
     GameState state = DueRun();
     state.Enemies.push_back(EnemyInLane(4, -24.0F));
-    EXPECT_EQ(BirthLanes(state, 0), (LaneSet{0, 1, 2, 6, 7, 8})); // 31 + 12 reaches over 32 and 33
+    EXPECT_EQ(BirthLanes(state, 0), (LaneSet{0, 1, 2, 6, 7, 8}));       // 31 + 12 reaches over 32 and 33
     EXPECT_EQ(BirthLanes(state, 2), (LaneSet{0, 1, 2, 3, 5, 6, 7, 8})); // 17 + 12 does not
 }
 
@@ -182,8 +182,8 @@ TEST(ObstacleSpawn, AnObstacleAboveTheSpawnLineRefusesAsOneBelow) {
     EXPECT_EQ(BirthLanes(WithBarrierIn({4}, -46.25F), 0), AllLanes);
 }
 
-TEST(ObstacleSpawn, AnObstacleInALaneThatIsWideEnoughAwayIsNoReasonToKeepAGap) {
-    // Lanes 0, 2, 4 and 6 are shut: the last clear lane is shut as well.
+TEST(ObstacleSpawn, TheLastClearLaneOfARowIsShutAsWell) {
+    // Nothing keeps a gap for the player.
     EXPECT_EQ(BirthLanes(WithBarrierIn({0, 2, 4, 6}, -24.0F), 0), LaneSet{8});
 }
 

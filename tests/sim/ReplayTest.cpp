@@ -1,5 +1,5 @@
-#include "sim/NewRun.hpp"
 #include "sim/FirstAid.hpp"
+#include "sim/NewRun.hpp"
 #include "sim/Step.hpp"
 #include "state/GameState.hpp"
 #include "tests/sim/RecordHash.hpp"
