@@ -5,7 +5,7 @@
 
 #include <SDL3/SDL_main.h>
 
-int main(int, char **) {
+int main(int /*ArgumentCount*/, char ** /*Arguments*/) {
     static Program program;
     if (!StartUp(program)) {
         return 1;

@@ -76,8 +76,10 @@ void ExtrudeEdges(SDL_Renderer *Renderer, SpriteId Id, float X, float Y) {
 }
 
 SDL_FRect CellOf(std::int32_t Id) {
-    return {static_cast<float>(Id % CellsAcross * CellPitch + 1),
-        static_cast<float>(Id / CellsAcross * CellPitch + 1), SpriteSize, SpriteSize};
+    const int column = Id % CellsAcross;
+    const int row = Id / CellsAcross;
+    return {static_cast<float>(column * CellPitch + 1), static_cast<float>(row * CellPitch + 1), SpriteSize,
+        SpriteSize};
 }
 
 void PaintAllSprites(SDL_Renderer *Renderer) {
