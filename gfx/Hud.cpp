@@ -4,8 +4,8 @@
 #include "gfx/Text.hpp"
 #include "sim/Bomb.hpp"
 #include "sim/Lanes.hpp"
-#include "state/Limits.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 #include "state/LogicalScreen.hpp"
 #include "text/Localization.hpp"
 
