@@ -37,7 +37,7 @@ test:
 bench:
 	@scripts/setup test
 	cmake --preset release
-	cmake --build --preset release
+	cmake --build --preset release --target kestrel-bench
 	build/release/bench/kestrel-bench
 
 asan:
