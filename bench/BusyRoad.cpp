@@ -17,6 +17,8 @@ GameState BusyRoad() {
         enemy.Y = 20.0F + static_cast<float>(i) * 25.0F;
         enemy.Hp = 1 + i % 2;
         enemy.Speed = 130.0F;
+        enemy.AiTimer = 0.02F * static_cast<float>(i); // one of them thinks in each step, and one shoots
+        enemy.FireCooldown = 0.05F * static_cast<float>(i);
         enemy.HitFlash = i % 3 == 0 ? 0.1F : 0.0F;
         state.Enemies.push_back(enemy);
     }

@@ -9,8 +9,7 @@
 
 namespace {
 
-constexpr float EaseRate = 5.5F;      ///< per second
-constexpr float ScaledSpeed = 120.0F; ///< the road speed at which the scale is 1
+constexpr float EaseRate = 5.5F; ///< per second
 
 } // namespace
 
@@ -24,12 +23,4 @@ void MoveRoad(GameState &State, float dt) {
     State.StageTransition = std::min(State.StageTransition + distance / LogicalHeightF, 1.0F);
     State.RoadScroll += distance;
     State.GameTime += dt;
-}
-
-float SpeedScale(const GameState &State) {
-    return State.CurrentScrollSpeed / ScaledSpeed;
-}
-
-float RollingDistance(const GameState &State, float Speed, float Lead, float dt) {
-    return std::max(State.CurrentScrollSpeed + Lead, Speed * SpeedScale(State)) * dt;
 }

@@ -1,14 +1,21 @@
 #pragma once
 
-struct GameState;
+#include "state/GameState.hpp"
+
+#include <algorithm>
 
 /// Eases the road towards its stage's speed, then drives on for dt seconds: the distance, the time and the
 /// seam of the scenery.
 void MoveRoad(GameState &State, float dt);
 
 /// How much faster than in stage 1 the road is now: what the traffic and the spawn timers are scaled by.
-float SpeedScale(const GameState &State);
+inline float SpeedScale(const GameState &State) {
+    constexpr float scaledSpeed = 120.0F; // the road speed at which the scale is 1
+    return State.CurrentScrollSpeed / scaledSpeed;
+}
 
 /// How far a thing of a speed rolls in dt seconds, in logical pixels: it is always faster than the road by at
 /// least Lead pixels a second.
-float RollingDistance(const GameState &State, float Speed, float Lead, float dt);
+inline float RollingDistance(const GameState &State, float Speed, float Lead, float dt) {
+    return std::max(State.CurrentScrollSpeed + Lead, Speed * SpeedScale(State)) * dt;
+}
