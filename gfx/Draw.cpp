@@ -52,12 +52,6 @@ int TileSize(float SourceSize, float Scale) {
     return std::max(RoundToInt(SourceSize * Scale), 1);
 }
 
-/// An offset brought into 0 to Size - 1. The float remainder is exact, so no offset is too large for it.
-int PhaseOf(float Offset, int Size) {
-    const int remainder = TruncateToInt(std::fmod(std::floor(Offset), static_cast<float>(Size)));
-    return remainder < 0 ? remainder + Size : remainder;
-}
-
 } // namespace
 
 void SetDrawColor(SDL_Renderer *Renderer, std::uint32_t PackedColor) {
@@ -142,8 +136,8 @@ void DrawTiledSprite(SDL_Renderer *Renderer, SpriteId Id, float X, float Y, floa
     const int tileHeight = TileSize(source.h, Scale);
     const ClipGuard guard(Renderer);
     SDL_SetRenderClipRect(Renderer, &clip);
-    const int firstX = left + PhaseOf(OffsetX, tileWidth) - tileWidth;
-    const int firstY = top + PhaseOf(OffsetY, tileHeight) - tileHeight;
+    const int firstX = left + FloorModulo(OffsetX, tileWidth) - tileWidth;
+    const int firstY = top + FloorModulo(OffsetY, tileHeight) - tileHeight;
     for (int ty = firstY; ty < bottom; ty += tileHeight) {
         for (int tx = firstX; tx < right; tx += tileWidth) {
             // Rows overlap by a pixel, so that no seam opens between them when the screen is shown scaled;

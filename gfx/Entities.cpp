@@ -1,7 +1,9 @@
 #include "gfx/Entities.hpp"
 
 #include "gfx/Draw.hpp"
+#include "sim/ItemType.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 #include "state/Numbers.hpp"
 
 #include <algorithm>
@@ -14,7 +16,6 @@ constexpr float EntitySize = 26.0F; ///< of enemies and items
 constexpr float ObstacleScale = 1.3F;
 constexpr float PlayerSize = 31.2F;
 
-constexpr float HitFlashSeconds = 0.12F; ///< where the flash is strongest
 constexpr float BlinksPerSecond = 15.0F;
 
 constexpr float HaloRadius = 18.2F;
@@ -27,11 +28,11 @@ constexpr std::uint32_t EnemyBulletInner = 0xFF82CDFF;
 
 SpriteId ItemSprite(std::int32_t Type) {
     switch (Type) {
-    case 1:
+    case ItemTypeBomb:
         return SpriteItemBomb;
-    case 2:
+    case ItemTypeInvincibility:
         return SpriteItemInvincibility;
-    case 3:
+    case ItemTypeDualWeapon:
         return SpriteItemDualWeapon;
     default:
         return SpriteItemFirstAid;

@@ -63,8 +63,7 @@ constexpr std::uint32_t DashColor = 0xFFEBEBEB;
 /// Where the first of a row of marks begins that scrolls with the road and starts above the screen:
 /// -Period to -1.
 int FirstMark(float RoadScroll, int Period) {
-    const int remainder = TruncateToInt(std::fmod(std::floor(RoadScroll), static_cast<float>(Period)));
-    return (remainder + Period) % Period - Period;
+    return FloorModulo(RoadScroll, Period) - Period;
 }
 
 float OnScreen(float Y) {

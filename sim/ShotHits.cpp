@@ -5,12 +5,11 @@
 #include "sim/ItemSpawn.hpp"
 #include "sim/Score.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 
 #include <algorithm>
 
 namespace {
-
-constexpr float HitFlashSeconds = 0.12F;
 
 /// Takes one hit point and tells whether none is left. Below 0, which only a damaged file holds, it stays one
 /// hit.

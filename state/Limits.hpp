@@ -20,6 +20,8 @@ constexpr float FirstItemSeconds = 6.0F;
 constexpr float PlayerY = 670.0F;
 constexpr float PlayerRadius = 12.0F;
 
+constexpr float HitFlashSeconds = 0.12F; ///< of a thing that was shot; drawn strongest at that much or more
+
 constexpr float EnemySpawnY = -20.0F;
 constexpr float ObstacleSpawnY = -24.0F;
 constexpr float ItemSpawnY = -18.0F;

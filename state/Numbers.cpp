@@ -20,3 +20,8 @@ std::int32_t TruncateToInt(float Value) {
 std::int32_t RoundToInt(float Value) {
     return TruncateToInt(std::round(Value));
 }
+
+std::int32_t FloorModulo(float Value, std::int32_t Size) {
+    const std::int32_t remainder = TruncateToInt(std::fmod(std::floor(Value), static_cast<float>(Size)));
+    return remainder < 0 ? remainder + Size : remainder;
+}

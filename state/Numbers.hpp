@@ -10,3 +10,7 @@ std::int32_t TruncateToInt(float Value);
 
 /// To the nearest, half away from zero.
 std::int32_t RoundToInt(float Value);
+
+/// The remainder of the floored value, brought into 0 to Size - 1; Size is at least 1. The float remainder is
+/// exact, so no value is too large for it.
+std::int32_t FloorModulo(float Value, std::int32_t Size);
