@@ -31,14 +31,6 @@ void CloseJoystick(InputDevices &Devices) {
     Devices.JoystickDownLatch = false;
 }
 
-bool IsOpenGamepad(const InputDevices &Devices, SDL_JoystickID Id) {
-    return Devices.Gamepad != nullptr && Id == Devices.GamepadId;
-}
-
-bool IsOpenJoystick(const InputDevices &Devices, SDL_JoystickID Id) {
-    return Devices.Joystick != nullptr && Id == Devices.JoystickId;
-}
-
 /// Tries the devices of a list in order until one is open, then frees the list, which may be null.
 template <typename TryOpen> void OpenFirst(SDL_JoystickID *Ids, TryOpen Try) {
     for (const SDL_JoystickID *id = Ids; id != nullptr && *id != 0; ++id) {
@@ -60,6 +52,14 @@ void HandleJoystickRemoved(InputDevices &Devices, SDL_JoystickID Id) {
 }
 
 } // namespace
+
+bool IsOpenGamepad(const InputDevices &Devices, SDL_JoystickID Id) {
+    return Devices.Gamepad != nullptr && Id == Devices.GamepadId;
+}
+
+bool IsOpenJoystick(const InputDevices &Devices, SDL_JoystickID Id) {
+    return Devices.Joystick != nullptr && Id == Devices.JoystickId;
+}
 
 void OpenFirstInputDevices(InputDevices &Devices) {
     if (Devices.Gamepad == nullptr) {

@@ -19,6 +19,10 @@ struct InputDevices {
     bool JoystickDownLatch = false;
 };
 
+/// Whether an event comes from the gamepad or the joystick that is open. A second one of a kind is unheard.
+bool IsOpenGamepad(const InputDevices &Devices, SDL_JoystickID Id);
+bool IsOpenJoystick(const InputDevices &Devices, SDL_JoystickID Id);
+
 /// Fills whichever of the two slots is empty with the first device that opens. A device that does not is
 /// skipped without a word.
 void OpenFirstInputDevices(InputDevices &Devices);

@@ -30,6 +30,14 @@ enum ControlsDevice : std::int32_t {
     ControlsDeviceJoystick = 2,
 };
 
+/// The device whose next press a row of the Controls page waits for.
+enum CaptureKind : std::int32_t {
+    CaptureKindNone = 0,
+    CaptureKindKeyboard = 1,
+    CaptureKindGamepad = 2,
+    CaptureKindJoystick = 3,
+};
+
 /// One value for each row of a table: a scancode (1 to 511), a gamepad button (0 to 25) or a joystick button
 /// (from 0). Any other value is unbound.
 using BindingTable = std::array<std::int32_t, 5>;

@@ -4,6 +4,7 @@
 #include "state/Display.hpp"
 #include "state/Entities.hpp"
 #include "state/Limits.hpp"
+#include "state/OptionsPage.hpp"
 #include "state/Screen.hpp"
 #include "state/Sounds.hpp"
 
@@ -74,6 +75,15 @@ struct GameState {
     BindingTable KeyboardBindings = DefaultKeyboardBindings;
     BindingTable GamepadBindings = DefaultGamepadBindings;
     BindingTable JoystickBindings = DefaultJoystickBindings;
+
+    // The option pages; none of it is stored.
+    enum OptionsPage OptionsPage = OptionsPageMain;
+    std::int32_t OptionsMainSelection = 0;
+    bool CaptureActive = false; ///< the Controls page waits for a press to bind
+    enum CaptureKind CaptureKind = CaptureKindNone;
+    bool PendingControlsValid = false;  ///< the Controls page is in edit
+    bool GraphicsSnapshotValid = false; ///< the Graphics page is in edit
+    bool PendingAudioValid = false;     ///< the Audio page is in edit
 
     // Bookkeeping of the options.
     bool OptionsDirty = false;    ///< the options file is to be written

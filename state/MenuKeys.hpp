@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+
+// The keys that move menus, as SDL scancodes. They are fixed: rebinding does not touch them.
+
+constexpr std::int32_t ScancodeA = 4;
+constexpr std::int32_t ScancodeD = 7;
+constexpr std::int32_t ScancodeS = 22;
+constexpr std::int32_t ScancodeW = 26;
+constexpr std::int32_t ScancodeReturn = 40;
+constexpr std::int32_t ScancodeEscape = 41;
+constexpr std::int32_t ScancodeSpace = 44;
+constexpr std::int32_t ScancodeRight = 79;
+constexpr std::int32_t ScancodeLeft = 80;
+constexpr std::int32_t ScancodeDown = 81;
+constexpr std::int32_t ScancodeUp = 82;
+constexpr std::int32_t ScancodeKeypadEnter = 88;
+
+constexpr bool IsKeyUp(std::int32_t Scancode) {
+    return Scancode == ScancodeUp || Scancode == ScancodeW;
+}
+
+constexpr bool IsKeyDown(std::int32_t Scancode) {
+    return Scancode == ScancodeDown || Scancode == ScancodeS;
+}
+
+constexpr bool IsKeyLeft(std::int32_t Scancode) {
+    return Scancode == ScancodeLeft || Scancode == ScancodeA;
+}
+
+constexpr bool IsKeyRight(std::int32_t Scancode) {
+    return Scancode == ScancodeRight || Scancode == ScancodeD;
+}
+
+/// The keys that leave a page of text: the space bar is none of them.
+constexpr bool IsKeyEnter(std::int32_t Scancode) {
+    return Scancode == ScancodeReturn || Scancode == ScancodeKeypadEnter;
+}
+
+constexpr bool IsKeyActivate(std::int32_t Scancode) {
+    return IsKeyEnter(Scancode) || Scancode == ScancodeSpace;
+}
+
+constexpr bool IsKeyEscape(std::int32_t Scancode) {
+    return Scancode == ScancodeEscape;
+}
