@@ -1,6 +1,20 @@
 #include "app/Events.hpp"
 
+#include "app/KeyHandler.hpp"
 #include "app/Program.hpp"
+#include "input/Presses.hpp"
+
+namespace {
+
+/// The key that an event stands for, or 0. A held key is one press: what the platform repeats is dropped.
+std::int32_t PressedKey(Program &Program, const SDL_Event &Event) {
+    if (Event.type == SDL_EVENT_KEY_DOWN) {
+        return Event.key.repeat ? 0 : static_cast<std::int32_t>(Event.key.scancode);
+    }
+    return TranslatePress(Program.State, Program.Devices, Event);
+}
+
+} // namespace
 
 void DrainEvents(Program &Program) {
     SDL_Event event;
@@ -10,5 +24,6 @@ void DrainEvents(Program &Program) {
             return;
         }
         HandleHotPlug(Program.Devices, event);
+        DispatchKey(Program.State, Program.Window, Program.Renderer, PressedKey(Program, event));
     }
 }

@@ -2,6 +2,12 @@
 
 #include "app/Events.hpp"
 #include "app/Program.hpp"
+#include "gfx/Credits.hpp"
+#include "gfx/GameOverPanel.hpp"
+#include "gfx/Help.hpp"
+#include "gfx/MainMenu.hpp"
+#include "gfx/OptionsPages.hpp"
+#include "gfx/PausePanel.hpp"
 #include "gfx/World.hpp"
 #include "input/Polling.hpp"
 #include "sim/Step.hpp"
@@ -29,23 +35,39 @@ void Simulate(Program &Program, float DeltaSeconds) {
     }
 }
 
-void DrawScreen(SDL_Renderer *Renderer, const GameState &State) {
+void DrawScreen(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices) {
     switch (State.Screen) {
+    case ScreenMainMenu:
+        RenderMainMenu(Renderer, State);
+        break;
+    case ScreenOptions:
+        RenderOptions(Renderer, State, Devices);
+        break;
+    case ScreenHelp:
+        RenderHelp(Renderer, State, Devices);
+        break;
     case ScreenPlaying:
-    case ScreenPaused:
-    case ScreenGameOver:
         RenderGameplay(Renderer, State);
         break;
-    default:
+    case ScreenPaused:
+        RenderGameplay(Renderer, State);
+        RenderPauseOverlay(Renderer, State, Devices);
+        break;
+    case ScreenCredits:
+        RenderCredits(Renderer, State);
+        break;
+    case ScreenGameOver:
+        RenderGameplay(Renderer, State);
+        RenderGameOverOverlay(Renderer, State, Devices);
         break;
     }
 }
 
-void Present(SDL_Renderer *Renderer, const GameState &State) {
-    SDL_SetRenderDrawColor(Renderer, 0, 0, 0, 255);
-    SDL_RenderClear(Renderer);
-    DrawScreen(Renderer, State);
-    SDL_RenderPresent(Renderer);
+void Present(const Program &Program) {
+    SDL_SetRenderDrawColor(Program.Renderer, 0, 0, 0, 255);
+    SDL_RenderClear(Program.Renderer);
+    DrawScreen(Program.Renderer, Program.State, Program.Devices);
+    SDL_RenderPresent(Program.Renderer);
 }
 
 /// Sleeps out the rest of a short frame, unless the present call paces the loop.
@@ -75,7 +97,7 @@ void RunFrame(Program &Program) {
     const float deltaSeconds = DeltaSecondsBetween(Program.LastFrameTicks, now);
     Simulate(Program, deltaSeconds);
     SaveTick(state, deltaSeconds, Program.Writers.WriteSaveState);
-    Present(Program.Renderer, state);
+    Present(Program);
     CapFrame(state, frameStartTicks);
     Program.LastFrameTicks = now; // a step is measured from here, the cap from the top of the frame
 }

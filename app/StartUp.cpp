@@ -5,7 +5,6 @@
 #include "options/Desktop.hpp"
 #include "options/Displays.hpp"
 #include "options/Presentation.hpp"
-#include "sim/NewRun.hpp"
 #include "state/Resolutions.hpp"
 
 #include <algorithm>
@@ -96,7 +95,6 @@ bool StartUp(Program &Program) {
     Program.Devices = InputDevices{};
     OpenFirstInputDevices(Program.Devices);
     ApplyDisplaySettings(Program.State, Program.Window, Program.Renderer);
-    StartNewRun(Program.State);
     Program.LastFrameTicks = SDL_GetTicks();
     return true;
 }

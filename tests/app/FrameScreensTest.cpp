@@ -1,14 +1,20 @@
 #include "tests/app/ProgramTest.hpp"
+#include "tests/support/Picture.hpp"
 #include "tests/support/VirtualDevice.hpp"
 
+#include <algorithm>
 #include <array>
+#include <optional>
 
 namespace {
 
 constexpr std::array<enum Screen, 6> OtherScreens{
     ScreenMainMenu, ScreenOptions, ScreenHelp, ScreenPaused, ScreenCredits, ScreenGameOver};
 
-class FrameScreens : public RunningTest {
+constexpr std::array<enum Screen, 7> AllScreens{
+    ScreenMainMenu, ScreenOptions, ScreenHelp, ScreenPlaying, ScreenPaused, ScreenCredits, ScreenGameOver};
+
+class FrameScreens : public PlayingTest {
 protected:
     /// Runs one frame of 0.033 seconds on a screen.
     void RunFrameOn(enum Screen Screen) {
@@ -17,37 +23,23 @@ protected:
         RunFrame(Program);
     }
 
-    /// Whether every pixel of the next frame has this colour, as it stands just before it is presented.
-    bool NextFrameIsAll(Uint8 R, Uint8 G, Uint8 B, Uint8 A) {
-        bool same = false;
+    /// The next frame, as it stands just before it is presented.
+    Picture NextFrame() {
+        std::optional<Picture> shown;
         SdlWatch watch;
         watch.Before("SDL_RenderPresent", [&] {
-            same = IsAll(R, G, B, A);
+            SDL_SetRenderViewport(Program.Renderer, nullptr); // the whole picture is read
+            SDL_Surface *pixels = SDL_RenderReadPixels(Program.Renderer, nullptr);
+            shown.emplace(pixels);
+            SDL_DestroySurface(pixels);
         });
         RunFrame(Program);
-        return same;
+        return shown.value();
     }
 
-private:
-    bool IsAll(Uint8 R, Uint8 G, Uint8 B, Uint8 A) {
-        SDL_Surface *picture = SDL_RenderReadPixels(Program.Renderer, nullptr);
-        if (picture == nullptr) {
-            ADD_FAILURE() << SDL_GetError();
-            return false;
-        }
-        bool same = picture->w > 0 && picture->h > 0;
-        for (int y = 0; y < picture->h; ++y) {
-            for (int x = 0; x < picture->w; ++x) {
-                Uint8 r = 0;
-                Uint8 g = 0;
-                Uint8 b = 0;
-                Uint8 a = 0;
-                same = SDL_ReadSurfacePixel(picture, x, y, &r, &g, &b, &a) && same;
-                same = same && r == R && g == G && b == B && a == A;
-            }
-        }
-        SDL_DestroySurface(picture);
-        return same;
+    /// Whether a whole picture is opaque black.
+    static bool IsBlack(const Picture &Picture) {
+        return Picture.Width() > 0 && Picture.BoundsOfAllBut(0xFF000000).w == 0;
     }
 };
 
@@ -94,8 +86,9 @@ TEST_F(FrameScreens, HeldInputDoesNothingElsewhere) {
         GTEST_SKIP() << "a real pad or joystick is plugged in";
     }
     VirtualDevice stick(JoystickShape);
-    RunFrameOn(ScreenPaused); // opens it
-    stick.SetButton(0, true);
+    State.JoystickBindings = {1, -1, -1, 0, 3}; // a fire button that confirms nothing
+    RunFrameOn(ScreenPaused);                   // opens it
+    stick.SetButton(1, true);
     RunFrameOn(ScreenPaused);
     EXPECT_TRUE(State.Bullets.empty());
     Stop();
@@ -133,18 +126,55 @@ TEST_F(FrameScreens, OtherScreensLeaveTheCreditsAlone) {
     }
 }
 
-TEST_F(FrameScreens, TheFrameBeginsOpaqueBlack) {
-    ShowWithoutWaiting(ScreenMainMenu);
-    SDL_SetRenderDrawColor(Program.Renderer, 200, 30, 40, 255);
-    SDL_RenderClear(Program.Renderer);
-    EXPECT_TRUE(NextFrameIsAll(0, 0, 0, 255));
+TEST_F(FrameScreens, TheFrameBeginsOpaqueBlackOnEveryScreen) {
+    constexpr SDL_Rect nowhere{-8, -8, 4, 4}; // it takes all that is drawn, but not the clearing
+    for (const enum Screen screen : AllScreens) {
+        ShowWithoutWaiting(screen);
+        SDL_SetRenderDrawColor(Program.Renderer, 200, 30, 40, 255);
+        SDL_RenderClear(Program.Renderer);
+        ASSERT_TRUE(SDL_SetRenderViewport(Program.Renderer, &nowhere));
+        EXPECT_TRUE(IsBlack(NextFrame())) << screen;
+    }
 }
 
-TEST_F(FrameScreens, ARunIsDrawnAlsoUnderThePauseAndTheGameOverScreen) {
-    for (const enum Screen screen : {ScreenPlaying, ScreenPaused, ScreenGameOver}) {
+TEST_F(FrameScreens, EveryScreenHasAPictureOfItsOwn) {
+    State.CreditsScroll = 500.0F; // they begin below the screen
+    std::vector<Picture> pictures;
+    for (const enum Screen screen : AllScreens) {
         ShowWithoutWaiting(screen);
-        EXPECT_FALSE(NextFrameIsAll(0, 0, 0, 255)) << screen;
+        State.ResetFrameClock = true; // no time passes
+        const Picture shown = NextFrame();
+        EXPECT_FALSE(IsBlack(shown)) << screen;
+        EXPECT_EQ(std::count(pictures.begin(), pictures.end(), shown), 0) << screen;
+        pictures.push_back(shown);
     }
+}
+
+TEST_F(FrameScreens, TheRunIsDrawnUnderThePauseAndTheGameOverScreen) {
+    for (const enum Screen screen : {ScreenPaused, ScreenGameOver}) {
+        ShowWithoutWaiting(screen);
+        const Picture before = NextFrame();
+        State.RoadScroll += 40.0F;
+        EXPECT_FALSE(NextFrame() == before) << screen;
+    }
+}
+
+TEST_F(FrameScreens, AChangeMadeByTheStepIsDrawnInTheSameFrame) {
+    ShowWithoutWaiting(ScreenPlaying);
+    State.PlayerDying = true;
+    State.DeathTimer = 0.001F;
+    LetTimePass(1000);
+    const Picture ended = NextFrame();
+    ASSERT_EQ(State.Screen, ScreenGameOver);
+    State.ResetFrameClock = true;
+    EXPECT_TRUE(NextFrame() == ended);
+    State.CreditsScroll = 1090.0F;
+    ShowWithoutWaiting(ScreenCredits);
+    LetTimePass(1000);
+    const Picture menu = NextFrame();
+    ASSERT_EQ(State.Screen, ScreenMainMenu);
+    State.ResetFrameClock = true;
+    EXPECT_TRUE(NextFrame() == menu);
 }
 
 TEST_F(FrameScreens, EveryFrameIsPresentedOnce) {

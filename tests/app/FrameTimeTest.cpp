@@ -88,6 +88,7 @@ TEST_F(FrameTime, IsSampledAfterTheOptionsAreWritten) {
 }
 
 TEST_F(FrameTime, IsSampledBeforeTheSaveIsWritten) {
+    State.SaveRequested = true;
     State.SaveDelay = 0.0F;
     Uint64 reached = 0;
     Written.OnSaveWrite = [&reached] {

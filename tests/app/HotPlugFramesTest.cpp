@@ -4,14 +4,13 @@
 namespace {
 
 /// Devices that come and go while frames run, through SDL's own event queue.
-class HotPlugFrames : public RunningTest {
+class HotPlugFrames : public PlayingTest {
 protected:
     void SetUp() override {
-        RunningTest::SetUp();
+        PlayingTest::SetUp();
         if (HasRealDevices()) {
             GTEST_SKIP() << "a real pad or joystick is plugged in";
         }
-        ShowWithoutWaiting(ScreenPlaying);
     }
 };
 

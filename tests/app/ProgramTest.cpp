@@ -1,5 +1,6 @@
 #include "tests/app/ProgramTest.hpp"
 
+#include "sim/NewRun.hpp"
 #include "state/LogicalScreen.hpp"
 
 ProgramTest::ProgramTest() {
@@ -40,4 +41,10 @@ void ProgramTest::ShowWithoutWaiting(enum Screen Screen) {
 
 void RunningTest::SetUp() {
     Start();
+}
+
+void PlayingTest::SetUp() {
+    RunningTest::SetUp();
+    StartNewRun(State);
+    ShowWithoutWaiting(ScreenPlaying);
 }

@@ -39,8 +39,14 @@ private:
     bool Started = false;
 };
 
-/// A test whose program has been started.
+/// A test whose program has been started. It stands on the main menu.
 class RunningTest : public ProgramTest {
+protected:
+    void SetUp() override;
+};
+
+/// A test whose program plays a new run, without waiting.
+class PlayingTest : public RunningTest {
 protected:
     void SetUp() override;
 };

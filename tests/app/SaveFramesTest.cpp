@@ -4,7 +4,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-class SaveFrames : public RunningTest {
+class SaveFrames : public PlayingTest {
 protected:
     /// Runs one frame of exactly 0.033 seconds.
     void RunLongFrame() {
@@ -14,7 +14,6 @@ protected:
 };
 
 TEST_F(SaveFrames, ANewRunsZeroMarkIsOvertakenInTheSameFrame) {
-    ShowWithoutWaiting(ScreenPlaying);
     ASSERT_TRUE(State.SaveRequested);
     ASSERT_EQ(State.SaveDelay, 0.0F);
     RunFrame(Program); // the first one takes no time
@@ -23,7 +22,6 @@ TEST_F(SaveFrames, ANewRunsZeroMarkIsOvertakenInTheSameFrame) {
 }
 
 TEST_F(SaveFrames, ANewRunReachesTheFile800MillisecondsLater) {
-    ShowWithoutWaiting(ScreenPlaying);
     int frames = 0;
     while (Written.SaveWrites == 0 && frames < 100) {
         RunLongFrame();
@@ -41,7 +39,6 @@ TEST_F(SaveFrames, OnAMenuAZeroMarkIsWrittenInTheSameFrame) {
 }
 
 TEST_F(SaveFrames, AFailureInPlayIsTriedAgainAfter800Milliseconds) {
-    ShowWithoutWaiting(ScreenPlaying);
     State.SaveDelay = 0.01F;
     Written.SaveFailures = 1;
     const LogCatcher log;
@@ -87,7 +84,6 @@ TEST_F(SaveFrames, SavingGoesOnOnEveryScreen) {
 }
 
 TEST_F(SaveFrames, AWriteArmedInPlayCompletesUnderThePauseScreen) {
-    ShowWithoutWaiting(ScreenPlaying);
     RunLongFrame();
     State.Screen = ScreenPaused;
     for (int i = 0; i < 24; ++i) {
@@ -97,7 +93,6 @@ TEST_F(SaveFrames, AWriteArmedInPlayCompletesUnderThePauseScreen) {
 }
 
 TEST_F(SaveFrames, OptionsAreWrittenBeforeTheStepAndTheSaveBetweenStepAndPicture) {
-    ShowWithoutWaiting(ScreenPlaying);
     State.OptionsDirty = true;
     State.SaveDelay = 0.01F;
     Lines order;

@@ -49,10 +49,9 @@ TEST_F(SavingOptions, LogsEveryFailureAndKeepsTheMark) {
     EXPECT_EQ(log.Lines, (Lines{FailureLine, FailureLine, FailureLine}));
 }
 
-class OptionsInFrames : public RunningTest {};
+class OptionsInFrames : public PlayingTest {};
 
 TEST_F(OptionsInFrames, AFailingWriteIsTriedAndLoggedInEveryFrameAndTheGameGoesOn) {
-    ShowWithoutWaiting(ScreenPlaying);
     State.OptionsDirty = true;
     Written.OptionsFailures = 5;
     const LogCatcher log;

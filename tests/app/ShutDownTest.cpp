@@ -103,7 +103,8 @@ TEST_F(ShuttingDown, LeavesNothingInTheWayOfAnotherStart) {
     Stop();
     Start();
     RunFrame(Program);
-    EXPECT_EQ(State.Screen, ScreenPlaying);
+    EXPECT_TRUE(State.Running);
+    EXPECT_EQ(State.Screen, ScreenMainMenu);
 }
 
 } // namespace

@@ -150,14 +150,15 @@ TEST_F(StartingUp, FillsTheStateWithItsDefaults) {
     EXPECT_EQ(State.KeyboardBindings, DefaultKeyboardBindings);
 }
 
-TEST_F(StartingUp, HasTheFirstRunRunning) {
+TEST_F(StartingUp, EndsOnTheFirstRowOfTheMainMenuWithoutARun) {
+    State.Screen = ScreenPlaying;
+    State.MainMenuSelection = 3;
+    State.HasRunState = true;
     Start();
-    EXPECT_EQ(State.Screen, ScreenPlaying);
-    EXPECT_TRUE(State.HasRunState);
-    EXPECT_TRUE(State.SaveRequested);
-    EXPECT_FLOAT_EQ(State.SaveDelay, 0.0F);
-    EXPECT_FLOAT_EQ(State.Player.X, 480.0F); // lane 4 of a road in the middle of 960
-    EXPECT_EQ(State.Player.Stocks, 2);
+    EXPECT_EQ(State.Screen, ScreenMainMenu);
+    EXPECT_EQ(State.MainMenuSelection, 0U);
+    EXPECT_FALSE(State.HasRunState);
+    EXPECT_EQ(State.PendingSounds.Count, 0U);
 }
 
 TEST_F(StartingUp, SeedsEachLaunchDifferently) {
@@ -188,7 +189,7 @@ TEST_F(StartingUp, GoesOnWithoutTheIcon) {
     Start();
     EXPECT_EQ(log.Lines, (Names{"SetWindowIconFromAtlas failed: refused for the test"}));
     EXPECT_FALSE(SDL_CursorVisible());
-    EXPECT_EQ(State.Screen, ScreenPlaying);
+    EXPECT_EQ(State.Screen, ScreenMainMenu);
 }
 
 TEST_F(StartingUp, GoesOnWithoutVSync) {
@@ -213,7 +214,7 @@ TEST_F(StartingUp, WorksOffscreenToo) {
     SDL_SetHint(SDL_HINT_VIDEO_DRIVER, "offscreen");
     Start();
     EXPECT_STREQ(SDL_GetCurrentVideoDriver(), "offscreen");
-    EXPECT_EQ(State.Screen, ScreenPlaying);
+    EXPECT_EQ(State.Screen, ScreenMainMenu);
     EXPECT_NE(SpriteAtlas.Texture, nullptr);
     RunFrame(Program);
     EXPECT_TRUE(State.Running);

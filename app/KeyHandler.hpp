@@ -1,0 +1,15 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+#include <cstdint>
+
+struct GameState;
+
+// Every press, of whichever device, arrives here as a scancode of the keyboard.
+
+/// Hands a scancode of 1 to 511 to HandleKey and drops any other, 0 for a press without a meaning among them.
+void DispatchKey(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer, std::int32_t Scancode);
+
+/// Acts on a key by the screen that is shown.
+void HandleKey(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer, std::int32_t Scancode);

@@ -1,0 +1,58 @@
+#include "app/MainMenuKeys.hpp"
+
+#include "app/OptionsKeys.hpp"
+#include "sim/NewRun.hpp"
+#include "state/GameState.hpp"
+#include "state/MenuKeys.hpp"
+#include "state/MenuRows.hpp"
+
+namespace {
+
+void Activate(GameState &State, MainMenuRow Row) {
+    switch (Row) {
+    case MainMenuRow::ContinueGame:
+        State.Screen = ScreenPlaying;
+        State.PauseSelection = 0;
+        break;
+    case MainMenuRow::NewGame:
+        StartNewRun(State); // empties the sounds: this press is never heard, which is accepted
+        break;
+    case MainMenuRow::Options:
+        State.OptionsReturnScreen = ScreenMainMenu;
+        EnterOptions(State);
+        break;
+    case MainMenuRow::Help:
+        State.HelpReturnScreen = ScreenMainMenu;
+        State.Screen = ScreenHelp;
+        break;
+    case MainMenuRow::Credits:
+        State.CreditsScroll = 0.0F;
+        State.Screen = ScreenCredits;
+        break;
+    case MainMenuRow::Quit:
+        State.Running = false;
+        break;
+    }
+}
+
+} // namespace
+
+void HandleMainMenuKey(GameState &State, std::int32_t Scancode) {
+    const std::uint32_t count = MainMenuRowCount(State.HasRunState);
+    if (State.MainMenuSelection >= count) {
+        State.MainMenuSelection = 0; // otherwise kept: it does not follow a row when the first comes or goes
+    }
+    if (IsKeyUp(Scancode)) {
+        PushSound(State, SfxId::UiMove);
+        State.MainMenuSelection = RowAbove(State.MainMenuSelection, count);
+    } else if (IsKeyDown(Scancode)) {
+        PushSound(State, SfxId::UiMove);
+        State.MainMenuSelection = RowBelow(State.MainMenuSelection, count);
+    } else if (IsKeyActivate(Scancode)) {
+        PushSound(State, SfxId::UiConfirm);
+        Activate(State, MainMenuRowAt(State.MainMenuSelection, State.HasRunState));
+    } else if (IsKeyEscape(Scancode)) {
+        PushSound(State, SfxId::UiBack);
+        State.Running = false;
+    }
+}

@@ -1,0 +1,69 @@
+#include "app/OptionsKeys.hpp"
+
+#include "state/GameState.hpp"
+#include "state/MenuKeys.hpp"
+#include "state/MenuRows.hpp"
+
+namespace {
+
+/// Chosen before anything else is looked at: a key that changes nothing sounds all the same, and that is
+/// meant.
+void PushPageSound(GameState &State, std::int32_t Scancode) {
+    if (IsKeyUp(Scancode) || IsKeyDown(Scancode) || IsKeyLeft(Scancode) || IsKeyRight(Scancode)) {
+        PushSound(State, SfxId::UiMove);
+    } else if (IsKeyActivate(Scancode)) {
+        PushSound(State, SfxId::UiConfirm);
+    } else if (IsKeyEscape(Scancode)) {
+        PushSound(State, SfxId::UiBack);
+    }
+}
+
+void Activate(GameState &State, OptionsMainRow Row) {
+    switch (Row) {
+    case OptionsMainRow::Controls:
+        State.OptionsPage = OptionsPageControls;
+        break;
+    case OptionsMainRow::Graphics:
+        State.OptionsPage = OptionsPageGraphics;
+        break;
+    case OptionsMainRow::Audio:
+        State.OptionsPage = OptionsPageAudio;
+        break;
+    case OptionsMainRow::Back:
+        State.Screen = State.OptionsReturnScreen;
+        break;
+    }
+}
+
+void HandleMainPageKey(GameState &State, std::int32_t Scancode) {
+    if (IsKeyUp(Scancode)) {
+        State.OptionsMainSelection = RowAbove(State.OptionsMainSelection, OptionsMainRowCount);
+    } else if (IsKeyDown(Scancode)) {
+        State.OptionsMainSelection = RowBelow(State.OptionsMainSelection, OptionsMainRowCount);
+    } else if (IsKeyActivate(Scancode)) {
+        Activate(State, static_cast<OptionsMainRow>(State.OptionsMainSelection));
+    } else if (IsKeyEscape(Scancode)) {
+        Activate(State, OptionsMainRow::Back);
+    }
+}
+
+} // namespace
+
+void EnterOptions(GameState &State) {
+    State.Screen = ScreenOptions;
+    State.OptionsPage = OptionsPageMain;
+    State.CaptureActive = false;
+    State.CaptureKind = CaptureKindNone;
+    State.PendingControlsValid = false;
+    State.GraphicsSnapshotValid = false;
+    State.PendingAudioValid = false;
+}
+
+void HandleOptionsKey(GameState &State, std::int32_t Scancode) {
+    PushPageSound(State, Scancode);
+    if (State.OptionsPage == OptionsPageMain) {
+        HandleMainPageKey(State, Scancode);
+    } else if (IsKeyEscape(Scancode)) {
+        State.OptionsPage = OptionsPageMain;
+    }
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+
+struct GameState;
+
+/// Shows the main page of the options, with no page in edit and no capture running. The pages keep the rows
+/// of the last visit. The caller sets OptionsReturnScreen.
+void EnterOptions(GameState &State);
+
+/// Acts on a key on a page of the options.
+void HandleOptionsKey(GameState &State, std::int32_t Scancode);

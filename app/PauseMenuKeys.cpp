@@ -1,0 +1,46 @@
+#include "app/PauseMenuKeys.hpp"
+
+#include "app/OptionsKeys.hpp"
+#include "state/GameState.hpp"
+#include "state/MenuKeys.hpp"
+#include "state/MenuRows.hpp"
+
+namespace {
+
+void Activate(GameState &State, PauseRow Row) {
+    switch (Row) {
+    case PauseRow::Resume:
+        State.Screen = ScreenPlaying;
+        break;
+    case PauseRow::Options:
+        State.OptionsReturnScreen = ScreenPaused;
+        EnterOptions(State);
+        break;
+    case PauseRow::Help:
+        State.HelpReturnScreen = ScreenPaused;
+        State.Screen = ScreenHelp;
+        break;
+    case PauseRow::MainMenu: // the run stays, and the first row of the main menu continues it
+        State.Screen = ScreenMainMenu;
+        State.MainMenuSelection = 0;
+        break;
+    }
+}
+
+} // namespace
+
+void HandlePauseMenuKey(GameState &State, std::int32_t Scancode) {
+    if (IsKeyUp(Scancode)) {
+        PushSound(State, SfxId::UiMove);
+        State.PauseSelection = RowAbove(State.PauseSelection, PauseRowCount);
+    } else if (IsKeyDown(Scancode)) {
+        PushSound(State, SfxId::UiMove);
+        State.PauseSelection = RowBelow(State.PauseSelection, PauseRowCount);
+    } else if (IsKeyActivate(Scancode)) {
+        PushSound(State, SfxId::UiConfirm);
+        Activate(State, static_cast<PauseRow>(State.PauseSelection));
+    } else if (IsKeyEscape(Scancode)) {
+        PushSound(State, SfxId::UiBack);
+        State.Screen = ScreenPlaying;
+    }
+}

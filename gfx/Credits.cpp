@@ -1,0 +1,39 @@
+#include "gfx/Credits.hpp"
+
+#include "gfx/MenuStyle.hpp"
+#include "gfx/Text.hpp"
+#include "state/GameState.hpp"
+#include "text/Localization.hpp"
+
+#include <array>
+
+namespace {
+
+constexpr float FirstLineY = 760.0F;                   ///< below the screen
+constexpr float NameDrop = 38.0F;                      ///< below its heading
+constexpr const char *Name = "Tomas \"Orrin\" Ardell"; // never translated
+
+struct Credit {
+    float Drop; ///< below the first line
+    TextKey Heading;
+};
+
+constexpr std::array<Credit, 3> CreditTable{{
+    {0.0F, TextKey::CreditsProgrammedBy},
+    {114.0F, TextKey::CreditsGfxBy},
+    {228.0F, TextKey::CreditsSfxMusicBy},
+}};
+
+} // namespace
+
+void RenderCredits(SDL_Renderer *Renderer, const GameState &State) {
+    const float centerX = ScreenCenterX();
+    const float base = FirstLineY - State.CreditsScroll;
+    ClearToBlack(Renderer);
+    for (const Credit &credit : CreditTable) {
+        const float nameY = base + (credit.Drop + NameDrop);
+        DrawTextCentered(
+            Renderer, GetText(credit.Heading), centerX, base + credit.Drop, MenuScale, SelectedColor);
+        DrawTextCentered(Renderer, Name, centerX, nameY, MenuScale, OtherNameColor);
+    }
+}

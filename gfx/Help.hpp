@@ -1,0 +1,9 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+struct GameState;
+struct InputDevices;
+
+/// Draws the help page.
+void RenderHelp(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices);

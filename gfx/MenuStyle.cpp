@@ -1,0 +1,48 @@
+#include "gfx/MenuStyle.hpp"
+
+#include "gfx/Draw.hpp"
+#include "gfx/Text.hpp"
+#include "state/LogicalScreen.hpp"
+#include "text/Localization.hpp"
+
+#include <algorithm>
+
+float ScreenCenterX() {
+    return static_cast<float>(LogicalWidth) * 0.5F;
+}
+
+void ClearToBlack(SDL_Renderer *Renderer) {
+    FillRect(Renderer, 0.0F, 0.0F, static_cast<float>(LogicalWidth), LogicalHeightF, 0xFF000000);
+}
+
+int WidestText(std::span<const TextKey> Keys, int Scale) {
+    int widest = 0;
+    for (const TextKey key : Keys) {
+        widest = std::max(widest, MeasureText(GetText(key), Scale));
+    }
+    return widest;
+}
+
+int WidestHint(std::initializer_list<std::string_view> Hints) {
+    int widest = 0;
+    for (const std::string_view hint : Hints) {
+        widest = std::max(widest, MeasureText(hint, HintScale));
+    }
+    return widest;
+}
+
+void DrawMarkedLabel(
+    SDL_Renderer *Renderer, std::string_view Label, float X, float Y, bool Selected, const RowStyle &Style) {
+    if (Selected) {
+        DrawText(
+            Renderer, RowMarker, X - Style.MarkerGap, Y + Style.MarkerDrop, RowMarkerScale, SelectedColor);
+    }
+    DrawText(Renderer, Label, X, Y, Style.Scale, Selected ? SelectedColor : Style.OtherColor);
+}
+
+void DrawHint(
+    SDL_Renderer *Renderer, std::string_view Hint, float CenterX, float Y, std::uint32_t PackedColor) {
+    if (!Hint.empty()) {
+        DrawTextCentered(Renderer, Hint, CenterX, Y, HintScale, PackedColor);
+    }
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "text/TextKeys.hpp"
+
+#include <SDL3/SDL.h>
+
+#include <cstdint>
+#include <initializer_list>
+#include <span>
+#include <string_view>
+
+// What the screens around a run have in common. Colours are 0xAABBGGRR.
+
+constexpr std::uint32_t SelectedColor = 0xFFF5F5F5;  ///< the selected row and its marker
+constexpr std::uint32_t OtherRowColor = 0xFFB4B4B4;  ///< rows of the options and the pause panel
+constexpr std::uint32_t OtherNameColor = 0xFFB9B9B9; ///< rows of the main menu, names of credits and help
+constexpr std::uint32_t PageTitleColor = 0xFFF0F0F0; ///< options and help
+constexpr std::uint32_t SectionColor = 0xFFFFAF69;   ///< section headings of the options
+constexpr std::uint32_t BodyColor = 0xFFDCDCDC;      ///< text of the help page
+constexpr std::uint32_t HintColor = 0xFFE1E1E1;
+
+constexpr int TitleScale = 6; ///< of pages and panels
+constexpr float PageTitleY = 42.0F;
+constexpr int MenuScale = 4; ///< rows of the main menu and the pause panel, headings, credits
+constexpr int PageScale = 3; ///< rows and text of the pages
+constexpr int HintScale = 2;
+
+/// What stands before the selected row.
+constexpr std::string_view RowMarker = ">";
+constexpr int RowMarkerScale = 3;
+
+/// How a kind of menu draws its rows: where the marker stands before the label and below its top, in pixels.
+struct RowStyle {
+    int Scale;
+    float MarkerGap;
+    float MarkerDrop;
+    std::uint32_t OtherColor;
+};
+
+// The gaps differ on purpose and are to be kept.
+constexpr RowStyle MainMenuRowStyle{MenuScale, 28.0F, 4.0F, OtherNameColor};
+constexpr RowStyle PauseRowStyle{MenuScale, 27.0F, 4.0F, OtherRowColor};
+constexpr RowStyle OptionsMainRowStyle{PageScale, 27.0F, 0.0F, OtherRowColor};
+
+/// The middle of the logical screen.
+float ScreenCenterX();
+
+/// Covers the whole logical screen in black.
+void ClearToBlack(SDL_Renderer *Renderer);
+
+/// The width of the widest of some texts.
+int WidestText(std::span<const TextKey> Keys, int Scale);
+
+/// The width of the widest of some hint lines.
+int WidestHint(std::initializer_list<std::string_view> Hints);
+
+/// Draws a row's label at (X, Y), behind the marker if it is selected.
+void DrawMarkedLabel(
+    SDL_Renderer *Renderer, std::string_view Label, float X, float Y, bool Selected, const RowStyle &Style);
+
+/// Draws a hint line centred about CenterX; an empty one draws nothing.
+void DrawHint(SDL_Renderer *Renderer, std::string_view Hint, float CenterX, float Y,
+    std::uint32_t PackedColor = HintColor);

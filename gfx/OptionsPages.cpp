@@ -1,0 +1,72 @@
+#include "gfx/OptionsPages.hpp"
+
+#include "gfx/MenuStyle.hpp"
+#include "gfx/Text.hpp"
+#include "input/ControllerHint.hpp"
+#include "state/GameState.hpp"
+#include "state/MenuRows.hpp"
+#include "text/Localization.hpp"
+
+#include <array>
+
+namespace {
+
+constexpr float SectionY = 100.0F;
+constexpr float MainRowsY = 217.0F;
+constexpr float RowDistance = 34.0F;
+constexpr float MainHintY = 430.0F;
+constexpr float MainDeviceLineY = 458.0F;
+
+/// In the order of OptionsPage.
+constexpr std::array<TextKey, 4> SectionNames{
+    TextKey::OptionsSectionMenu,
+    TextKey::OptionsSectionControls,
+    TextKey::OptionsSectionGraphics,
+    TextKey::OptionsSectionAudio,
+};
+
+/// In the order of OptionsMainRow.
+constexpr std::array<TextKey, 4> MainRowLabels{
+    TextKey::OptionsMainControls,
+    TextKey::OptionsMainGraphics,
+    TextKey::OptionsMainAudio,
+    TextKey::CommonBack,
+};
+static_assert(MainRowLabels.size() == OptionsMainRowCount);
+
+void DrawHeadings(SDL_Renderer *Renderer, enum OptionsPage Page) {
+    const TextKey section = SectionNames[static_cast<std::size_t>(Page)];
+    DrawTextCentered(
+        Renderer, GetText(TextKey::OptionsTitle), ScreenCenterX(), PageTitleY, TitleScale, PageTitleColor);
+    DrawTextCentered(Renderer, GetText(section), ScreenCenterX(), SectionY, MenuScale, SectionColor);
+}
+
+void DrawMainRows(SDL_Renderer *Renderer, std::int32_t Selection) {
+    const float left = ScreenCenterX() - static_cast<float>(WidestText(MainRowLabels, PageScale)) * 0.5F;
+    for (std::size_t i = 0; i < MainRowLabels.size(); ++i) {
+        const float y = MainRowsY + static_cast<float>(i) * RowDistance;
+        const bool selected = static_cast<std::int32_t>(i) == Selection;
+        DrawMarkedLabel(Renderer, GetText(MainRowLabels[i]), left, y, selected, OptionsMainRowStyle);
+    }
+}
+
+void DrawMainPage(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices) {
+    const bool isInRun = State.OptionsReturnScreen == ScreenPaused;
+    const TextKey hint =
+        isInRun ? TextKey::OptionsHintMainBackToPauseMenu : TextKey::OptionsHintMainBackToMainMenu;
+    const TextKey back = isInRun ? TextKey::ControllerHintPauseMenu : TextKey::ControllerHintMainMenu;
+    DrawMainRows(Renderer, State.OptionsMainSelection);
+    DrawHint(Renderer, GetText(hint), ScreenCenterX(), MainHintY);
+    DrawHint(Renderer, ControllerHint(State, Devices, GetText(TextKey::ControllerHintSelect), GetText(back)),
+        ScreenCenterX(), MainDeviceLineY);
+}
+
+} // namespace
+
+void RenderOptions(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices) {
+    ClearToBlack(Renderer);
+    DrawHeadings(Renderer, State.OptionsPage);
+    if (State.OptionsPage == OptionsPageMain) {
+        DrawMainPage(Renderer, State, Devices);
+    }
+}

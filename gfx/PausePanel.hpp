@@ -1,0 +1,9 @@
+#pragma once
+
+#include <SDL3/SDL.h>
+
+struct GameState;
+struct InputDevices;
+
+/// Draws the pause menu over the frozen run, as large as its contents.
+void RenderPauseOverlay(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices);

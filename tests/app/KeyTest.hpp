@@ -1,0 +1,57 @@
+#pragma once
+
+#include "state/GameState.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <vector>
+
+using Scancodes = std::vector<std::int32_t>;
+using Sounds = std::vector<SfxId>;
+
+// The keys that mean something, as SDL's numbers.
+inline const Scancodes UpKeys{82, 26};
+inline const Scancodes DownKeys{81, 22};
+inline const Scancodes LeftKeys{80, 4};
+inline const Scancodes RightKeys{79, 7};
+inline const Scancodes ActivateKeys{40, 44, 88};
+inline const Scancodes EnterKeys{40, 88};
+constexpr std::int32_t UpKey = 82;
+constexpr std::int32_t DownKey = 81;
+constexpr std::int32_t EnterKey = 40;
+constexpr std::int32_t SpaceBar = 44;
+constexpr std::int32_t EscapeKey = 41;
+
+/// What a key does to the record, done to a copy by hand.
+using Change = std::function<void(GameState &Expected)>;
+
+/// A game on a screen, in the middle of a run, in which no field stands at what a key would make it: a field
+/// that a key sets or resets by mistake is seen. A sound of the run is already waiting.
+GameState BusyGame(enum Screen Screen);
+
+/// The sounds that wait.
+Sounds SoundsOf(const GameState &State);
+
+/// Appends a sound to those that wait, as every expected sound is.
+void Hear(GameState &State, SfxId Id);
+
+/// A test that presses keys on one record.
+class KeyTest : public ::testing::Test {
+protected:
+    explicit KeyTest(enum Screen Screen) : State(BusyGame(Screen)) {}
+
+    /// Presses a key of whichever device.
+    void Press(std::int32_t Scancode);
+
+    /// Presses each of Keys on a record of its own and expects Effect and nothing else. The record of the
+    /// test stays as it is.
+    void ExpectKeys(const Scancodes &Keys, const Change &Effect) const;
+
+    /// The sounds of the presses so far, without the one that waited before.
+    Sounds Heard() const;
+
+    GameState State;
+};
