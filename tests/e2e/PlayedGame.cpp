@@ -1,78 +1,47 @@
 #include "tests/e2e/PlayedGame.hpp"
 
-#include "tools/desktop/WaitUntil.hpp"
-
 #include <stdexcept>
-#include <string>
 
-namespace {
-
-// With AddressSanitizer the game draws by SDL's own renderer: a system's OpenGL driver may keep a little
-// memory when it is unloaded, which would count as the game's leak.
-Environment Adapted(Environment Settings) {
-    if (GAME_IS_SANITIZED != 0) {
-        Settings["SDL_RENDER_DRIVER"] = "software";
-        Settings["SDL_FRAMEBUFFER_ACCELERATION"] = "0";
-    }
-    return Settings;
-}
-
-} // namespace
-
-const char *GameProgram() {
-    return GAME_PROGRAM;
-}
-
-std::function<bool(const Picture &)> CarInLane(int Lane) {
+Sight CarInLane(int Lane) {
     return [Lane](const Picture &Seen) {
         return FindCarLane(Seen) == Lane;
     };
 }
 
-PlayedGame::PlayedGame(ScreenSize Screen, const Environment &Settings)
-    : Session(GameProgram(), Screen, Adapted(Settings)) {
-    const std::optional<DesktopWindow> window = Session.WaitForWindow();
-    if (!window) {
-        throw std::runtime_error("The game showed no window. It says:\n" + Program().Output());
-    }
-    if (!WaitForPicture(CarInLane(LaneCount / 2))) {
+PlayedGame::PlayedGame(ScreenSize Screen, const Environment &Settings) : OpenedGame(Screen, Settings) {
+    if (!StartNewRun()) {
         throw std::runtime_error("No car stands in the middle lane. The game says:\n" + Program().Output());
     }
-    // Read anew: the first frame may have given the window another size.
-    Opened = Session.Person().FindWindow(window->Title).value_or(*window);
 }
 
-const DesktopWindow &PlayedGame::Window() const {
-    return Opened;
+bool PlayedGame::StartNewRun() {
+    return Tap(Key::Return, CarInLane(LaneCount / 2)).has_value();
 }
 
-XClient &PlayedGame::Person() {
-    return Session.Person();
+void PlayedGame::SteerTowards(const Picture &Seen, std::optional<int> Lane) {
+    // Less than the 90 milliseconds after which a held key moves the car again.
+    constexpr std::chrono::milliseconds held{50};
+    const std::optional<int> car = FindCarLane(Seen);
+    if (Lane && car && Lane != car) {
+        Person().TapKey(*Lane < *car ? Key::Left : Key::Right, held);
+    }
 }
 
-ChildProcess &PlayedGame::Program() {
-    return Session.Program();
-}
-
-std::optional<int> PlayedGame::Close() {
-    return Session.Close();
-}
-
-std::optional<Picture> PlayedGame::WaitForPicture(
-    const std::function<bool(const Picture &)> &Shows, std::chrono::milliseconds Deadline) {
-    Picture seen;
-    bool shown = false;
-    WaitUntil(
-        [&] {
-            seen = Person().Screenshot();
-            shown = Shows(seen);
-            return shown || !Program().IsRunning();
+bool PlayedGame::RamUntil(const Sight &Shows) {
+    constexpr std::chrono::minutes patience{3};
+    return WaitForPicture(
+        [&](const Picture &Seen) {
+            const bool shown = Shows(Seen);
+            if (!shown) {
+                SteerTowards(Seen, FindEnemyLane(Seen));
+            }
+            return shown;
         },
-        Deadline);
-    return shown ? std::optional(seen) : std::nullopt;
+        patience)
+        .has_value();
 }
 
-testing::AssertionResult PlayedGame::StaysFor(int Frames, const std::function<bool(const Picture &)> &Shows) {
+testing::AssertionResult PlayedGame::StaysFor(int Frames, const Sight &Shows) {
     std::optional<int> lastPhase;
     int frames = 0;
     while (frames < Frames) {

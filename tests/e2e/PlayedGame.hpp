@@ -1,40 +1,28 @@
 #pragma once
 
-#include "tools/desktop/GameSession.hpp"
+#include "tests/e2e/OpenedGame.hpp"
 #include "tools/desktop/RoadSight.hpp"
-#include "tools/desktop/WaitUntil.hpp"
 
-#include <chrono>
-#include <functional>
-#include <gtest/gtest.h>
-#include <optional>
-
-// The real program in a real window, with a run on the screen that a person can play.
-class PlayedGame {
+// The same with a run on the screen that a person can play.
+class PlayedGame : public OpenedGame {
 public:
-    // Starts the program and waits until its car stands on the road. Throws std::runtime_error, with what the
-    // program wrote, if that does not come.
+    // Starts the program and a new run, and waits until its car stands on the road. Throws
+    // std::runtime_error, with what the program wrote, if that does not come.
     explicit PlayedGame(ScreenSize Screen = {}, const Environment &Settings = {});
 
-    const DesktopWindow &Window() const;
-    XClient &Person();
-    ChildProcess &Program();
-    // Asks the window to close and gives the program's result; nothing if it does not end.
-    std::optional<int> Close();
+    // Starts a new run from its row of the main menu, which is selected. False if its car does not come.
+    bool StartNewRun();
 
-    // Takes pictures until one satisfies Shows, and gives that one; nothing if none did in time.
-    std::optional<Picture> WaitForPicture(const std::function<bool(const Picture &)> &Shows,
-        std::chrono::milliseconds Deadline = PatientDeadline);
+    // Brings the car one lane nearer to that one; nothing happens if it is there or cannot be seen.
+    void SteerTowards(const Picture &Seen, std::optional<int> Lane);
+
+    // Drives into one enemy car after the other until a picture satisfies Shows. False if none did in three
+    // minutes, which is several times as long as three lives last.
+    bool RamUntil(const Sight &Shows);
+
     // Whether each of the next Frames pictures in which the road has moved on satisfies Shows. Those in which
     // the car cannot be seen, because it blinks after a blow or a burst lies over it, do not count.
-    testing::AssertionResult StaysFor(int Frames, const std::function<bool(const Picture &)> &Shows);
-
-private:
-    GameSession Session;
-    DesktopWindow Opened;
+    testing::AssertionResult StaysFor(int Frames, const Sight &Shows);
 };
 
-// The program under test.
-const char *GameProgram();
-
-std::function<bool(const Picture &)> CarInLane(int Lane);
+Sight CarInLane(int Lane);

@@ -1,5 +1,7 @@
 #include "tools/desktop/GameSession.hpp"
 
+#include "tools/desktop/WaitUntil.hpp"
+
 #include <filesystem>
 #include <initializer_list>
 #include <string>
@@ -63,6 +65,26 @@ std::optional<int> GameSession::Close() {
         Client.RequestClose(*window);
     }
     return Game.WaitForExit(PatientDeadline);
+}
+
+std::optional<Picture> GameSession::WaitForPicture(const Sight &Shows, std::chrono::milliseconds Deadline) {
+    Picture seen;
+    bool shown = false;
+    WaitUntil(
+        [&] {
+            seen = Client.Screenshot();
+            shown = Shows(seen);
+            return shown || !Game.IsRunning();
+        },
+        Deadline);
+    return shown ? std::optional(seen) : std::nullopt;
+}
+
+std::optional<Picture> GameSession::Tap(Key Tapped, const Sight &Shows, std::chrono::milliseconds Deadline) {
+    Client.PressKey(Tapped);
+    std::optional<Picture> seen = WaitForPicture(Shows, Deadline);
+    Client.ReleaseKey(Tapped);
+    return seen;
 }
 
 XClient &GameSession::Person() {

@@ -7,7 +7,11 @@
 
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <optional>
+
+// What a picture is asked for.
+using Sight = std::function<bool(const Picture &)>;
 
 // The real game on a display of its own, with a home folder of its own: it finds no options, no saved run and
 // no controller of the person whose machine this is, and makes no sound.
@@ -23,6 +27,15 @@ public:
     std::optional<DesktopWindow> WaitForWindow();
     // Asks the game's window to close and gives the program's result; nothing if it does not end in time.
     std::optional<int> Close();
+
+    // Takes pictures until one satisfies Shows, and gives that one; nothing if none did in time, or the game
+    // ended before.
+    std::optional<Picture> WaitForPicture(
+        const Sight &Shows, std::chrono::milliseconds Deadline = PatientDeadline);
+    // Presses the key, waits until the screen shows what that does, and releases it: so a frame of the game
+    // has surely seen the key, however slow the game is. Gives the picture, as above.
+    std::optional<Picture> Tap(
+        Key Tapped, const Sight &Shows, std::chrono::milliseconds Deadline = PatientDeadline);
 
     XClient &Person();
     ChildProcess &Program();

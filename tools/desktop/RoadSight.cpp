@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdlib>
+#include <initializer_list>
 
 namespace {
 
@@ -49,7 +50,9 @@ constexpr int AmmoBarTop = 68;
 constexpr Pixel HealthColour{0x5F, 0xE6, 0x82};
 constexpr Pixel AmmoColour{0xF0, 0xDC, 0x50};
 constexpr Pixel BombColour{0xCD, 0xD7, 0xEB};
+constexpr Pixel KitColour{0x5A, 0xE1, 0x87};
 constexpr int BombRowTop = 137;
+constexpr int KitRowTop = 167;
 constexpr int IconSize = 26;
 constexpr std::array<int, 3> IconLefts{0, 30, 60};
 
@@ -102,6 +105,30 @@ int BarShown(const Picture &Seen, int Top, Pixel Colour) {
     return CountPixels(Seen, row, [Colour](const Pixel &Dot) {
         return Dot == Colour;
     });
+}
+
+// The lane in which a thing of one of these colours is lowest on the road, but not below the car.
+std::optional<int> LaneOfLowest(const Picture &Seen, std::initializer_list<Pixel> Colours) {
+    constexpr int halfBody = 8;
+    std::optional<int> lane;
+    int lowest = 0;
+    for (int i = 0; i < LaneCount; ++i) {
+        const int x = RoadArea(Seen, 0, 0).Left + LaneOffsets[static_cast<std::size_t>(i)];
+        for (const Pixel &colour : Colours) {
+            const Area thing = BoundsOfColour(Seen, {x - halfBody, 0, x + halfBody, CarBottom}, colour);
+            lane = thing.Bottom > lowest ? i : lane;
+            lowest = std::max(lowest, thing.Bottom);
+        }
+    }
+    return lane;
+}
+
+// How many icons with this colour stand in the row of the panel.
+int IconsShown(const Picture &Seen, int Top, Pixel Colour) {
+    return static_cast<int>(std::count_if(IconLefts.begin(), IconLefts.end(), [&](int Left) {
+        const int x = PanelLeft(Seen) + Left;
+        return BoundsOfColour(Seen, {x, Top, x + IconSize, Top + IconSize}, Colour) != Area{};
+    }));
 }
 
 // Which pixels of eight digits in the left column are lit.
@@ -173,6 +200,14 @@ bool SeesEnemy(const Picture &Seen) {
     }) > 0;
 }
 
+std::optional<int> FindEnemyLane(const Picture &Seen) {
+    return LaneOfLowest(Seen, {EnemyColour, ToughEnemyColour});
+}
+
+std::optional<int> FindKitLane(const Picture &Seen) {
+    return LaneOfLowest(Seen, {KitColour});
+}
+
 std::optional<int> FindDashPhase(const Picture &Seen) {
     for (int top = 1; top < CarTop; ++top) {
         if (IsWholeDash(Seen, RoadCentre(Seen), top)) {
@@ -201,17 +236,19 @@ int AmmoShown(const Picture &Seen) {
 }
 
 int BombsShown(const Picture &Seen) {
-    int bombs = 0;
-    for (const int x : IconLefts) {
-        const Area slot{
-            PanelLeft(Seen) + x, BombRowTop, PanelLeft(Seen) + x + IconSize, BombRowTop + IconSize};
-        bombs += BoundsOfColour(Seen, slot, BombColour) != Area{} ? 1 : 0;
-    }
-    return bombs;
+    return IconsShown(Seen, BombRowTop, BombColour);
+}
+
+int KitsShown(const Picture &Seen) {
+    return IconsShown(Seen, KitRowTop, KitColour);
 }
 
 bool ScoreEqualsHighScore(const Picture &Seen) {
     return DigitsAt(Seen, ScoreTop) == DigitsAt(Seen, HighScoreTop);
+}
+
+bool ScoreEquals(const Picture &Seen, const Picture &Other) {
+    return DigitsAt(Seen, ScoreTop) == DigitsAt(Other, ScoreTop);
 }
 
 bool ScoreIsZero(const Picture &Seen) {

@@ -32,6 +32,11 @@ std::vector<Area> FindShots(const Picture &Seen);
 // Whether an enemy car is on the road.
 bool SeesEnemy(const Picture &Seen);
 
+// The lanes of the enemy car and of the first aid kit on the road that come to the car next; nothing if there
+// is none.
+std::optional<int> FindEnemyLane(const Picture &Seen);
+std::optional<int> FindKitLane(const Picture &Seen);
+
 // How far the road has scrolled, in pixels, as far as the dashes of its centre line tell: modulo DashPeriod.
 // Nothing if no dash can be seen whole.
 inline constexpr int DashPeriod = 62;
@@ -44,10 +49,12 @@ bool SeesBlast(const Picture &Seen);
 int HealthShown(const Picture &Seen);
 int AmmoShown(const Picture &Seen);
 
-// How many bombs are shown in the panel, 0 to 3.
+// How many bombs and first aid kits are shown in the panel, 0 to 3.
 int BombsShown(const Picture &Seen);
+int KitsShown(const Picture &Seen);
 
-// Whether the score shows eight times the digit 0, and whether it reads the same as the high score. Both hold
-// for scores of eight digits.
+// Whether the score shows eight times the digit 0, and whether it reads the same as the high score, or as the
+// score of another picture. All hold for scores of eight digits.
 bool ScoreIsZero(const Picture &Seen);
 bool ScoreEqualsHighScore(const Picture &Seen);
+bool ScoreEquals(const Picture &Seen, const Picture &Other);

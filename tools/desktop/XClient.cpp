@@ -13,6 +13,10 @@
 
 namespace {
 
+// No hand presses a key again at once. A release and a press in the same moment are how the keyboard's own
+// repeat looks, and programs take them for that.
+constexpr unsigned long RestMilliseconds = 10;
+
 // Windows may vanish between two requests about them; the requests then report failure, and that is enough.
 int IgnoreError(Display * /*Server*/, XErrorEvent * /*Error*/) {
     return 0;
@@ -192,7 +196,7 @@ void XClient::RequestClose(const DesktopWindow &Target) {
 }
 
 void XClient::PressKey(Key Pressed) {
-    Server->MoveKey(Pressed, True, 0);
+    Server->MoveKey(Pressed, True, RestMilliseconds);
     XSync(Server->Server, False);
 }
 
@@ -202,9 +206,15 @@ void XClient::ReleaseKey(Key Released) {
 }
 
 void XClient::TapKey(Key Tapped, std::chrono::milliseconds Held) {
-    Server->MoveKey(Tapped, True, 0);
+    Server->MoveKey(Tapped, True, RestMilliseconds);
     Server->MoveKey(Tapped, False, static_cast<unsigned long>(Held.count()));
     XSync(Server->Server, False);
+}
+
+bool XClient::KeysRepeat() {
+    XKeyboardState keyboard{};
+    XGetKeyboardControl(Server->Server, &keyboard);
+    return keyboard.global_auto_repeat == AutoRepeatModeOn;
 }
 
 Picture XClient::Screenshot() {

@@ -1,0 +1,107 @@
+#include "tests/e2e/OpenedGame.hpp"
+
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+// With AddressSanitizer the game draws by SDL's own renderer: a system's OpenGL driver may keep a little
+// memory when it is unloaded, which would count as the game's leak.
+Environment Adapted(Environment Settings) {
+    if (GAME_IS_SANITIZED != 0) {
+        Settings["SDL_RENDER_DRIVER"] = "software";
+        Settings["SDL_FRAMEBUFFER_ACCELERATION"] = "0";
+    }
+    return Settings;
+}
+
+} // namespace
+
+const char *GameProgram() {
+    return GAME_PROGRAM;
+}
+
+OpenedGame::OpenedGame(ScreenSize Screen, const Environment &Settings)
+    : Session(GameProgram(), Screen, Adapted(Settings)) {
+    const std::optional<DesktopWindow> window = Session.WaitForWindow();
+    if (!window) {
+        throw std::runtime_error("The game showed no window. It says:\n" + Program().Output());
+    }
+    if (!WaitForPicture(FiveRowMenu(0))) {
+        throw std::runtime_error("The main menu does not come. The game says:\n" + Program().Output());
+    }
+    // Read anew: the first frame may have given the window another size.
+    Opened = Session.Person().FindWindow(window->Title).value_or(*window);
+}
+
+const DesktopWindow &OpenedGame::Window() const {
+    return Opened;
+}
+
+XClient &OpenedGame::Person() {
+    return Session.Person();
+}
+
+ChildProcess &OpenedGame::Program() {
+    return Session.Program();
+}
+
+std::optional<int> OpenedGame::Close() {
+    return Session.Close();
+}
+
+std::optional<Picture> OpenedGame::WaitForPicture(const Sight &Shows, std::chrono::milliseconds Deadline) {
+    return Session.WaitForPicture(Shows, Deadline);
+}
+
+std::optional<Picture> OpenedGame::Tap(Key Tapped, const Sight &Shows) {
+    return Session.Tap(Tapped, Shows);
+}
+
+// The press waits in the game's queue of events until a frame takes it, so it is not lost however short it
+// is.
+testing::AssertionResult OpenedGame::Ignores(Key Tapped, const Sight &Shows) {
+    Person().TapKey(Tapped, std::chrono::milliseconds{50});
+    return KeepsFor(std::chrono::milliseconds{500}, Shows);
+}
+
+testing::AssertionResult OpenedGame::KeepsFor(std::chrono::milliseconds Time, const Sight &Shows) {
+    const bool changed = WaitForPicture(
+        [&Shows](const Picture &Seen) {
+            return !Shows(Seen);
+        },
+        Time)
+                             .has_value();
+    if (!Program().IsRunning()) {
+        return testing::AssertionFailure() << "the game has ended";
+    }
+    return changed ? testing::AssertionFailure() << "the screen has changed" : testing::AssertionSuccess();
+}
+
+Sight ScreenIs(SeenScreen Screen) {
+    return [Screen](const Picture &Seen) {
+        return FindScreen(Seen) == Screen;
+    };
+}
+
+Sight MenuIs(SeenScreen Screen, int Rows, int Selected) {
+    return [wanted = SeenMenu{Screen, Rows, Selected}](const Picture &Seen) {
+        return FindMenu(Seen) == wanted;
+    };
+}
+
+Sight FiveRowMenu(int Selected) {
+    return MenuIs(SeenScreen::MainMenu, 5, Selected);
+}
+
+Sight SixRowMenu(int Selected) {
+    return MenuIs(SeenScreen::MainMenu, 6, Selected);
+}
+
+Sight PauseMenu(int Selected) {
+    return MenuIs(SeenScreen::Paused, 4, Selected);
+}
+
+Sight OptionsMenu(int Selected) {
+    return MenuIs(SeenScreen::Options, 4, Selected);
+}

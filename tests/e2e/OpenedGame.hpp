@@ -1,0 +1,49 @@
+#pragma once
+
+#include "tools/desktop/GameSession.hpp"
+#include "tools/desktop/MenuSight.hpp"
+#include "tools/desktop/WaitUntil.hpp"
+
+#include <chrono>
+#include <gtest/gtest.h>
+#include <optional>
+
+// The real program in a real window, on its main menu as a person finds it the first time: without a run.
+class OpenedGame {
+public:
+    // Starts the program and waits for the main menu. Throws std::runtime_error, with what the program wrote,
+    // if that does not come.
+    explicit OpenedGame(ScreenSize Screen = {}, const Environment &Settings = {});
+
+    const DesktopWindow &Window() const;
+    XClient &Person();
+    ChildProcess &Program();
+    // Asks the window to close and gives the program's result; nothing if it does not end.
+    std::optional<int> Close();
+
+    // As GameSession has them.
+    std::optional<Picture> WaitForPicture(
+        const Sight &Shows, std::chrono::milliseconds Deadline = PatientDeadline);
+    std::optional<Picture> Tap(Key Tapped, const Sight &Shows);
+
+    // Taps a key that should do nothing: whether all pictures of the next half second satisfy Shows still.
+    testing::AssertionResult Ignores(Key Tapped, const Sight &Shows);
+    // Whether all pictures of that time satisfy Shows.
+    testing::AssertionResult KeepsFor(std::chrono::milliseconds Time, const Sight &Shows);
+
+private:
+    GameSession Session;
+    DesktopWindow Opened;
+};
+
+// The program under test.
+const char *GameProgram();
+
+Sight ScreenIs(SeenScreen Screen);
+
+// A menu with its selected row, counted from 0. The main menu has five rows without a run and six with one.
+Sight MenuIs(SeenScreen Screen, int Rows, int Selected);
+Sight FiveRowMenu(int Selected);
+Sight SixRowMenu(int Selected);
+Sight PauseMenu(int Selected);
+Sight OptionsMenu(int Selected);
