@@ -1,0 +1,57 @@
+#include "quillini/CodeCvt.hpp"
+#include "quillini/quillini.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+namespace quillINI {
+
+namespace {
+
+enum class ByteOrder : std::uint8_t {
+    Little,
+    Big,
+};
+
+template <class Unit>
+void WriteUnits(const std::basic_string<Unit> &Units, std::ostream &File, ByteOrder Order) {
+    std::string bytes;
+    bytes.reserve(Units.size() * sizeof(Unit));
+    for (const Unit unit : Units) {
+        for (std::size_t i = 0; i < sizeof(Unit); ++i) {
+            const std::size_t place = Order == ByteOrder::Little ? i : sizeof(Unit) - 1 - i;
+            bytes += static_cast<char>(static_cast<std::uint8_t>(std::uint32_t{unit} >> 8 * place));
+        }
+    }
+    File << bytes;
+}
+
+} // namespace
+
+void WriteIniEncoded(std::string_view Text, std::ostream &File, IniEncoding Encoding) {
+    switch (Encoding) {
+    case IniEncoding::Utf8:
+    case IniEncoding::Utf8Bom:
+        File << Text;
+        break;
+    case IniEncoding::Utf16Le:
+        WriteUnits(Utf16From(Text), File, ByteOrder::Little);
+        break;
+    case IniEncoding::Utf16Be:
+        WriteUnits(Utf16From(Text), File, ByteOrder::Big);
+        break;
+    case IniEncoding::Utf32Le:
+        WriteUnits(Utf32From(Text), File, ByteOrder::Little);
+        break;
+    case IniEncoding::Utf32Be:
+        WriteUnits(Utf32From(Text), File, ByteOrder::Big);
+        break;
+    default: // an unknown encoding writes nothing
+        break;
+    }
+}
+
+} // namespace quillINI

@@ -1,0 +1,108 @@
+#include "quillini/Model.hpp"
+#include "quillini/Text.hpp"
+#include "quillini/quillini.hpp"
+
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace quillINI {
+
+namespace {
+
+constexpr std::string_view CommentKey = "QI_C_";
+constexpr std::string_view EmptyLineKey = "QI_EL_";
+
+std::vector<IniEntry>::iterator ReferenceEntry(IniSection &Section, std::string_view ReferenceKey) {
+    const auto reference = ReferenceKey.empty() ? Section.Entries.end() : FindIniEntry(Section, ReferenceKey);
+    if (reference == Section.Entries.end()) {
+        throw std::runtime_error('"' + std::string(ReferenceKey) + "\" could not be found!");
+    }
+    return reference;
+}
+
+std::vector<IniEntry>::iterator PlaceOf(
+    IniSection &Section, IniInsertPosition Position, std::string_view ReferenceKey) {
+    switch (Position) {
+    case IniInsertPosition::Front:
+        return Section.Entries.begin();
+    case IniInsertPosition::BeforeKey:
+        return ReferenceEntry(Section, ReferenceKey);
+    case IniInsertPosition::AfterKey:
+        return std::next(ReferenceEntry(Section, ReferenceKey));
+    case IniInsertPosition::Back:
+    default:
+        return Section.Entries.end();
+    }
+}
+
+IniEntry CommentLine(std::string_view Key, std::string_view Text) {
+    IniEntry comment;
+    comment.Kind = IniEntryKind::Comment;
+    comment.Key = Key;
+    comment.Value = Text;
+    return comment;
+}
+
+IniEntry EmptyLine(std::string_view Key) {
+    IniEntry emptyLine;
+    emptyLine.Kind = IniEntryKind::EmptyLine;
+    emptyLine.Key = Key;
+    return emptyLine;
+}
+
+/// A key of the file that looks like a reserved one swallows the line; that stays.
+bool IsTaken(const IniSection &Section, std::string_view Key) {
+    return FindIniEntry(Section, Key) != Section.Entries.end();
+}
+
+void InsertLine(
+    IniSection &Section, IniEntry Line, IniInsertPosition Position, std::string_view ReferenceKey) {
+    if (!IsTaken(Section, Line.Key)) {
+        Section.Entries.insert(PlaceOf(Section, Position, ReferenceKey), std::move(Line));
+    }
+}
+
+void AppendLine(IniSection &Section, IniEntry Line, bool MayClash) {
+    if (!MayClash || !IsTaken(Section, Line.Key)) {
+        Section.Entries.push_back(std::move(Line));
+    }
+}
+
+} // namespace
+
+void AddIniComment(IniSection &Section, std::string_view Key, std::string_view Text,
+    IniInsertPosition Position, std::string_view ReferenceKey, bool RawComment) {
+    IniEntry comment = CommentLine(Key, Text);
+    comment.RawComment = RawComment;
+    InsertLine(Section, std::move(comment), Position, ReferenceKey);
+}
+
+void AddIniEmptyLine(
+    IniSection &Section, std::string_view Key, IniInsertPosition Position, std::string_view ReferenceKey) {
+    InsertLine(Section, EmptyLine(Key), Position, ReferenceKey);
+}
+
+void AppendComment(IniSection &Section, std::string_view Text, bool MayClash) {
+    ++Section.CommentCount;
+    const std::string key = std::string(CommentKey) + TextFromNumber(Section.CommentCount);
+    AppendLine(Section, CommentLine(key, Text), MayClash);
+}
+
+void AppendEmptyLine(IniSection &Section, bool MayClash) {
+    ++Section.EmptyLineCount;
+    const std::string key = std::string(EmptyLineKey) + TextFromNumber(Section.EmptyLineCount);
+    AppendLine(Section, EmptyLine(key), MayClash);
+}
+
+void AppendIniEmptyLine(IniDocument &Document, std::string_view SectionName) {
+    const auto section = FindIniSection(Document, SectionName.empty() ? IniGlobalSection : SectionName);
+    if (section != Document.Sections.end()) {
+        AppendEmptyLine(*section, true);
+    }
+}
+
+} // namespace quillINI

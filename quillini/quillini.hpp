@@ -1,0 +1,168 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <iosfwd>
+#include <locale>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// INI files that keep what a person wrote: the order of sections and entries, comments, blank lines, quotes.
+/// All text in memory is UTF-8. Lookups compare exact bytes and walk the lists from the front: documents are
+/// small.
+namespace quillINI {
+
+/// The section of everything that stands before the first section tag.
+inline constexpr std::string_view IniGlobalSection = "QI_Global";
+
+enum class IniEntryKind : std::uint8_t {
+    EmptyLine = 0,
+    Comment = 1,
+    Value = 2,
+    Array = 3,
+};
+
+/// One line of a section, or all elements of an array.
+struct IniEntry {
+    IniEntryKind Kind = IniEntryKind::EmptyLine;
+    std::string Key; ///< of a comment or blank line a reserved key, of an element its index as text
+    std::string
+        Value; ///< value or comment text without escapes and quotes; empty for a blank line or an array
+    std::optional<std::string> Comment; ///< behind the value, on its line
+    bool Quoted = false;
+    bool RawComment =
+        false; ///< of a comment: quotes and backslashes are written without a backslash before them
+    std::int32_t NextIndex = 0; ///< of an array: the index of the latest element that was added without one
+    bool WriteIndexes = false;  ///< of an array: the writer spells the indexes out; nothing here sets it
+    std::vector<IniEntry> Elements;
+
+    bool operator==(const IniEntry &) const = default;
+};
+
+/// A section; its keys are unique.
+struct IniSection {
+    std::string Name;
+    std::optional<std::string> Comment; ///< behind the section tag
+    std::vector<IniEntry> Entries;
+    std::int32_t CommentCount = 0;   ///< keys "QI_C_1" and up that were handed out
+    std::int32_t EmptyLineCount = 0; ///< keys "QI_EL_1" and up that were handed out
+
+    bool operator==(const IniSection &) const = default;
+};
+
+/// A whole file; its section names are unique.
+struct IniDocument {
+    /// Nothing but the global section, empty.
+    IniDocument();
+
+    std::string LineEnd = "\r\n"; ///< of the writer, as the three characters below
+    char CommentChar = ';';
+    char StringChar = '"';
+    char KeyValueSeparator = '=';
+    std::locale Locale = std::locale::classic(); ///< held only: reading and writing know no locale
+    std::vector<IniSection> Sections;
+
+    bool operator==(const IniDocument &) const = default;
+};
+
+/// Where a comment or blank line goes; the last two take a reference key.
+enum class IniInsertPosition : std::uint8_t {
+    Front = 0,
+    Back = 1,
+    BeforeKey = 2,
+    AfterKey = 3,
+};
+
+/// What a file is written in.
+enum class IniEncoding : std::uint8_t {
+    Utf8 = 0, ///< the only one without a byte order mark
+    Utf8Bom = 1,
+    Utf16Le = 2,
+    Utf16Be = 3,
+    Utf32Le = 4,
+    Utf32Be = 5,
+};
+
+/// The first section of that name, or the end of the sections.
+std::vector<IniSection>::iterator FindIniSection(IniDocument &Document, std::string_view Name);
+std::vector<IniSection>::const_iterator FindIniSection(const IniDocument &Document, std::string_view Name);
+
+bool HasIniSection(const IniDocument &Document, std::string_view Name);
+
+/// Throws std::out_of_range if Index is negative or not below the number of sections.
+IniSection &IniSectionAt(IniDocument &Document, std::ptrdiff_t Index);
+const IniSection &IniSectionAt(const IniDocument &Document, std::ptrdiff_t Index);
+
+/// The first entry of that key, or the end of the entries.
+std::vector<IniEntry>::iterator FindIniEntry(IniSection &Section, std::string_view Key);
+std::vector<IniEntry>::const_iterator FindIniEntry(const IniSection &Section, std::string_view Key);
+
+/// The value, or Default if the section or the key is absent. An array has an empty one.
+std::string GetIniValue(
+    const IniDocument &Document, std::string_view Section, std::string_view Key, std::string_view Default);
+
+/// Sets a value; an absent section or key is appended, a present key keeps its place and comment.
+void SetIniValue(IniDocument &Document, std::string_view Section, std::string_view Key,
+    std::string_view Value, bool Quoted);
+
+/// Sets a value that is written in quotes.
+void SetIniString(
+    IniDocument &Document, std::string_view Section, std::string_view Key, std::string_view Value);
+
+/// Sets a value within a section. The reference lives until the next entry is added.
+IniEntry &AddIniValue(IniSection &Section, std::string_view Key, std::string_view Value, bool Quoted);
+
+/// Sets the comment behind a value; an empty text takes it away.
+void SetIniEntryComment(IniEntry &Entry, std::string_view Text);
+
+/// Sets the comment behind a section tag; an empty text takes it away.
+void SetIniSectionComment(IniSection &Section, std::string_view Text);
+
+/// Sets the element Index of the array Key, or appends one; without HasIndex the index is the largest one
+/// plus 1. Then throws std::invalid_argument if an element's key is no number, std::out_of_range if one
+/// leaves 32 bits.
+void AddIniArrayElement(IniSection &Section, std::string_view Key, std::string_view Value, bool Quoted,
+    bool HasComment, std::string_view Comment, std::string_view Index, bool HasIndex);
+
+/// The end of an array's elements. Throws std::runtime_error if the entry is no array.
+std::vector<IniEntry>::iterator IniArrayElementsEnd(IniEntry &Entry);
+std::vector<IniEntry>::const_iterator IniArrayElementsEnd(const IniEntry &Entry);
+
+/// Inserts a comment line, unless the key is taken. Throws std::runtime_error if BeforeKey or AfterKey find
+/// no entry under ReferenceKey, or it is empty.
+void AddIniComment(IniSection &Section, std::string_view Key, std::string_view Text,
+    IniInsertPosition Position = IniInsertPosition::Back, std::string_view ReferenceKey = {},
+    bool RawComment = false);
+
+/// Inserts a blank line, by the rules of AddIniComment.
+void AddIniEmptyLine(IniSection &Section, std::string_view Key,
+    IniInsertPosition Position = IniInsertPosition::Back, std::string_view ReferenceKey = {});
+
+/// Appends a blank line under the section's next reserved key; an empty name means the global section.
+/// Nothing happens if there is no such section.
+void AppendIniEmptyLine(IniDocument &Document, std::string_view SectionName);
+
+/// The non-empty pieces between any characters of Delimiters, or the whole text if there is none.
+std::vector<std::string> SplitAny(std::string_view Text, std::string_view Delimiters);
+
+/// Adds a file to a document; messages go to standard output. False if it cannot be opened or has under 6
+/// bytes. A syntax error ends the reading and still gives true. Throws std::range_error for invalid UTF-16 or
+/// UTF-32, std::runtime_error for an invalid unicode escape, and what AddIniArrayElement throws.
+bool ReadIniFile(IniDocument &Document, std::string_view Path);
+
+/// Writes a document over a file; Spaced puts blanks around separators and blank lines between sections.
+/// False if it cannot be opened; later failures of the disk are not seen. Throws as EscapeIniText, with part
+/// of it written.
+bool WriteIniFile(const IniDocument &Document, std::string_view Path, bool Spaced, IniEncoding Encoding);
+
+/// Writes UTF-8 text in an encoding, without a byte order mark; nothing for a value that is no encoding.
+/// Throws std::range_error if the text is invalid and has to be converted.
+void WriteIniEncoded(std::string_view Text, std::ostream &File, IniEncoding Encoding);
+
+/// The text in pure ASCII, with quotes, backslashes, control characters and all beyond ASCII as escapes.
+/// Throws std::runtime_error if it is not UTF-8.
+std::string EscapeIniText(std::string_view Text);
+
+} // namespace quillINI
