@@ -1,6 +1,6 @@
 # The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
 .POSIX:
-.PHONY: help run test bench asan install clean format
+.PHONY: help run test bench asan music install clean format
 
 PREFIX = /usr/local
 
@@ -9,6 +9,7 @@ help:
 	@echo 'make test     set up what is missing and run all tests, plainly and under the sanitizers'
 	@echo 'make bench    measure drawing, the simulation step and the start-up'
 	@echo 'make asan     the tests under AddressSanitizer and UndefinedBehaviorSanitizer only'
+	@echo 'make music    play the scores of tools/music into Music/ (the results are kept in the repository)'
 	@echo 'make install  install the game below PREFIX ($(PREFIX)); DESTDIR is honoured'
 	@echo 'make format   lay out the code as .clang-format has it'
 	@echo 'make clean    remove build/ (libraries built for this user stay in the cache)'
@@ -45,6 +46,10 @@ asan:
 	cmake --preset sanitizers
 	cmake --build --preset sanitizers
 	ctest --preset sanitizers
+
+music:
+	@scripts/setup music
+	@tools/music/render
 
 # The set-up is left alone where it has been done: "sudo make install" shall not build the libraries again for root.
 install:

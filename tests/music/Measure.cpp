@@ -1,0 +1,113 @@
+#include "tests/music/Measure.hpp"
+
+#include <ebur128.h>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+namespace {
+
+constexpr double secondsForLoudness = 26.0;
+
+struct MeterEnd {
+    void operator()(ebur128_state *Meter) const {
+        ebur128_destroy(&Meter);
+    }
+};
+using Meter = std::unique_ptr<ebur128_state, MeterEnd>;
+
+/// A meter that has heard the piece at least twice, and for the given time.
+Meter Listen(const Piece &Piece, int Mode, double Seconds) {
+    Meter meter(
+        ebur128_init(static_cast<unsigned>(Piece.Channels), static_cast<unsigned long>(Piece.Rate), Mode));
+    const double length = static_cast<double>(FrameCount(Piece)) / Piece.Rate;
+    const int passes = std::max(2, static_cast<int>(std::ceil(Seconds / length)));
+    for (int pass = 0; pass < passes; ++pass) {
+        ebur128_add_frames_float(meter.get(), Piece.Samples.data(), FrameCount(Piece));
+    }
+    return meter;
+}
+
+double Decibels(double Amplitude) {
+    return 20.0 * std::log10(Amplitude);
+}
+
+double ChannelPower(const Piece &Piece, std::size_t Channel, std::size_t First, std::size_t Last) {
+    const auto channels = static_cast<std::size_t>(Piece.Channels);
+    double sum = 0.0;
+    for (std::size_t frame = First; frame < Last; ++frame) {
+        const double sample = static_cast<double>(Piece.Samples[frame * channels + Channel]);
+        sum += sample * sample;
+    }
+    return sum / static_cast<double>(Last - First);
+}
+
+double Step(const Piece &Piece, std::size_t From, std::size_t To) {
+    const auto channels = static_cast<std::size_t>(Piece.Channels);
+    float largest = 0.0F;
+    for (std::size_t channel = 0; channel < channels; ++channel) {
+        const float step = Piece.Samples[To * channels + channel] - Piece.Samples[From * channels + channel];
+        largest = std::max(largest, std::abs(step));
+    }
+    return static_cast<double>(largest);
+}
+
+} // namespace
+
+double Loudness(const Piece &Piece) {
+    double loudness = 0.0;
+    ebur128_loudness_global(Listen(Piece, EBUR128_MODE_I, secondsForLoudness).get(), &loudness);
+    return loudness;
+}
+
+double TruePeak(const Piece &Piece) {
+    const Meter meter = Listen(Piece, EBUR128_MODE_TRUE_PEAK, 0.0);
+    double peak = 0.0;
+    for (unsigned channel = 0; channel < static_cast<unsigned>(Piece.Channels); ++channel) {
+        double ofChannel = 0.0;
+        ebur128_true_peak(meter.get(), channel, &ofChannel);
+        peak = std::max(peak, ofChannel);
+    }
+    return Decibels(peak);
+}
+
+double Level(const Piece &Piece, std::size_t First, std::size_t Last) {
+    double power = 0.0;
+    for (int channel = 0; channel < Piece.Channels; ++channel) {
+        power += ChannelPower(Piece, static_cast<std::size_t>(channel), First, Last);
+    }
+    return Decibels(std::sqrt(power / Piece.Channels));
+}
+
+double Balance(const Piece &Piece) {
+    const std::size_t frames = FrameCount(Piece);
+    return Decibels(std::sqrt(ChannelPower(Piece, 0, 0, frames) / ChannelPower(Piece, 1, 0, frames)));
+}
+
+double Offset(const Piece &Piece) {
+    const auto channels = static_cast<std::size_t>(Piece.Channels);
+    double largest = 0.0;
+    for (std::size_t channel = 0; channel < channels; ++channel) {
+        double sum = 0.0;
+        for (std::size_t at = channel; at < Piece.Samples.size(); at += channels) {
+            sum += static_cast<double>(Piece.Samples[at]);
+        }
+        largest = std::max(largest, std::abs(sum) / static_cast<double>(FrameCount(Piece)));
+    }
+    return largest;
+}
+
+double SeamStep(const Piece &Piece) {
+    return Step(Piece, FrameCount(Piece) - 1, 0);
+}
+
+double UsualStep(const Piece &Piece, double Share) {
+    std::vector<double> steps;
+    for (std::size_t frame = 1; frame < FrameCount(Piece); ++frame) {
+        steps.push_back(Step(Piece, frame - 1, frame));
+    }
+    const auto rank = static_cast<std::ptrdiff_t>(Share * static_cast<double>(steps.size() - 1));
+    std::nth_element(steps.begin(), steps.begin() + rank, steps.end());
+    return steps[static_cast<std::size_t>(rank)];
+}
