@@ -1,7 +1,9 @@
 #include "options/Displays.hpp"
 
 #include "state/GameState.hpp"
+#include "state/Lists.hpp"
 #include "state/Numbers.hpp"
+#include "state/RefreshRates.hpp"
 #include "state/Resolutions.hpp"
 
 #include <algorithm>
@@ -11,12 +13,6 @@ namespace {
 // Where the built-in resolutions have a height of 720.
 constexpr std::int32_t FallbackIndex4x3 = 2;
 constexpr std::int32_t FallbackIndexWide = 3;
-
-template <typename Value> void AppendNew(std::vector<Value> &List, const Value &Entry) {
-    if (std::find(List.begin(), List.end(), Entry) == List.end()) {
-        List.push_back(Entry);
-    }
-}
 
 SDL_DisplayID DisplayOf(SDL_Window *Window) {
     const SDL_DisplayID display = Window != nullptr ? SDL_GetDisplayForWindow(Window) : 0;
@@ -77,21 +73,4 @@ void RebuildDisplayLists(GameState &State, SDL_Window *Window) {
     const std::int32_t fallback = State.AspectMode == AspectClassic4x3 ? FallbackIndex4x3 : FallbackIndexWide;
     State.ResolutionIndex = FindResolutionIndex(State, wanted.Width, wanted.Height, fallback);
     RebuildRefreshRates(State);
-}
-
-void RebuildRefreshRates(GameState &State) {
-    const std::int32_t wanted = std::max(State.RefreshRate, 0);
-    State.RefreshRates.assign(1, 0);
-    if (State.Fullscreen) {
-        const Resolution current = CurrentResolution(State);
-        for (const DisplayMode &mode : State.DisplayModes) {
-            if (mode.Width == current.Width && mode.Height == current.Height && mode.Hz > 0) {
-                AppendNew(State.RefreshRates, mode.Hz);
-            }
-        }
-        std::sort(State.RefreshRates.begin() + 1, State.RefreshRates.end());
-    }
-    const bool offered =
-        std::find(State.RefreshRates.begin(), State.RefreshRates.end(), wanted) != State.RefreshRates.end();
-    State.RefreshRate = offered ? wanted : 0;
 }

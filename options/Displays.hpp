@@ -12,7 +12,3 @@ SDL_DisplayID FirstDisplay();
 /// in the built-in lists). Where no size of the display fits the aspect mode, the built-in resolutions stand
 /// in.
 void RebuildDisplayLists(GameState &State, SDL_Window *Window);
-
-/// Refills RefreshRates with automatic (0) and, in fullscreen, the rates that the display offers at the
-/// current resolution. A chosen rate that is not among them becomes automatic.
-void RebuildRefreshRates(GameState &State);

@@ -63,3 +63,7 @@ constexpr BindingTable DefaultJoystickBindings{0, 1, 2, 0, 3};
 constexpr std::int32_t FirstScancode = 1;
 constexpr std::int32_t LastScancode = 511;
 constexpr std::int32_t LastGamepadButton = 25;
+
+/// What stands in a row that nothing is bound to.
+constexpr std::int32_t UnboundKey = 0;
+constexpr std::int32_t UnboundButton = -1;

@@ -65,9 +65,9 @@ struct GameState {
     bool Fullscreen = true;
     bool VSync = true;
     bool VSyncActive = false; ///< what the renderer reported at the last apply
-    std::int32_t MasterVolume = 100;
-    std::int32_t MusicVolume = 50;
-    std::int32_t SfxVolume = 75;
+    std::int32_t MasterVolume = DefaultMasterVolume;
+    std::int32_t MusicVolume = DefaultMusicVolume;
+    std::int32_t SfxVolume = DefaultSfxVolume;
     bool MusicEnabled = true;
     bool SfxEnabled = true;
     std::string Language = "en";
@@ -76,14 +76,32 @@ struct GameState {
     BindingTable GamepadBindings = DefaultGamepadBindings;
     BindingTable JoystickBindings = DefaultJoystickBindings;
 
-    // The option pages; none of it is stored.
+    // The option pages; none of it is stored. Controls and Audio edit the pending copies, which reach the
+    // applied options with APPLY; Graphics edits the applied options, and the snapshot can bring them back.
     enum OptionsPage OptionsPage = OptionsPageMain;
     std::int32_t OptionsMainSelection = 0;
+    std::int32_t ControlsSelection = 0;
+    std::int32_t GraphicsSelection = 0;
+    std::int32_t AudioSelection = 0;
     bool CaptureActive = false; ///< the Controls page waits for a press to bind
     enum CaptureKind CaptureKind = CaptureKindNone;
-    bool PendingControlsValid = false;  ///< the Controls page is in edit
+    std::int32_t CaptureKeyboardRow = 0; ///< the table row under capture, one for each kind
+    std::int32_t CaptureGamepadRow = 0;
+    std::int32_t CaptureJoystickRow = 0;
+    BindingTable PendingKeyboard = DefaultKeyboardBindings;
+    BindingTable PendingGamepad = DefaultGamepadBindings;
+    BindingTable PendingJoystick = DefaultJoystickBindings;
+    enum ControlsDevice PendingControlsDevice = ControlsDeviceKeyboard;
+    bool PendingControlsValid = false; ///< the Controls page is in edit
+    struct GraphicsSnapshot GraphicsSnapshot;
     bool GraphicsSnapshotValid = false; ///< the Graphics page is in edit
-    bool PendingAudioValid = false;     ///< the Audio page is in edit
+    std::int32_t PendingMasterVolume = DefaultMasterVolume;
+    std::int32_t PendingMusicVolume = DefaultMusicVolume;
+    std::int32_t PendingSfxVolume = DefaultSfxVolume;
+    bool PendingMusicEnabled = true;
+    bool PendingSfxEnabled = true;
+    std::string PendingLanguage = "en";
+    bool PendingAudioValid = false; ///< the Audio page is in edit
 
     // Bookkeeping of the options.
     bool OptionsDirty = false;    ///< the options file is to be written

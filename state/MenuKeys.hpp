@@ -10,7 +10,9 @@ constexpr std::int32_t ScancodeS = 22;
 constexpr std::int32_t ScancodeW = 26;
 constexpr std::int32_t ScancodeReturn = 40;
 constexpr std::int32_t ScancodeEscape = 41;
+constexpr std::int32_t ScancodeBackspace = 42;
 constexpr std::int32_t ScancodeSpace = 44;
+constexpr std::int32_t ScancodeDelete = 76;
 constexpr std::int32_t ScancodeRight = 79;
 constexpr std::int32_t ScancodeLeft = 80;
 constexpr std::int32_t ScancodeDown = 81;
@@ -40,6 +42,11 @@ constexpr bool IsKeyEnter(std::int32_t Scancode) {
 
 constexpr bool IsKeyActivate(std::int32_t Scancode) {
     return IsKeyEnter(Scancode) || Scancode == ScancodeSpace;
+}
+
+/// The keys that unbind a row while its capture runs.
+constexpr bool IsKeyClear(std::int32_t Scancode) {
+    return Scancode == ScancodeDelete || Scancode == ScancodeBackspace;
 }
 
 constexpr bool IsKeyEscape(std::int32_t Scancode) {

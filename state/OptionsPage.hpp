@@ -1,5 +1,7 @@
 #pragma once
 
+#include "state/Display.hpp"
+
 #include <cstdint>
 
 /// The pages of ScreenOptions.
@@ -8,4 +10,14 @@ enum OptionsPage : std::int32_t {
     OptionsPageControls = 1,
     OptionsPageGraphics = 2,
     OptionsPageAudio = 3,
+};
+
+/// The display options as they were last applied, while the Graphics page edits the live ones.
+struct GraphicsSnapshot {
+    std::int32_t Width = 1280;
+    std::int32_t Height = 720;
+    enum AspectMode AspectMode = AspectWidescreen;
+    std::int32_t RefreshRate = 0;
+    bool Fullscreen = true;
+    bool VSync = true;
 };

@@ -6,6 +6,12 @@
 
 struct GameState;
 
+/// The volumes that the game starts with, in percent.
+constexpr std::int32_t DefaultMasterVolume = 100;
+constexpr std::int32_t DefaultMusicVolume = 50;
+constexpr std::int32_t DefaultSfxVolume = 75;
+constexpr std::int32_t MaxVolume = 100;
+
 /// The synthesised sounds.
 enum class SfxId : std::uint8_t {
     UiMove = 0,

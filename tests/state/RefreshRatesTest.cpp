@@ -1,4 +1,5 @@
-#include "options/Displays.hpp"
+#include "state/RefreshRates.hpp"
+
 #include "state/GameState.hpp"
 
 #include <gtest/gtest.h>

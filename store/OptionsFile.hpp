@@ -1,0 +1,13 @@
+#pragma once
+
+struct GameState;
+
+constexpr const char *OptionsFileName = "Config.ini";
+
+/// Reads the options file. False if there is none that can be read; then nothing has changed. A key that is
+/// missing or bad leaves what was there.
+bool LoadOptions(GameState &State);
+
+/// Writes the options file anew; nothing of an older one is kept. False if it did not reach the user's
+/// storage.
+bool SaveOptions(const GameState &State);

@@ -1,0 +1,162 @@
+#pragma once
+
+#include "sim/Lanes.hpp"
+#include "state/GameState.hpp"
+#include "state/LogicalScreen.hpp"
+
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <string_view>
+#include <variant>
+
+// What the save state holds, in the order in which it stands in the file. Writing and reading go by the same
+// tables, so that they cannot drift apart. Floats are Double tokens, whole numbers Int32, the score Int64.
+
+constexpr std::string_view HighScoreKey = "HighScore";
+constexpr std::string_view HasRunStateKey = "HasRunState";
+constexpr std::string_view RunStateKey = "RunState";
+constexpr std::string_view PlayerKey = "Player";
+
+template <typename Record>
+using SaveMember = std::variant<float Record::*, std::int32_t Record::*, std::int64_t Record::*,
+    bool Record::*, struct Color Record::*>;
+
+constexpr double NoLimit = std::numeric_limits<double>::infinity();
+
+/// A field, and the range that a number is brought into after reading.
+template <typename Record> struct SaveField {
+    std::string_view Key;
+    SaveMember<Record> Member;
+    double Lowest = -NoLimit;
+    double Highest = NoLimit;
+};
+
+/// The run without its player and its lists. The initial values of a GameState stand for missing keys.
+constexpr std::array<SaveField<GameState>, 24> RunFields{{
+    {"Score", &GameState::Score, 0},
+    {"Stage", &GameState::Stage, 1},
+    {"PreviousStage", &GameState::PreviousStage, 1},
+    {"WaterFlowDirection", &GameState::WaterFlowDirection}, // -1 or 1: see LoadSaveState
+    {"PreviousWaterFlowDirection", &GameState::PreviousWaterFlowDirection},
+    {"GameTime", &GameState::GameTime, 0},
+    {"RoadScroll", &GameState::RoadScroll, 0},
+    {"CurrentScrollSpeed", &GameState::CurrentScrollSpeed, 10},
+    {"StageTransition", &GameState::StageTransition, 0, 1},
+    {"SpawnTimer", &GameState::SpawnTimer, 0},
+    {"ObstacleSpawnTimer", &GameState::ObstacleSpawnTimer, 0},
+    {"ItemSpawnTimer", &GameState::ItemSpawnTimer, 0},
+    {"ReadyBanner", &GameState::ReadyBanner, 0},
+    {"InvulnerabilityTimer", &GameState::InvulnerabilityTimer, 0},
+    {"LaneMoveCooldown", &GameState::LaneMoveCooldown, 0},
+    {"AmmoRegenPause", &GameState::AmmoRegenPause, 0},
+    {"AmmoMeter", &GameState::AmmoMeter, 0, static_cast<double>(MaxAmmo)},
+    {"Bombs", &GameState::Bombs, 0, MaxBombs},
+    {"FirstAidKits", &GameState::FirstAidKits, 0, MaxFirstAidKits},
+    {"PlayerLane", &GameState::PlayerLane, 0, LaneCount - 1},
+    {"SpecialActive", &GameState::SpecialActive},
+    {"SpecialTimer", &GameState::SpecialTimer, 0},
+    {"InvincibilityPowerTimer", &GameState::InvincibilityPowerTimer, 0},
+    {"DualWeaponPowerTimer", &GameState::DualWeaponPowerTimer, 0},
+}};
+
+constexpr std::array<SaveField<Player>, 7> PlayerFields{{
+    {"X", &Player::X}, // replaced by the lane's
+    {"Y", &Player::Y, 0, LogicalHeight},
+    {"Radius", &Player::Radius},
+    {"Hp", &Player::Hp, 0}, // and at most MaxHp
+    {"MaxHp", &Player::MaxHp, 1},
+    {"Stocks", &Player::Stocks, 0, MaxStocks},
+    {"FireCooldown", &Player::FireCooldown, 0},
+}};
+
+constexpr std::array<SaveField<Bullet>, 4> BulletFields{{
+    {"X", &Bullet::X},
+    {"Y", &Bullet::Y},
+    {"Speed", &Bullet::Speed},
+    {"Radius", &Bullet::Radius},
+}};
+
+constexpr std::array<SaveField<EnemyBullet>, 5> EnemyBulletFields{{
+    {"X", &EnemyBullet::X},
+    {"Y", &EnemyBullet::Y},
+    {"Speed", &EnemyBullet::Speed},
+    {"Radius", &EnemyBullet::Radius},
+    {"Damage", &EnemyBullet::Damage},
+}};
+
+constexpr std::array<SaveField<Enemy>, 11> EnemyFields{{
+    {"X", &Enemy::X},
+    {"Y", &Enemy::Y},
+    {"Speed", &Enemy::Speed},
+    {"Radius", &Enemy::Radius},
+    {"HitFlash", &Enemy::HitFlash},
+    {"AiTimer", &Enemy::AiTimer},
+    {"FireCooldown", &Enemy::FireCooldown},
+    {"Lane", &Enemy::Lane, 0, LaneCount - 1},
+    {"Hp", &Enemy::Hp},
+    {"Score", &Enemy::Score},
+    {"Color", &Enemy::Color},
+}};
+
+constexpr std::array<SaveField<Obstacle>, 10> ObstacleFields{{
+    {"X", &Obstacle::X},
+    {"Y", &Obstacle::Y},
+    {"Speed", &Obstacle::Speed},
+    {"Width", &Obstacle::Width},
+    {"Height", &Obstacle::Height},
+    {"HitFlash", &Obstacle::HitFlash},
+    {"Lane", &Obstacle::Lane, 0, LaneCount - 1},
+    {"Hp", &Obstacle::Hp},
+    {"Score", &Obstacle::Score},
+    {"Type", &Obstacle::Type, 0, 2},
+}};
+
+constexpr std::array<SaveField<Item>, 6> ItemFields{{
+    {"X", &Item::X},
+    {"Y", &Item::Y},
+    {"Speed", &Item::Speed},
+    {"Radius", &Item::Radius},
+    {"Lane", &Item::Lane, 0, LaneCount - 1},
+    {"Type", &Item::Type, 0, 3},
+}};
+
+constexpr std::array<SaveField<Explosion>, 6> ExplosionFields{{
+    {"X", &Explosion::X},
+    {"Y", &Explosion::Y},
+    {"Age", &Explosion::Age},
+    {"Life", &Explosion::Life},
+    {"MaxRadius", &Explosion::MaxRadius},
+    {"Color", &Explosion::Color},
+}};
+
+// What stands for the missing keys of a list's entry.
+
+constexpr Bullet SavedBullet{.Radius = 2.0F};
+constexpr EnemyBullet SavedEnemyBullet{.Speed = 190.0F, .Radius = 2.0F, .Damage = 12};
+constexpr Enemy SavedEnemy{};
+constexpr Obstacle SavedObstacle{};
+constexpr Item SavedItem{};
+constexpr Explosion SavedExplosion{.Life = 0.5F, .MaxRadius = 20.0F, .Color = {0xFF, 0xDC, 0x64, 0xDC}};
+
+/// Calls Visit(key, member list of the state, its fields, its defaults) for each list, in the file's order.
+template <typename Visitor> void VisitSaveLists(Visitor Visit) {
+    Visit("Bullets", &GameState::Bullets, BulletFields, SavedBullet);
+    Visit("EnemyBullets", &GameState::EnemyBullets, EnemyBulletFields, SavedEnemyBullet);
+    Visit("Enemies", &GameState::Enemies, EnemyFields, SavedEnemy);
+    Visit("Obstacles", &GameState::Obstacles, ObstacleFields, SavedObstacle);
+    Visit("Items", &GameState::Items, ItemFields, SavedItem);
+    Visit("Explosions", &GameState::Explosions, ExplosionFields, SavedExplosion);
+}
+
+struct ColorChannel {
+    std::string_view Key;
+    std::uint8_t Color::*Value;
+};
+
+constexpr std::array<ColorChannel, 4> ColorChannels{{
+    {"R", &Color::R},
+    {"G", &Color::G},
+    {"B", &Color::B},
+    {"A", &Color::A},
+}};

@@ -1,0 +1,67 @@
+#include "store/ValueStream.hpp"
+
+#include <array>
+#include <bit>
+
+bool ValueStreamWriter::Open(const std::string &Path) {
+    File = OpenPlainFile(Path, "wb");
+    if (!File) {
+        std::fprintf(stderr, "Unable to write file: %s\n", Path.c_str());
+        return false;
+    }
+    return true;
+}
+
+void ValueStreamWriter::BeginObject() {
+    WriteTag(ValueTag::ObjectBegin);
+}
+
+void ValueStreamWriter::BeginArray() {
+    WriteTag(ValueTag::ArrayBegin);
+}
+
+void ValueStreamWriter::End() {
+    WriteTag(ValueTag::End);
+}
+
+void ValueStreamWriter::WriteKey(std::string_view Text) {
+    WriteTag(ValueTag::String);
+    WriteNumber(static_cast<std::uint32_t>(Text.size()));
+    std::fwrite(Text.data(), 1, Text.size(), File.get());
+}
+
+void ValueStreamWriter::WriteBool(bool Value) {
+    WriteTag(ValueTag::Bool);
+    WriteNumber(static_cast<std::uint8_t>(Value ? 1 : 0));
+}
+
+void ValueStreamWriter::WriteInt32(std::int32_t Value) {
+    WriteTag(ValueTag::Int32);
+    WriteNumber(static_cast<std::uint32_t>(Value));
+}
+
+void ValueStreamWriter::WriteInt64(std::int64_t Value) {
+    WriteTag(ValueTag::Int64);
+    WriteNumber(static_cast<std::uint64_t>(Value));
+}
+
+void ValueStreamWriter::WriteDouble(double Value) {
+    WriteTag(ValueTag::Double);
+    WriteNumber(std::bit_cast<std::uint64_t>(Value));
+}
+
+void ValueStreamWriter::Close() {
+    File.reset();
+}
+
+void ValueStreamWriter::WriteTag(ValueTag Tag) {
+    WriteNumber(static_cast<std::uint8_t>(Tag));
+}
+
+template <typename Number> void ValueStreamWriter::WriteNumber(Number Value) {
+    std::array<unsigned char, sizeof(Number)> bytes{};
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        bytes[i] = static_cast<unsigned char>(Value >> (8 * i));
+    }
+    std::fwrite(bytes.data(), 1, bytes.size(), File.get());
+}

@@ -1,0 +1,29 @@
+#include "tests/store/SmallDisk.hpp"
+
+#include "tests/store/StoreTest.hpp"
+
+#include <sched.h>
+#include <sys/mount.h>
+
+#include <string>
+
+SmallDisk::SmallDisk(const std::filesystem::path &Folder, int Kilobytes) : Place(Folder) {
+    const std::string options = "mode=0700,size=" + std::to_string(Kilobytes) + "k";
+    IsThere = unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+              mount("none", Place.c_str(), "tmpfs", 0, options.c_str()) == 0;
+}
+
+SmallDisk::~SmallDisk() {
+    if (IsThere) {
+        umount2(Place.c_str(), MNT_DETACH);
+    }
+}
+
+void SmallDisk::FillUpTo(int KilobytesLeft) const {
+    const auto room = std::filesystem::space(Place).available;
+    WriteBytes(Place / "filler", std::string(room - static_cast<std::size_t>(KilobytesLeft) * 1024, 'f'));
+}
+
+void SmallDisk::MakeReadOnly() const {
+    EXPECT_EQ(mount("none", Place.c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
+}

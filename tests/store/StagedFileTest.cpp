@@ -1,0 +1,119 @@
+#include "store/StagedFile.hpp"
+
+#include "tests/store/StoreTest.hpp"
+#include "tests/support/watch/SdlWatch.hpp"
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+constexpr StagedFile File{"a.bin", ".a.bin.tmp"};
+
+class StagedFileTest : public StoreTest {
+protected:
+    bool Write(bool Works) {
+        return WriteStagedFile(File, [this, Works](const std::string &Path) {
+            ++Steps;
+            EXPECT_EQ(Path, PathOf(".a.bin.tmp").string());
+            WriteBytes(Path, "new");
+            return Works;
+        });
+    }
+
+    bool Read(bool Works) {
+        return ReadStagedFile(File, [this, Works](const std::string &Path) {
+            ++Steps;
+            EXPECT_EQ(Path, PathOf(".a.bin.tmp").string());
+            Found = ReadBytes(Path);
+            return Works;
+        });
+    }
+
+    int Steps = 0;
+    std::string Found;
+};
+
+TEST_F(StagedFileTest, IsWrittenThroughThePlainFile) {
+    EXPECT_TRUE(Write(true));
+    EXPECT_EQ(Stored("a.bin"), "new");
+    EXPECT_EQ(Names(), Lines{"a.bin"});
+}
+
+TEST_F(StagedFileTest, IsNotTouchedIfThePlainFileCannotBeWritten) {
+    Store("a.bin", "old");
+    const SdlWatch watch;
+    EXPECT_FALSE(Write(false));
+    EXPECT_EQ(watch.Count("SDL_LoadFile"), 0);
+    EXPECT_EQ(Stored("a.bin"), "old");
+    EXPECT_EQ(Names(), Lines{"a.bin"});
+}
+
+TEST_F(StagedFileTest, NeedsThePreferencesFolder) {
+    Store("a.bin", "old");
+    Calls.PrefFolder = "";
+    EXPECT_FALSE(Write(true));
+    EXPECT_FALSE(Read(true));
+    EXPECT_EQ(Steps, 0);
+    EXPECT_EQ(Stored("a.bin"), "old");
+}
+
+TEST_F(StagedFileTest, IsWrittenOverWhatACrashLeft) {
+    Store(".a.bin.tmp", "left behind by a crash, and longer");
+    EXPECT_TRUE(Write(true));
+    EXPECT_EQ(Stored("a.bin"), "new");
+    EXPECT_EQ(Names(), Lines{"a.bin"});
+}
+
+TEST_F(StagedFileTest, KeepsItsOldBytesThroughEveryFailureOfAWrite) {
+    Store("a.bin", "old");
+    const Lines failed = FailEach(
+        [this] {
+            return Write(true);
+        },
+        [this](bool IsUntouched, bool Result) {
+            EXPECT_EQ(Result, IsUntouched);
+            EXPECT_EQ(Stored("a.bin"), IsUntouched ? "new" : "old");
+            EXPECT_EQ(Names(), Lines{"a.bin"});
+        });
+    EXPECT_EQ(failed, (Lines{"SDL_GetPrefPath", "SDL_LoadFile", "SDL_OpenUserStorage", "SDL_StorageReady",
+                          "SDL_WriteStorageFile"}));
+}
+
+TEST_F(StagedFileTest, IsReadThroughThePlainFile) {
+    Store("a.bin", "old");
+    EXPECT_TRUE(Read(true));
+    EXPECT_EQ(Found, "old");
+    EXPECT_EQ(Names(), Lines{"a.bin"});
+}
+
+TEST_F(StagedFileTest, GivesTheReadersNoAndTakesThePlainFileAway) {
+    Store("a.bin", "old");
+    EXPECT_FALSE(Read(false));
+    EXPECT_EQ(Steps, 1);
+    EXPECT_EQ(Names(), Lines{"a.bin"});
+}
+
+TEST_F(StagedFileTest, NeverReadsWhatACrashLeft) {
+    Store(".a.bin.tmp", "left behind by a crash");
+    EXPECT_FALSE(Read(true));
+    EXPECT_EQ(Steps, 0);
+    EXPECT_EQ(Names(), Lines{});
+}
+
+TEST_F(StagedFileTest, IsNotReadAfterAnyFailureOfTheCopy) {
+    Store("a.bin", "old");
+    const Lines failed = FailEach(
+        [this] {
+            Steps = 0;
+            return Read(true);
+        },
+        [this](bool IsUntouched, bool Result) {
+            EXPECT_EQ(Result, IsUntouched);
+            EXPECT_EQ(Steps, IsUntouched ? 1 : 0);
+            EXPECT_EQ(Names(), Lines{"a.bin"});
+        });
+    EXPECT_EQ(failed, (Lines{"SDL_GetPrefPath", "SDL_OpenUserStorage", "SDL_StorageReady",
+                          "SDL_GetStoragePathInfo", "SDL_ReadStorageFile", "SDL_SaveFile"}));
+}
+
+} // namespace

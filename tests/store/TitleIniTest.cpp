@@ -1,0 +1,194 @@
+#include "store/TitleIni.hpp"
+
+#include "tests/store/StoreTest.hpp"
+#include "tests/support/watch/SdlWatch.hpp"
+
+#include <stdexcept>
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+constexpr const char *Path = "Music/Patterns.ini";
+constexpr const char *TooShort = "INI file cannot be smaller than 6 bytes! (Size in bytes: 5)\n";
+
+/// Title storage and the program's folder are two folders here, so that it shows which one was read.
+class TitleIni : public StoreTest {
+protected:
+    TitleIni() : Title(Home.FilePath("Title")), Base(Home.FilePath("Base")), BaseText(Base.string()) {
+        std::filesystem::create_directories(Title / "Music");
+        std::filesystem::create_directories(Base / "Music");
+        Calls.TitleFolder = Title.string();
+        Calls.IsBaseGiven = true;
+        Calls.BaseFolder = BaseText.c_str();
+    }
+
+    void Ship(const std::filesystem::path &Where, std::string_view Text) const {
+        WriteBytes(Where / Path, Text);
+    }
+    bool Read(const std::string &File = Path) {
+        testing::internal::CaptureStdout();
+        const bool read = ReadTitleIni(File, Document);
+        Printed = testing::internal::GetCapturedStdout();
+        return read;
+    }
+    std::string Value(const char *Key) const {
+        return quillINI::GetIniValue(Document, "Songs", Key, "none");
+    }
+    void ExpectNoStagingFile() const {
+        EXPECT_EQ(Names(), (Lines{"Base", "Title"}));
+    }
+
+    std::filesystem::path Title;
+    std::filesystem::path Base;
+    std::string BaseText;
+    quillINI::IniDocument Document;
+    std::string Printed;
+};
+
+TEST_F(TitleIni, IsReadFromTitleStorageFirst) {
+    Ship(Title, "[Songs]\nFrom=title\n");
+    Ship(Base, "[Songs]\nFrom=base\nMore=base\n");
+    const SdlWatch watch;
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(Value("From"), "title");
+    EXPECT_EQ(Value("More"), "none");
+    EXPECT_EQ(watch.Count("SDL_GetBasePath"), 0);
+    EXPECT_FALSE(Calls.IsTitleAsked);
+    EXPECT_EQ(Printed, "");
+    ExpectNoStagingFile();
+}
+
+TEST_F(TitleIni, IsReadBesideTheProgramIfTitleStorageLacksIt) {
+    Ship(Base, "[Songs]\nFrom=base\n");
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(Value("From"), "base");
+    EXPECT_EQ(Printed, "");
+    ExpectNoStagingFile();
+}
+
+TEST_F(TitleIni, IsReadBesideTheProgramIfTitleStoragesIsEmpty) {
+    Ship(Title, "");
+    Ship(Base, "[Songs]\nFrom=base\n");
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(Value("From"), "base");
+    EXPECT_EQ(Printed, "");
+    ExpectNoStagingFile();
+}
+
+TEST_F(TitleIni, IsReadBesideTheProgramIfTitleStoragesIsRefused) {
+    Ship(Title, "a=b\r\n");
+    Ship(Base, "[Songs]\nFrom=base\n");
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(Value("From"), "base");
+    EXPECT_EQ(Printed, TooShort);
+    ExpectNoStagingFile();
+}
+
+TEST_F(TitleIni, IsRefusedTwiceWhereTitleStorageIsTheProgramsFolder) {
+    Calls.TitleFolder = BaseText;
+    Ship(Base, "a=b\r\n");
+    EXPECT_FALSE(Read());
+    EXPECT_EQ(Printed, std::string(TooShort) + TooShort);
+    ExpectNoStagingFile();
+}
+
+TEST_F(TitleIni, StaysTitleStoragesWithASyntaxError) {
+    Ship(Title, "[Songs]\nFrom=title\nno separator\nLater=title\n");
+    Ship(Base, "[Songs]\nFrom=base\nLater=base\n");
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(Value("From"), "title");
+    EXPECT_EQ(Value("Later"), "none");
+    EXPECT_EQ(Printed, "Error while reading INI file: No \"=\" or \":\" sign found!\n\n");
+    ExpectNoStagingFile();
+}
+
+TEST_F(TitleIni, IsFalseWhereNothingIsShipped) {
+    EXPECT_FALSE(Read());
+    EXPECT_EQ(Printed, "Unable to open INI file: " + BaseText + "/Music/Patterns.ini\n");
+    ExpectNoStagingFile();
+}
+
+TEST_F(TitleIni, IsFalseWithoutTheProgramsFolder) {
+    Ship(Base, "[Songs]\nFrom=base\n");
+    Calls.BaseFolder = nullptr;
+    EXPECT_FALSE(Read());
+    Calls.BaseFolder = "";
+    EXPECT_FALSE(Read());
+    EXPECT_EQ(Printed, "");
+    ExpectNoStagingFile();
+}
+
+TEST_F(TitleIni, JoinsTheProgramsFolderWithASeparatorUnlessItEndsInOne) {
+    WriteBytes(Base / "a.ini", "[Songs]\nFrom=folder\n");
+    WriteBytes(BaseText + "\\a.ini", "[Songs]\nFrom=backslash\n");
+    EXPECT_TRUE(Read("a.ini"));
+    EXPECT_EQ(Value("From"), "folder");
+    BaseText += '/';
+    Calls.BaseFolder = BaseText.c_str();
+    Document = {};
+    EXPECT_TRUE(Read("a.ini"));
+    EXPECT_EQ(Value("From"), "folder");
+    BaseText.back() = '\\';
+    Document = {};
+    EXPECT_TRUE(Read("a.ini"));
+    EXPECT_EQ(Value("From"), "backslash");
+}
+
+TEST_F(TitleIni, IsNotLookedForOnAnUnsafePath) {
+    WriteBytes(Home.FilePath("outside.ini"), "[Songs]\nFrom=outside\n");
+    const SdlWatch watch;
+    for (const char *path :
+        {"", "../outside.ini", "Music/../../outside.ini", "/etc/hostname", "\\a", "C:a", "./a"}) {
+        EXPECT_FALSE(Read(path)) << path;
+        EXPECT_EQ(Printed, "") << path;
+    }
+    EXPECT_EQ(watch.Calls, std::vector<SdlCall>{});
+    EXPECT_EQ(Value("From"), "none");
+}
+
+TEST_F(TitleIni, FallsBackWhateverFailsOnTheWayThroughTitleStorage) {
+    Ship(Title, "[Songs]\nFrom=title\n");
+    Ship(Base, "[Songs]\nFrom=base\n");
+    SdlWatch watch;
+    const Lines failed = FailEach(
+        [this] {
+            Document = {};
+            return Read();
+        },
+        [this, &watch](bool IsUntouched, bool Result) {
+            EXPECT_TRUE(Result);
+            EXPECT_EQ(Value("From"), IsUntouched ? "title" : "base");
+            EXPECT_EQ(watch.Count("SDL_CloseStorage"), watch.Count("SDL_StorageReady") > 0 ? 1 : 0);
+            ExpectNoStagingFile();
+            watch.Calls.clear();
+        });
+    EXPECT_EQ(failed, (Lines{"SDL_GetPrefPath", "SDL_OpenTitleStorage", "SDL_StorageReady",
+                          "SDL_GetStoragePathInfo", "SDL_ReadStorageFile", "SDL_SaveFile"}));
+}
+
+TEST_F(TitleIni, DoesNotOpenTitleStorageWithoutThePreferencesFolder) {
+    Ship(Title, "[Songs]\nFrom=title\n");
+    Ship(Base, "[Songs]\nFrom=base\n");
+    Calls.PrefFolder = "";
+    const SdlWatch watch;
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(Value("From"), "base");
+    EXPECT_EQ(watch.Count("SDL_OpenTitleStorage"), 0);
+}
+
+TEST_F(TitleIni, TakesNothingFromALeftStagingFile) {
+    Store(".TitleStorageRead.tmp", "[Songs]\nFrom=crash\n");
+    Ship(Base, "[Songs]\nFrom=base\n");
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(Value("From"), "base");
+    ExpectNoStagingFile();
+}
+
+TEST_F(TitleIni, RaisesWhatTheReaderRaises) {
+    Ship(Title, "[Songs]\nFrom=\\x12\n\\x1");
+    Document = {};
+    EXPECT_THROW(ReadTitleIni(Path, Document), std::runtime_error);
+}
+
+} // namespace
