@@ -2,6 +2,7 @@
 
 #include "app/KeyHandler.hpp"
 #include "app/Program.hpp"
+#include "input/Capture.hpp"
 #include "input/Presses.hpp"
 
 namespace {
@@ -24,6 +25,9 @@ void DrainEvents(Program &Program) {
             return;
         }
         HandleHotPlug(Program.Devices, event);
+        if (CaptureButton(Program.State, Program.Devices, event)) {
+            continue;
+        }
         DispatchKey(Program.State, Program.Window, Program.Renderer, PressedKey(Program, event));
     }
 }

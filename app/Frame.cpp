@@ -2,6 +2,8 @@
 
 #include "app/Events.hpp"
 #include "app/Program.hpp"
+#include "audio/SfxVoices.hpp"
+#include "audio/Transport.hpp"
 #include "gfx/Credits.hpp"
 #include "gfx/GameOverPanel.hpp"
 #include "gfx/Help.hpp"
@@ -97,6 +99,8 @@ void RunFrame(Program &Program) {
     const float deltaSeconds = DeltaSecondsBetween(Program.LastFrameTicks, now);
     Simulate(Program, deltaSeconds);
     SaveTick(state, deltaSeconds, Program.Writers.WriteSaveState);
+    UpdateMusicRuntime(state, Program.Music);
+    PlayQueuedSfx(state, Program.Music);
     Present(Program);
     CapFrame(state, frameStartTicks);
     Program.LastFrameTicks = now; // a step is measured from here, the cap from the top of the frame

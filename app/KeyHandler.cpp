@@ -50,14 +50,13 @@ void DispatchKey(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer, s
     }
 }
 
-void HandleKey(
-    GameState &State, SDL_Window * /*Window*/, SDL_Renderer * /*Renderer*/, std::int32_t Scancode) {
+void HandleKey(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer, std::int32_t Scancode) {
     switch (State.Screen) {
     case ScreenMainMenu:
         HandleMainMenuKey(State, Scancode);
         break;
     case ScreenOptions:
-        HandleOptionsKey(State, Scancode);
+        HandleOptionsKey(State, Window, Renderer, Scancode);
         break;
     case ScreenHelp:
         HandleTextPageKey(State, Scancode, State.HelpReturnScreen);

@@ -1,5 +1,8 @@
 #include "app/OptionsKeys.hpp"
 
+#include "input/ControlsPage.hpp"
+#include "options/AudioPage.hpp"
+#include "options/GraphicsPage.hpp"
 #include "state/GameState.hpp"
 #include "state/MenuKeys.hpp"
 #include "state/MenuRows.hpp"
@@ -18,16 +21,19 @@ void PushPageSound(GameState &State, std::int32_t Scancode) {
     }
 }
 
-void Activate(GameState &State, OptionsMainRow Row) {
+void Activate(GameState &State, SDL_Window *Window, OptionsMainRow Row) {
     switch (Row) {
     case OptionsMainRow::Controls:
         State.OptionsPage = OptionsPageControls;
+        BeginControlsEdit(State);
         break;
     case OptionsMainRow::Graphics:
         State.OptionsPage = OptionsPageGraphics;
+        BeginGraphicsEdit(State, Window);
         break;
     case OptionsMainRow::Audio:
         State.OptionsPage = OptionsPageAudio;
+        BeginAudioEdit(State);
         break;
     case OptionsMainRow::Back:
         State.Screen = State.OptionsReturnScreen;
@@ -35,15 +41,15 @@ void Activate(GameState &State, OptionsMainRow Row) {
     }
 }
 
-void HandleMainPageKey(GameState &State, std::int32_t Scancode) {
+void HandleMainPageKey(GameState &State, SDL_Window *Window, std::int32_t Scancode) {
     if (IsKeyUp(Scancode)) {
         State.OptionsMainSelection = RowAbove(State.OptionsMainSelection, OptionsMainRowCount);
     } else if (IsKeyDown(Scancode)) {
         State.OptionsMainSelection = RowBelow(State.OptionsMainSelection, OptionsMainRowCount);
     } else if (IsKeyActivate(Scancode)) {
-        Activate(State, static_cast<OptionsMainRow>(State.OptionsMainSelection));
+        Activate(State, Window, static_cast<OptionsMainRow>(State.OptionsMainSelection));
     } else if (IsKeyEscape(Scancode)) {
-        Activate(State, OptionsMainRow::Back);
+        Activate(State, Window, OptionsMainRow::Back);
     }
 }
 
@@ -59,11 +65,20 @@ void EnterOptions(GameState &State) {
     State.PendingAudioValid = false;
 }
 
-void HandleOptionsKey(GameState &State, std::int32_t Scancode) {
+void HandleOptionsKey(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer, std::int32_t Scancode) {
     PushPageSound(State, Scancode);
-    if (State.OptionsPage == OptionsPageMain) {
-        HandleMainPageKey(State, Scancode);
-    } else if (IsKeyEscape(Scancode)) {
-        State.OptionsPage = OptionsPageMain;
+    switch (State.OptionsPage) {
+    case OptionsPageMain:
+        HandleMainPageKey(State, Window, Scancode);
+        break;
+    case OptionsPageControls:
+        HandleControlsPageKey(State, Scancode);
+        break;
+    case OptionsPageGraphics:
+        HandleGraphicsPageKey(State, Window, Renderer, Scancode);
+        break;
+    case OptionsPageAudio:
+        HandleAudioPageKey(State, Scancode);
+        break;
     }
 }

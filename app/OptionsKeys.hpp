@@ -1,5 +1,7 @@
 #pragma once
 
+#include <SDL3/SDL.h>
+
 #include <cstdint>
 
 struct GameState;
@@ -9,4 +11,4 @@ struct GameState;
 void EnterOptions(GameState &State);
 
 /// Acts on a key on a page of the options.
-void HandleOptionsKey(GameState &State, std::int32_t Scancode);
+void HandleOptionsKey(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer, std::int32_t Scancode);

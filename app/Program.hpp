@@ -1,17 +1,21 @@
 #pragma once
 
 #include "app/Saving.hpp"
+#include "audio/MusicRuntime.hpp"
 #include "input/Devices.hpp"
 #include "state/GameState.hpp"
+#include "store/OptionsFile.hpp"
+#include "store/SaveState.hpp"
 
 #include <SDL3/SDL.h>
 
 /// What the main program owns, a single instance from start-up to the end of the process.
 struct Program {
     GameState State;
+    MusicRuntime Music;
     InputDevices Devices;
     SDL_Window *Window = nullptr;
     SDL_Renderer *Renderer = nullptr;
-    SaveWriters Writers;
+    SaveWriters Writers{SaveOptions, WriteSaveState};
     Uint64 LastFrameTicks = 0; ///< milliseconds of SDL_GetTicks
 };

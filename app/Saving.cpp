@@ -1,6 +1,8 @@
 #include "app/Saving.hpp"
 
 #include "state/GameState.hpp"
+#include "store/OptionsFile.hpp"
+#include "store/SaveState.hpp"
 
 #include <SDL3/SDL.h>
 
@@ -13,18 +15,18 @@ constexpr float RetrySeconds = 1.0F;
 } // namespace
 
 void SaveOptionsIfDirty(GameState &State, StateWriter SaveOptions) {
-    if (SaveOptions == nullptr || !State.OptionsDirty) {
+    if (!State.OptionsDirty) {
         return;
     }
     if (SaveOptions(State)) {
         State.OptionsDirty = false;
     } else {
-        SDL_Log("Failed to write options config: %s", "Config.ini");
+        SDL_Log("Failed to write options config: %s", OptionsFileName);
     }
 }
 
 void SaveTick(GameState &State, float DeltaSeconds, StateWriter WriteSaveState) {
-    if (WriteSaveState == nullptr || !State.SaveRequested) {
+    if (!State.SaveRequested) {
         return;
     }
     State.SaveDelay = std::max(State.SaveDelay - std::max(DeltaSeconds, 0.0F), 0.0F);
@@ -35,7 +37,7 @@ void SaveTick(GameState &State, float DeltaSeconds, StateWriter WriteSaveState) 
         State.SaveRequested = false;
         State.SaveDelay = 0.0F;
     } else {
-        SDL_Log("Failed to write save state: %s", "SaveState.bin");
+        SDL_Log("Failed to write save state: %s", SaveStateFileName);
         State.SaveDelay = RetrySeconds;
     }
 }

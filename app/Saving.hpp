@@ -3,9 +3,9 @@
 struct GameState;
 
 /// Writes one of the game's files from the state; false if it could not be written.
-using StateWriter = bool (*)(GameState &State);
+using StateWriter = bool (*)(const GameState &State);
 
-/// What the bookkeeping below writes with. Without a writer the file's mark waits.
+/// What the bookkeeping below writes with.
 struct SaveWriters {
     StateWriter SaveOptions = nullptr;
     StateWriter WriteSaveState = nullptr;

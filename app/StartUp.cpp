@@ -1,11 +1,17 @@
 #include "app/StartUp.hpp"
 
 #include "app/Program.hpp"
+#include "audio/Runtime.hpp"
+#include "audio/Transport.hpp"
 #include "gfx/Atlas.hpp"
 #include "options/Desktop.hpp"
 #include "options/Displays.hpp"
 #include "options/Presentation.hpp"
 #include "state/Resolutions.hpp"
+#include "state/SaveRequest.hpp"
+#include "store/OptionsFile.hpp"
+#include "store/SaveState.hpp"
+#include "text/Languages.hpp"
 
 #include <algorithm>
 #include <random>
@@ -79,6 +85,37 @@ void DressWindow(Program &Program) {
     SDL_HideCursor();
 }
 
+void WriteFirstOptions(Program &Program) {
+    if (!Program.Writers.SaveOptions(Program.State)) {
+        SDL_Log("Failed to create default options config: %s", OptionsFileName);
+    }
+}
+
+/// A wanted language that is gone has changed the options.
+void StartLanguage(GameState &State) {
+    const std::string wanted = State.Language;
+    LoadLanguage(State);
+    if (State.Language != wanted) {
+        State.OptionsDirty = true;
+    }
+}
+
+/// Without a usable save state the first frame writes a clean one.
+void RestoreGame(GameState &State) {
+    if (!LoadSaveState(State)) {
+        State.HasRunState = false;
+        State.HighScore = 0;
+        RequestSave(State, 0.0F);
+    }
+}
+
+void StartAudio(Program &Program) {
+    if (!InitMusicRuntime(Program.State, Program.Music)) {
+        SDL_Log("Music runtime unavailable; game will run without music");
+    }
+    UpdateMusicRuntime(Program.State, Program.Music); // the menu's music runs before the first frame
+}
+
 } // namespace
 
 bool StartUp(Program &Program) {
@@ -86,15 +123,25 @@ bool StartUp(Program &Program) {
         return false;
     }
     FillDefaults(Program.State);
-    UseDesktopSize(Program.State);
+    const bool configExisted = LoadOptions(Program.State);
+    if (!configExisted) {
+        UseDesktopSize(Program.State);
+    }
     if (!CreateWindow(Program) || !CreateRenderer(Program) || !CreateAtlas(Program)) {
         return false;
     }
     DressWindow(Program);
+    Program.Music = MusicRuntime{};
     RebuildDisplayLists(Program.State, Program.Window);
+    if (!configExisted) {
+        WriteFirstOptions(Program);
+    }
+    StartLanguage(Program.State);
+    RestoreGame(Program.State);
     Program.Devices = InputDevices{};
     OpenFirstInputDevices(Program.Devices);
     ApplyDisplaySettings(Program.State, Program.Window, Program.Renderer);
+    StartAudio(Program);
     Program.LastFrameTicks = SDL_GetTicks();
     return true;
 }

@@ -18,6 +18,7 @@ constexpr std::uint32_t PageTitleColor = 0xFFF0F0F0; ///< options and help
 constexpr std::uint32_t SectionColor = 0xFFFFAF69;   ///< section headings of the options
 constexpr std::uint32_t BodyColor = 0xFFDCDCDC;      ///< text of the help page
 constexpr std::uint32_t HintColor = 0xFFE1E1E1;
+constexpr std::uint32_t PromptColor = 0xFFAAFF78; ///< what a binding capture waits for
 
 constexpr int TitleScale = 6; ///< of pages and panels
 constexpr float PageTitleY = 42.0F;
@@ -41,6 +42,7 @@ struct RowStyle {
 constexpr RowStyle MainMenuRowStyle{MenuScale, 28.0F, 4.0F, OtherNameColor};
 constexpr RowStyle PauseRowStyle{MenuScale, 27.0F, 4.0F, OtherRowColor};
 constexpr RowStyle OptionsMainRowStyle{PageScale, 27.0F, 0.0F, OtherRowColor};
+constexpr RowStyle OptionsRowStyle{PageScale, 24.0F, 0.0F, OtherRowColor};
 
 /// The middle of the logical screen.
 float ScreenCenterX();

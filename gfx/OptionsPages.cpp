@@ -1,6 +1,10 @@
 #include "gfx/OptionsPages.hpp"
 
+#include "gfx/AudioPage.hpp"
+#include "gfx/ControlsPage.hpp"
+#include "gfx/GraphicsPage.hpp"
 #include "gfx/MenuStyle.hpp"
+#include "gfx/OptionsRows.hpp"
 #include "gfx/Text.hpp"
 #include "input/ControllerHint.hpp"
 #include "state/GameState.hpp"
@@ -13,7 +17,6 @@ namespace {
 
 constexpr float SectionY = 100.0F;
 constexpr float MainRowsY = 217.0F;
-constexpr float RowDistance = 34.0F;
 constexpr float MainHintY = 430.0F;
 constexpr float MainDeviceLineY = 458.0F;
 
@@ -44,7 +47,7 @@ void DrawHeadings(SDL_Renderer *Renderer, enum OptionsPage Page) {
 void DrawMainRows(SDL_Renderer *Renderer, std::int32_t Selection) {
     const float left = ScreenCenterX() - static_cast<float>(WidestText(MainRowLabels, PageScale)) * 0.5F;
     for (std::size_t i = 0; i < MainRowLabels.size(); ++i) {
-        const float y = MainRowsY + static_cast<float>(i) * RowDistance;
+        const float y = MainRowsY + static_cast<float>(i) * OptionsRowDistance;
         const bool selected = static_cast<std::int32_t>(i) == Selection;
         DrawMarkedLabel(Renderer, GetText(MainRowLabels[i]), left, y, selected, OptionsMainRowStyle);
     }
@@ -61,12 +64,29 @@ void DrawMainPage(SDL_Renderer *Renderer, const GameState &State, const InputDev
         ScreenCenterX(), MainDeviceLineY);
 }
 
+/// The device line of the pages behind the main one.
+std::string PageDeviceLine(const GameState &State, const InputDevices &Devices) {
+    return ControllerHint(
+        State, Devices, GetText(TextKey::ControllerHintSelect), GetText(TextKey::ControllerHintBack));
+}
+
 } // namespace
 
 void RenderOptions(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices) {
     ClearToBlack(Renderer);
     DrawHeadings(Renderer, State.OptionsPage);
-    if (State.OptionsPage == OptionsPageMain) {
+    switch (State.OptionsPage) {
+    case OptionsPageMain:
         DrawMainPage(Renderer, State, Devices);
+        break;
+    case OptionsPageControls:
+        DrawControlsPage(Renderer, State, Devices, PageDeviceLine(State, Devices));
+        break;
+    case OptionsPageGraphics:
+        DrawGraphicsPage(Renderer, State, PageDeviceLine(State, Devices));
+        break;
+    case OptionsPageAudio:
+        DrawAudioPage(Renderer, State, PageDeviceLine(State, Devices));
+        break;
     }
 }

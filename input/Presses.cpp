@@ -10,7 +10,11 @@ constexpr std::int32_t NoKey = 0;
 
 static_assert(ScancodeReturn == SDL_SCANCODE_RETURN && ScancodeEscape == SDL_SCANCODE_ESCAPE &&
                   ScancodeRight == SDL_SCANCODE_RIGHT && ScancodeLeft == SDL_SCANCODE_LEFT &&
-                  ScancodeDown == SDL_SCANCODE_DOWN && ScancodeUp == SDL_SCANCODE_UP,
+                  ScancodeDown == SDL_SCANCODE_DOWN && ScancodeUp == SDL_SCANCODE_UP &&
+                  ScancodeA == SDL_SCANCODE_A && ScancodeD == SDL_SCANCODE_D && ScancodeS == SDL_SCANCODE_S &&
+                  ScancodeW == SDL_SCANCODE_W && ScancodeSpace == SDL_SCANCODE_SPACE &&
+                  ScancodeKeypadEnter == SDL_SCANCODE_KP_ENTER && ScancodeDelete == SDL_SCANCODE_DELETE &&
+                  ScancodeBackspace == SDL_SCANCODE_BACKSPACE && LastScancode == SDL_SCANCODE_COUNT - 1,
     "the keys of the menus are SDL's");
 
 /// In play the keyboard's own key for healing, so that a pad heals only while that row is bound; this stays

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 /// Hashes views and strings alike, so that a look-up makes no string of its own.
 struct TextHash {
@@ -17,9 +18,21 @@ struct TextHash {
     }
 };
 
-/// The words of the language in force.
+/// A language that can be chosen.
+struct LanguageEntry {
+    std::string Code; ///< normalised, as "de"
+    std::string Name; ///< in the language itself, as "Deutsch"
+    std::string File; ///< path of its texts, relative to the program's folder
+};
+
+/// The languages there are and the words of the one in force.
 struct LocalizationTable {
+    std::vector<LanguageEntry> Languages; ///< in the order of the catalogue
     std::unordered_map<std::string, std::string, TextHash, std::equal_to<>> Texts;
+    std::string DefaultLanguage = "en";  ///< where the wanted one is not in the catalogue
+    std::string FallbackLanguage = "en"; ///< loaded beneath the current one
+    std::string CurrentLanguage = "en";
+    bool TextsLoaded = false; ///< whether any language file could be read; nothing depends on it
 };
 
 /// Process-wide on purpose: every drawing function fetches its words from it anew in every frame.

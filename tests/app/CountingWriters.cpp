@@ -13,7 +13,7 @@ bool Succeeds(int &Failures) {
     return true;
 }
 
-bool CountOptions(GameState &) {
+bool CountOptions(const GameState &) {
     ++Written.OptionsWrites;
     if (Written.OnOptionsWrite) {
         Written.OnOptionsWrite();
@@ -21,7 +21,7 @@ bool CountOptions(GameState &) {
     return Succeeds(Written.OptionsFailures);
 }
 
-bool CountSave(GameState &) {
+bool CountSave(const GameState &) {
     ++Written.SaveWrites;
     if (Written.OnSaveWrite) {
         Written.OnSaveWrite();

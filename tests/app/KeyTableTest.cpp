@@ -1,5 +1,8 @@
 #include "app/KeyHandler.hpp"
 #include "app/OptionsKeys.hpp"
+#include "input/ControlsPage.hpp"
+#include "options/AudioPage.hpp"
+#include "options/GraphicsPage.hpp"
 #include "sim/FirstAid.hpp"
 #include "tests/app/KeyTest.hpp"
 #include "tests/app/StateText.hpp"
@@ -89,6 +92,145 @@ KeyMoment OptionsMainPage() {
     Add(moment.Table, RightKeys, HearOnly(SfxId::UiMove));
     Add(moment.Table, ActivateKeys, Go(SfxId::UiConfirm, ScreenPaused));
     Add(moment.Table, {EscapeKey}, Go(SfxId::UiBack, ScreenPaused));
+    return moment;
+}
+
+/// On the page of the controls with its edit begun, and on the row of the third binding.
+KeyMoment ControlsPage() {
+    KeyMoment moment{"ControlsPage", BusyGame(ScreenOptions), {}};
+    EnterOptions(moment.Before);
+    moment.Before.OptionsPage = OptionsPageControls;
+    BeginControlsEdit(moment.Before);
+    moment.Before.PendingControlsDevice = ControlsDeviceGamepad;
+    moment.Before.ControlsSelection = 3;
+    Add(moment.Table, UpKeys, Move(&GameState::ControlsSelection, 2));
+    Add(moment.Table, DownKeys, Move(&GameState::ControlsSelection, 4));
+    Add(moment.Table, LeftKeys, HearOnly(SfxId::UiMove));
+    Add(moment.Table, RightKeys, HearOnly(SfxId::UiMove));
+    Add(moment.Table, ActivateKeys, [](GameState &Expected) {
+        Hear(Expected, SfxId::UiConfirm);
+        Expected.CaptureActive = true;
+        Expected.CaptureKind = CaptureKindGamepad;
+        Expected.CaptureGamepadRow = 2;
+    });
+    Add(moment.Table, {EscapeKey}, [](GameState &Expected) {
+        Hear(Expected, SfxId::UiBack);
+        Expected.PendingControlsDevice = Expected.ControlsDevice; // dropped
+        Expected.PendingControlsValid = false;
+        Expected.OptionsPage = OptionsPageMain;
+    });
+    return moment;
+}
+
+/// Ends a capture; with a sound, if it has one.
+Change EndCaptureWith(const Sounds &Heard, const Change &Effect) {
+    return [Heard, Effect](GameState &Expected) {
+        for (const SfxId sound : Heard) {
+            Hear(Expected, sound);
+        }
+        Effect(Expected);
+        Expected.CaptureActive = false;
+        Expected.CaptureKind = CaptureKindNone;
+    };
+}
+
+/// While the fifth row of the joystick is captured: what keys do besides binding.
+KeyMoment CapturingAButton() {
+    KeyMoment moment = ControlsPage();
+    moment.Name = "CapturingAButton";
+    moment.Before.CaptureActive = true;
+    moment.Before.CaptureKind = CaptureKindJoystick;
+    moment.Before.CaptureJoystickRow = 4;
+    for (const Scancodes &keys : {UpKeys, DownKeys, LeftKeys, RightKeys}) {
+        Add(moment.Table, keys, HearOnly(SfxId::UiMove));
+    }
+    Add(moment.Table, ActivateKeys, HearOnly(SfxId::UiConfirm));
+    Add(moment.Table, {EscapeKey}, EndCaptureWith({SfxId::UiBack}, [](GameState &) {}));
+    Add(moment.Table, {76, 42}, EndCaptureWith({SfxId::UiConfirm}, [](GameState &Expected) {
+        Expected.PendingJoystick[4] = -1;
+    }));
+    return moment;
+}
+
+/// While the second row of the keyboard is captured.
+KeyMoment CapturingAKey() {
+    KeyMoment moment = CapturingAButton();
+    moment.Name = "CapturingAKey";
+    moment.Before.CaptureKind = CaptureKindKeyboard;
+    moment.Before.CaptureKeyboardRow = 1;
+    const auto bind = [&moment](std::int32_t Key, const Sounds &Heard) {
+        moment.Table[Key] = EndCaptureWith(Heard, [Key](GameState &Expected) {
+            Expected.PendingKeyboard[1] = Key;
+        });
+    };
+    for (std::int32_t key = 1; key < 512; ++key) {
+        if (key != EscapeKey && key != 76 && key != 42) {
+            bind(key, {});
+        }
+    }
+    for (const Scancodes &keys : {UpKeys, DownKeys, LeftKeys, RightKeys}) {
+        for (const std::int32_t key : keys) {
+            bind(key, {SfxId::UiMove});
+        }
+    }
+    for (const std::int32_t key : ActivateKeys) {
+        bind(key, {SfxId::UiConfirm});
+    }
+    Add(moment.Table, {76, 42}, EndCaptureWith({SfxId::UiConfirm}, [](GameState &Expected) {
+        Expected.PendingKeyboard[1] = 0;
+    }));
+    return moment;
+}
+
+/// On the row VSYNC, with the edit begun.
+KeyMoment GraphicsPage() {
+    KeyMoment moment{"GraphicsPage", BusyGame(ScreenOptions), {}};
+    EnterOptions(moment.Before);
+    moment.Before.OptionsPage = OptionsPageGraphics;
+    BeginGraphicsEdit(moment.Before, nullptr);
+    moment.Before.GraphicsSelection = 4;
+    const auto flip = [](SfxId Sound) {
+        return [Sound](GameState &Expected) {
+            Hear(Expected, Sound);
+            Expected.VSync = false;
+        };
+    };
+    Add(moment.Table, UpKeys, Move(&GameState::GraphicsSelection, 3));
+    Add(moment.Table, DownKeys, Move(&GameState::GraphicsSelection, 5));
+    Add(moment.Table, LeftKeys, flip(SfxId::UiMove));
+    Add(moment.Table, RightKeys, flip(SfxId::UiMove));
+    Add(moment.Table, ActivateKeys, flip(SfxId::UiConfirm));
+    Add(moment.Table, {EscapeKey}, [](GameState &Expected) {
+        Hear(Expected, SfxId::UiBack);
+        Expected.GraphicsSnapshotValid = false;
+        Expected.OptionsPage = OptionsPageMain;
+    });
+    return moment;
+}
+
+/// On the row MUSIC VOLUME, with the edit begun.
+KeyMoment AudioPage() {
+    KeyMoment moment{"AudioPage", BusyGame(ScreenOptions), {}};
+    EnterOptions(moment.Before);
+    moment.Before.OptionsPage = OptionsPageAudio;
+    BeginAudioEdit(moment.Before);
+    moment.Before.AudioSelection = 1;
+    const auto turn = [](std::int32_t Volume) {
+        return [Volume](GameState &Expected) {
+            Hear(Expected, SfxId::UiMove);
+            Expected.PendingMusicVolume = Volume;
+        };
+    };
+    Add(moment.Table, UpKeys, Move(&GameState::AudioSelection, 0));
+    Add(moment.Table, DownKeys, Move(&GameState::AudioSelection, 2));
+    Add(moment.Table, LeftKeys, turn(45));
+    Add(moment.Table, RightKeys, turn(55));
+    Add(moment.Table, ActivateKeys, HearOnly(SfxId::UiConfirm));
+    Add(moment.Table, {EscapeKey}, [](GameState &Expected) {
+        Hear(Expected, SfxId::UiBack);
+        Expected.PendingAudioValid = false;
+        Expected.OptionsPage = OptionsPageMain;
+    });
     return moment;
 }
 
@@ -217,8 +359,10 @@ TEST_P(KeyTables, DoNotDependOnTheOtherBindings) {
 
 INSTANTIATE_TEST_SUITE_P(OfAllScreens, KeyTables,
     ::testing::Values(MomentMaker{MainMenuWithARun}, MomentMaker{MainMenuWithoutARun},
-        MomentMaker{OptionsMainPage}, MomentMaker{Help}, MomentMaker{Playing}, MomentMaker{PlayingWhileDying},
-        MomentMaker{Paused}, MomentMaker{Credits}, MomentMaker{GameOver}),
+        MomentMaker{OptionsMainPage}, MomentMaker{ControlsPage}, MomentMaker{CapturingAButton},
+        MomentMaker{CapturingAKey}, MomentMaker{GraphicsPage}, MomentMaker{AudioPage}, MomentMaker{Help},
+        MomentMaker{Playing}, MomentMaker{PlayingWhileDying}, MomentMaker{Paused}, MomentMaker{Credits},
+        MomentMaker{GameOver}),
     [](const auto &Info) {
         return Info.param.Make().Name;
     });

@@ -16,10 +16,30 @@ void PutMenusElsewhere(GameState &State) {
     State.HelpReturnScreen = State.OptionsReturnScreen;
     State.OptionsPage = OptionsPageAudio;
     State.OptionsMainSelection = 2;
+    State.ControlsSelection = 4;
+    State.GraphicsSelection = 3;
+    State.AudioSelection = 8;
+}
+
+void PutEditsElsewhere(GameState &State) {
     State.CaptureActive = true;
     State.CaptureKind = CaptureKindJoystick;
+    State.CaptureKeyboardRow = 3;
+    State.CaptureGamepadRow = 4;
+    State.CaptureJoystickRow = 2;
+    State.PendingKeyboard = {11, 12, 13, 14, 15};
+    State.PendingGamepad = {4, 5, 6, 7, 8};
+    State.PendingJoystick = {9, 8, 7, 6, 5};
+    State.PendingControlsDevice = ControlsDeviceGamepad;
     State.PendingControlsValid = true;
+    State.GraphicsSnapshot = {1024, 768, AspectClassic4x3, 85, false, false};
     State.GraphicsSnapshotValid = true;
+    State.PendingMasterVolume = 35;
+    State.PendingMusicVolume = 40;
+    State.PendingSfxVolume = 45;
+    State.PendingMusicEnabled = false;
+    State.PendingSfxEnabled = false;
+    State.PendingLanguage = "de";
     State.PendingAudioValid = true;
 }
 
@@ -69,6 +89,7 @@ GameState BusyGame(enum Screen Screen) {
     StartNewRun(state);
     state.Screen = Screen;
     PutMenusElsewhere(state);
+    PutEditsElsewhere(state);
     PutRunInTheMiddle(state);
     FillRoad(state);
     state.HasRunState = Screen != ScreenGameOver;

@@ -24,28 +24,25 @@ protected:
         }
     }
 
-    /// Expects each activating key to open a page from a row of the main page.
-    void ExpectPage(std::int32_t Row, enum OptionsPage Page) {
-        const GameState onMainPage = State;
-        for (const std::int32_t key : ActivateKeys) {
-            State = onMainPage;
-            State.OptionsMainSelection = Row;
-            Press(key);
-            EXPECT_EQ(State.OptionsPage, Page) << key;
-            EXPECT_EQ(State.Screen, ScreenOptions) << key;
-            EXPECT_EQ(State.OptionsMainSelection, Row) << key;
-            EXPECT_EQ(State.OptionsReturnScreen, ScreenPaused) << key;
-            EXPECT_EQ(Heard(), Sounds{SfxId::UiConfirm}) << key;
-        }
+    /// Expects each activating key to open a page from a row of the main page, and to begin its edit.
+    void ExpectPage(std::int32_t Row, enum OptionsPage Page, const Change &BeginEdit) {
+        State.OptionsMainSelection = Row;
+        ExpectKeys(ActivateKeys, [Page, &BeginEdit](GameState &Expected) {
+            Hear(Expected, SfxId::UiConfirm);
+            Expected.OptionsPage = Page;
+            BeginEdit(Expected);
+        });
     }
 
-    /// Expects the sound of each of the 511 keys, whatever else a key does, each on a record of its own.
-    void ExpectTheSoundsOfAllKeys() const {
+    /// Expects the sound of each of the 511 keys, whatever else a key does, each on a record of its own. The
+    /// keys that unbind a row have one while a binding is awaited.
+    void ExpectTheSoundsOfAllKeys(const Sounds &OfUnbinding = {}) const {
         for (std::int32_t key = 1; key < 512; ++key) {
             GameState pressed = State;
             pressed.PendingSounds.Count = 0;
             DispatchKey(pressed, nullptr, nullptr, key);
-            EXPECT_EQ(SoundsOf(pressed), SoundsOfKey(key)) << "scancode " << key;
+            const bool unbinds = key == 76 || key == 42; // delete and backspace
+            EXPECT_EQ(SoundsOf(pressed), unbinds ? OfUnbinding : SoundsOfKey(key)) << "scancode " << key;
         }
     }
 
@@ -87,15 +84,57 @@ TEST_F(OptionsKeys, LeftAndRightDoNothingOnTheMainPageButSound) {
 }
 
 TEST_F(OptionsKeys, TheFirstRowOpensControls) {
-    ExpectPage(0, OptionsPageControls);
+    State.CaptureActive = true;
+    State.CaptureKind = CaptureKindGamepad;
+    State.KeyboardBindings = {1, 2, 3, 4, 5};
+    State.GamepadBindings = {6, 7, 8, 9, 10};
+    State.JoystickBindings = {11, 12, 13, 14, 15};
+    State.ControlsDevice = ControlsDeviceJoystick;
+    ExpectPage(0, OptionsPageControls, [](GameState &Expected) {
+        Expected.PendingKeyboard = {1, 2, 3, 4, 5};
+        Expected.PendingGamepad = {6, 7, 8, 9, 10};
+        Expected.PendingJoystick = {11, 12, 13, 14, 15};
+        Expected.PendingControlsDevice = ControlsDeviceJoystick;
+        Expected.PendingControlsValid = true;
+        Expected.CaptureActive = false;
+        Expected.CaptureKind = CaptureKindNone;
+    });
 }
 
 TEST_F(OptionsKeys, TheSecondRowOpensGraphics) {
-    ExpectPage(1, OptionsPageGraphics);
+    State.AspectMode = AspectClassic4x3;
+    State.Resolutions = {{800, 600}};
+    State.ResolutionIndex = 0;
+    State.RefreshRate = 75;
+    State.VSync = false;
+    ExpectPage(1, OptionsPageGraphics, [](GameState &Expected) {
+        Expected.GraphicsSnapshot = {800, 600, AspectClassic4x3, 75, true, false};
+        Expected.GraphicsSnapshotValid = true;
+        // Without a display there are the built-in sizes, and no rate.
+        Expected.Resolutions = {
+            {640, 480}, {800, 600}, {960, 720}, {1024, 768}, {1280, 960}, {1600, 1200}, {1920, 1440}};
+        Expected.ResolutionIndex = 1;
+        Expected.RefreshRates = {0};
+        Expected.RefreshRate = 0;
+    });
 }
 
 TEST_F(OptionsKeys, TheThirdRowOpensAudio) {
-    ExpectPage(2, OptionsPageAudio);
+    State.MasterVolume = 5;
+    State.MusicVolume = 10;
+    State.SfxVolume = 15;
+    State.MusicEnabled = true;
+    State.SfxEnabled = true;
+    State.Language = " F R ";
+    ExpectPage(2, OptionsPageAudio, [](GameState &Expected) {
+        Expected.PendingMasterVolume = 5;
+        Expected.PendingMusicVolume = 10;
+        Expected.PendingSfxVolume = 15;
+        Expected.PendingMusicEnabled = true;
+        Expected.PendingSfxEnabled = true;
+        Expected.PendingLanguage = "fr";
+        Expected.PendingAudioValid = true;
+    });
 }
 
 TEST_F(OptionsKeys, TheFourthRowGoesBackToTheMenuThatOpenedThem) {
@@ -129,6 +168,9 @@ TEST_F(OptionsKeys, EscapeOnAnotherPageGoesToTheMainPage) {
         Press(EscapeKey);
         EXPECT_EQ(State.Screen, ScreenOptions) << page;
         EXPECT_EQ(State.OptionsPage, OptionsPageMain) << page;
+        EXPECT_FALSE(State.PendingControlsValid) << page;
+        EXPECT_FALSE(State.GraphicsSnapshotValid) << page;
+        EXPECT_FALSE(State.PendingAudioValid) << page;
     }
     EXPECT_EQ(Heard(), (Sounds{SfxId::UiBack, SfxId::UiBack, SfxId::UiBack}));
 }
@@ -149,7 +191,7 @@ TEST_F(OptionsKeys, AKeySoundsAlsoWhileABindingIsAwaited) {
     for (const enum CaptureKind kind : {CaptureKindKeyboard, CaptureKindGamepad, CaptureKindJoystick}) {
         SCOPED_TRACE(kind);
         State.CaptureKind = kind;
-        ExpectTheSoundsOfAllKeys();
+        ExpectTheSoundsOfAllKeys({SfxId::UiConfirm});
     }
 }
 
@@ -174,7 +216,10 @@ TEST_F(OptionsKeys, EnteringForgetsPageCaptureAndEdits) {
     EXPECT_FALSE(State.PendingControlsValid);
     EXPECT_FALSE(State.GraphicsSnapshotValid);
     EXPECT_FALSE(State.PendingAudioValid);
-    EXPECT_EQ(State.OptionsMainSelection, 2); // as it was left
+    EXPECT_EQ(State.OptionsMainSelection, 2); // as they were left
+    EXPECT_EQ(State.ControlsSelection, 4);
+    EXPECT_EQ(State.GraphicsSelection, 3);
+    EXPECT_EQ(State.AudioSelection, 8);
     EXPECT_EQ(Heard(), Sounds{});
 }
 

@@ -22,6 +22,7 @@ void ProgramTest::Start() {
 
 void ProgramTest::Stop() {
     if (Started) {
+        Program.Music.FadeOutMs = 0; // nobody listens
         ShutDown(Program);
         ChooseSoftwareDrivers(); // the end of SDL forgets what was chosen
     }
@@ -41,6 +42,8 @@ void ProgramTest::ShowWithoutWaiting(enum Screen Screen) {
 
 void RunningTest::SetUp() {
     Start();
+    Written = {}; // without what the first launch writes
+    State.SaveRequested = false;
 }
 
 void PlayingTest::SetUp() {

@@ -6,6 +6,7 @@
 #include "app/StartUp.hpp"
 #include "tests/app/CountingWriters.hpp"
 #include "tests/support/Sdl.hpp"
+#include "tests/support/TemporaryHome.hpp"
 #include "tests/support/watch/SdlWatch.hpp"
 
 /// What start-up says on the drivers that need no hardware, as their windows have no icons.
@@ -32,6 +33,7 @@ protected:
     /// is off as well.
     void ShowWithoutWaiting(enum Screen Screen);
 
+    TemporaryHome Home;
     struct Program Program;
     GameState &State = Program.State;
 

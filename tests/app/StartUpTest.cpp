@@ -20,7 +20,7 @@ TEST_F(StartingUp, GoesInItsOrder) {
     EXPECT_EQ(watch.NamesAmong({"SDL_Init", "SDL_CreateWindow", "SDL_CreateRenderer", "SDL_CreateTexture",
                   "SDL_SetWindowIcon", "SDL_HideCursor", "SDL_GetGamepads", "SDL_SetRenderVSync"}),
         (Names{"SDL_Init", "SDL_CreateWindow", "SDL_CreateRenderer", "SDL_CreateTexture", "SDL_SetWindowIcon",
-            "SDL_HideCursor", "SDL_GetGamepads", "SDL_SetRenderVSync"})); // each of them once
+            "SDL_HideCursor", "SDL_GetGamepads", "SDL_SetRenderVSync", "SDL_Init"})); // the last by the mixer
 }
 
 TEST_F(StartingUp, SaysNoMoreThanThatTheDriverHasNoIcons) {
@@ -29,12 +29,12 @@ TEST_F(StartingUp, SaysNoMoreThanThatTheDriverHasNoIcons) {
     EXPECT_EQ(log.Lines, Names{NoIconsLine});
 }
 
-TEST_F(StartingUp, BringsUpVideoAndPadsButNoAudio) {
+TEST_F(StartingUp, BringsUpVideoAndPadsAndLeavesAudioToTheMixer) {
     const SdlWatch watch;
     Start();
     EXPECT_EQ(watch.CallsOf("SDL_Init"),
-        (std::vector<SdlCall>{{"SDL_Init", {SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD}}}));
-    EXPECT_EQ(SDL_WasInit(SDL_INIT_AUDIO), 0U);
+        (std::vector<SdlCall>{{"SDL_Init", {SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD}},
+            {"SDL_Init", {SDL_INIT_AUDIO}}}));
 }
 
 TEST_F(StartingUp, OpensAFullscreenWindowOfTheDesktopsSizeWithItsTitle) {
@@ -176,10 +176,14 @@ TEST_F(StartingUp, RemembersWhenItEnded) {
     EXPECT_LE(Program.LastFrameTicks, SDL_GetTicks());
 }
 
-TEST_F(StartingUp, WritesNothingYet) {
+TEST_F(StartingUp, ForTheFirstTimeWritesTheOptionsAndLeavesTheSaveToTheFirstFrame) {
     Start();
-    EXPECT_EQ(Written.OptionsWrites, 0);
+    EXPECT_EQ(Written.OptionsWrites, 1);
     EXPECT_EQ(Written.SaveWrites, 0);
+    EXPECT_TRUE(State.SaveRequested);
+    RunFrame(Program);
+    EXPECT_EQ(Written.OptionsWrites, 1);
+    EXPECT_EQ(Written.SaveWrites, 1);
 }
 
 TEST_F(StartingUp, GoesOnWithoutTheIcon) {

@@ -53,10 +53,41 @@ void WriteScreens(StateWriter &Writer, const GameState &State) {
 void WriteOptionPages(StateWriter &Writer, const GameState &State) {
     Writer.Line("OptionsPage", State.OptionsPage);
     Writer.Line("OptionsMainSelection", State.OptionsMainSelection);
+    Writer.Line("ControlsSelection", State.ControlsSelection);
+    Writer.Line("GraphicsSelection", State.GraphicsSelection);
+    Writer.Line("AudioSelection", State.AudioSelection);
+}
+
+void WriteControlsEdit(StateWriter &Writer, const GameState &State) {
     Writer.Line("CaptureActive", State.CaptureActive);
     Writer.Line("CaptureKind", State.CaptureKind);
+    Writer.Line("CaptureKeyboardRow", State.CaptureKeyboardRow);
+    Writer.Line("CaptureGamepadRow", State.CaptureGamepadRow);
+    Writer.Line("CaptureJoystickRow", State.CaptureJoystickRow);
+    Writer.ListLine("PendingKeyboard", State.PendingKeyboard);
+    Writer.ListLine("PendingGamepad", State.PendingGamepad);
+    Writer.ListLine("PendingJoystick", State.PendingJoystick);
+    Writer.Line("PendingControlsDevice", State.PendingControlsDevice);
     Writer.Line("PendingControlsValid", State.PendingControlsValid);
+}
+
+void WriteGraphicsEdit(StateWriter &Writer, const GameState &State) {
+    Writer.Line("GraphicsSnapshot.Width", State.GraphicsSnapshot.Width);
+    Writer.Line("GraphicsSnapshot.Height", State.GraphicsSnapshot.Height);
+    Writer.Line("GraphicsSnapshot.AspectMode", State.GraphicsSnapshot.AspectMode);
+    Writer.Line("GraphicsSnapshot.RefreshRate", State.GraphicsSnapshot.RefreshRate);
+    Writer.Line("GraphicsSnapshot.Fullscreen", State.GraphicsSnapshot.Fullscreen);
+    Writer.Line("GraphicsSnapshot.VSync", State.GraphicsSnapshot.VSync);
     Writer.Line("GraphicsSnapshotValid", State.GraphicsSnapshotValid);
+}
+
+void WriteAudioEdit(StateWriter &Writer, const GameState &State) {
+    Writer.Line("PendingMasterVolume", State.PendingMasterVolume);
+    Writer.Line("PendingMusicVolume", State.PendingMusicVolume);
+    Writer.Line("PendingSfxVolume", State.PendingSfxVolume);
+    Writer.Line("PendingMusicEnabled", State.PendingMusicEnabled);
+    Writer.Line("PendingSfxEnabled", State.PendingSfxEnabled);
+    Writer.Line("PendingLanguage", State.PendingLanguage);
     Writer.Line("PendingAudioValid", State.PendingAudioValid);
 }
 
@@ -108,6 +139,9 @@ std::string TextOf(const GameState &State) {
     StateWriter writer;
     WriteScreens(writer, State);
     WriteOptionPages(writer, State);
+    WriteControlsEdit(writer, State);
+    WriteGraphicsEdit(writer, State);
+    WriteAudioEdit(writer, State);
     WriteOptions(writer, State);
     WriteSounds(writer, State.PendingSounds);
     WriteRun(writer, State);

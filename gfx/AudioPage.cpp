@@ -1,0 +1,46 @@
+#include "gfx/AudioPage.hpp"
+
+#include "gfx/MenuStyle.hpp"
+#include "gfx/OptionsRows.hpp"
+#include "state/GameState.hpp"
+#include "state/MenuRows.hpp"
+#include "state/Numbers.hpp"
+#include "text/Languages.hpp"
+
+#include <array>
+
+namespace {
+
+constexpr float FirstHintY = 498.0F;
+constexpr float SecondHintY = 526.0F;
+
+/// A volume of 0 to 100.
+std::string PercentLabel(std::int32_t Volume) {
+    return std::to_string(RoundToInt(static_cast<float>(Volume) / 100.0F * 100.0F)) + "%";
+}
+
+std::array<OptionsRow, AudioRowCount> Rows(const GameState &State) {
+    const bool isPending = State.PendingAudioValid;
+    return {{
+        {TextKey::OptionsAudioMasterVolume,
+            PercentLabel(isPending ? State.PendingMasterVolume : State.MasterVolume)},
+        {TextKey::OptionsAudioMusicVolume,
+            PercentLabel(isPending ? State.PendingMusicVolume : State.MusicVolume)},
+        {TextKey::OptionsAudioSfxVolume, PercentLabel(isPending ? State.PendingSfxVolume : State.SfxVolume)},
+        {TextKey::OptionsAudioMusic, SwitchText(isPending ? State.PendingMusicEnabled : State.MusicEnabled)},
+        {TextKey::OptionsAudioSfx, SwitchText(isPending ? State.PendingSfxEnabled : State.SfxEnabled)},
+        {TextKey::OptionsAudioLanguage,
+            LanguageDisplayName(isPending ? State.PendingLanguage : State.Language)},
+        {TextKey::OptionsDefaultSettings, {}},
+        {TextKey::CommonApply, {}},
+        {TextKey::CommonRevert, {}},
+        {TextKey::CommonBack, {}},
+    }};
+}
+
+} // namespace
+
+void DrawAudioPage(SDL_Renderer *Renderer, const GameState &State, std::string_view DeviceLine) {
+    DrawOptionsRows(Renderer, Rows(State), State.AudioSelection);
+    DrawValueHints(Renderer, DeviceLine, FirstHintY, SecondHintY);
+}

@@ -1,0 +1,176 @@
+#include "options/GraphicsPage.hpp"
+
+#include "options/Displays.hpp"
+#include "options/Presentation.hpp"
+#include "state/GameState.hpp"
+#include "state/MenuKeys.hpp"
+#include "state/MenuRows.hpp"
+#include "state/RefreshRates.hpp"
+#include "state/Resolutions.hpp"
+
+#include <algorithm>
+
+namespace {
+
+constexpr Resolution DefaultResolution{1280, 720};
+constexpr std::int32_t DefaultResolutionIndex = 3;
+
+std::int32_t ResolutionCount(const GameState &State) {
+    return static_cast<std::int32_t>(
+        State.Resolutions.empty() ? BuiltInResolutions(State.AspectMode).size() : State.Resolutions.size());
+}
+
+void StepResolution(GameState &State, std::int32_t Direction) {
+    const std::int32_t count = ResolutionCount(State);
+    if (count < 1) {
+        State.ResolutionIndex = 0;
+        return;
+    }
+    State.ResolutionIndex = StepRound(std::clamp(State.ResolutionIndex, 0, count - 1), Direction, count);
+    RebuildRefreshRates(State);
+}
+
+void StepRefreshRate(GameState &State, std::int32_t Direction) {
+    const std::vector<std::int32_t> &rates = State.RefreshRates;
+    if (rates.empty()) {
+        State.RefreshRate = 0;
+        return;
+    }
+    const auto found = std::ranges::find(rates, State.RefreshRate);
+    const auto position = found != rates.end() ? static_cast<std::int32_t>(found - rates.begin()) : 0;
+    const std::int32_t next = StepRound(position, Direction, static_cast<std::int32_t>(rates.size()));
+    State.RefreshRate = rates[static_cast<std::size_t>(next)];
+}
+
+/// The snapshot's resolution and rate, in lists that have just been rebuilt.
+void SelectSnapshotMode(GameState &State) {
+    const GraphicsSnapshot &snapshot = State.GraphicsSnapshot;
+    State.ResolutionIndex =
+        FindResolutionIndex(State, snapshot.Width, snapshot.Height, State.ResolutionIndex);
+    State.RefreshRate = snapshot.RefreshRate;
+    RebuildRefreshRates(State);
+}
+
+/// The size is looked up before the lists are rebuilt: coming from 4:3 another one can come out. This stays.
+void UseDefaults(GameState &State, SDL_Window *Window) {
+    State.AspectMode = AspectWidescreen;
+    State.ResolutionIndex =
+        FindResolutionIndex(State, DefaultResolution.Width, DefaultResolution.Height, DefaultResolutionIndex);
+    State.RefreshRate = 0;
+    State.Fullscreen = true;
+    State.VSync = true;
+    RebuildDisplayLists(State, Window);
+}
+
+void Apply(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer) {
+    if (GraphicsEditDirty(State)) {
+        ApplyDisplaySettings(State, Window, Renderer);
+        State.OptionsDirty = true;
+    }
+    BeginGraphicsEdit(State, Window);
+}
+
+void Leave(GameState &State, SDL_Window *Window) {
+    if (GraphicsEditDirty(State)) {
+        RevertGraphicsEdit(State, Window);
+    }
+    State.GraphicsSnapshotValid = false;
+    State.OptionsPage = OptionsPageMain;
+}
+
+void Activate(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer) {
+    switch (static_cast<GraphicsRow>(State.GraphicsSelection)) {
+    case GraphicsRow::DisplayMode:
+    case GraphicsRow::VSync:
+        AdjustGraphicsRow(State, Window, 1);
+        break;
+    case GraphicsRow::DefaultSettings:
+        UseDefaults(State, Window);
+        break;
+    case GraphicsRow::Apply:
+        Apply(State, Window, Renderer);
+        break;
+    case GraphicsRow::Revert:
+        RevertGraphicsEdit(State, Window);
+        break;
+    case GraphicsRow::Back:
+        Leave(State, Window);
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace
+
+void BeginGraphicsEdit(GameState &State, SDL_Window *Window) {
+    const Resolution current = CurrentResolution(State);
+    State.GraphicsSnapshot = {
+        current.Width, current.Height, State.AspectMode, State.RefreshRate, State.Fullscreen, State.VSync};
+    State.GraphicsSnapshotValid = true;
+    RebuildDisplayLists(State, Window);
+    SelectSnapshotMode(State);
+}
+
+bool GraphicsEditDirty(const GameState &State) {
+    const GraphicsSnapshot &snapshot = State.GraphicsSnapshot;
+    return State.GraphicsSnapshotValid &&
+           (CurrentResolution(State) != Resolution{snapshot.Width, snapshot.Height} ||
+               State.AspectMode != snapshot.AspectMode || State.RefreshRate != snapshot.RefreshRate ||
+               State.Fullscreen != snapshot.Fullscreen || State.VSync != snapshot.VSync);
+}
+
+void RevertGraphicsEdit(GameState &State, SDL_Window *Window) {
+    if (!State.GraphicsSnapshotValid) {
+        return;
+    }
+    State.AspectMode = State.GraphicsSnapshot.AspectMode;
+    State.Fullscreen = State.GraphicsSnapshot.Fullscreen;
+    State.VSync = State.GraphicsSnapshot.VSync;
+    RebuildDisplayLists(State, Window);
+    SelectSnapshotMode(State);
+}
+
+void AdjustGraphicsRow(GameState &State, SDL_Window *Window, std::int32_t Direction) {
+    switch (static_cast<GraphicsRow>(State.GraphicsSelection)) {
+    case GraphicsRow::Resolution:
+        StepResolution(State, Direction);
+        break;
+    case GraphicsRow::AspectMode:
+        State.AspectMode = State.AspectMode == AspectWidescreen ? AspectClassic4x3 : AspectWidescreen;
+        RebuildDisplayLists(State, Window);
+        break;
+    case GraphicsRow::RefreshRate:
+        StepRefreshRate(State, Direction);
+        break;
+    case GraphicsRow::DisplayMode:
+        State.Fullscreen = !State.Fullscreen;
+        RebuildDisplayLists(State, Window); // rates are offered in fullscreen only
+        break;
+    case GraphicsRow::VSync:
+        State.VSync = !State.VSync;
+        break;
+    default:
+        break;
+    }
+}
+
+void HandleGraphicsPageKey(
+    GameState &State, SDL_Window *Window, SDL_Renderer *Renderer, std::int32_t Scancode) {
+    if (!State.GraphicsSnapshotValid) {
+        BeginGraphicsEdit(State, Window);
+    }
+    if (IsKeyUp(Scancode)) {
+        State.GraphicsSelection = RowAbove(State.GraphicsSelection, GraphicsRowCount);
+    } else if (IsKeyDown(Scancode)) {
+        State.GraphicsSelection = RowBelow(State.GraphicsSelection, GraphicsRowCount);
+    } else if (IsKeyLeft(Scancode)) {
+        AdjustGraphicsRow(State, Window, -1);
+    } else if (IsKeyRight(Scancode)) {
+        AdjustGraphicsRow(State, Window, 1);
+    } else if (IsKeyActivate(Scancode)) {
+        Activate(State, Window, Renderer);
+    } else if (IsKeyEscape(Scancode)) {
+        Leave(State, Window);
+    }
+}

@@ -1,0 +1,367 @@
+#include "app/KeyHandler.hpp"
+#include "app/OptionsKeys.hpp"
+#include "input/ControlsPage.hpp"
+#include "options/AudioPage.hpp"
+#include "options/GraphicsPage.hpp"
+#include "state/LogicalScreen.hpp"
+#include "state/Resolutions.hpp"
+#include "tests/app/ProgramTest.hpp"
+#include "tests/app/StateText.hpp"
+#include "tests/support/watch/FakeDisplays.hpp"
+#include "text/Localization.hpp"
+
+#include <algorithm>
+#include <array>
+#include <random>
+#include <vector>
+
+// What holds for the option pages whatever keys are pressed: random walks over them, always the same ones.
+
+namespace {
+
+constexpr std::int32_t Enter = 40;
+constexpr std::int32_t Escape = 41;
+constexpr std::int32_t Down = 81;
+
+constexpr std::array EditPages{OptionsPageControls, OptionsPageGraphics, OptionsPageAudio};
+
+/// Keys that move and change things are drawn more often than the others.
+constexpr std::array DrawnKeys{
+    82, 82, 82, 81, 81, 81, 81, 80, 80, 79, 79, 79, 40, 40, 40, 44, 88, 26, 22, 4, 7, 41, 76, 42, 11, 229};
+
+/// The options that are in force.
+struct AppliedOptions {
+    std::array<BindingTable, 3> Bindings;
+    std::int32_t Device;
+    std::int32_t AspectMode;
+    Resolution Size;
+    std::int32_t RefreshRate;
+    bool Fullscreen;
+    bool VSync;
+    std::array<std::int32_t, 3> Volumes;
+    bool MusicEnabled;
+    bool SfxEnabled;
+    std::string Language;
+
+    bool operator==(const AppliedOptions &) const = default;
+};
+
+AppliedOptions AppliedOf(const GameState &State) {
+    return {{State.KeyboardBindings, State.GamepadBindings, State.JoystickBindings}, State.ControlsDevice,
+        State.AspectMode, CurrentResolution(State), State.RefreshRate, State.Fullscreen, State.VSync,
+        {State.MasterVolume, State.MusicVolume, State.SfxVolume}, State.MusicEnabled, State.SfxEnabled,
+        State.Language};
+}
+
+/// The options as they will be if the page that is open is applied.
+AppliedOptions EditedOf(const GameState &State) {
+    AppliedOptions options = AppliedOf(State); // the Graphics page edits them in place
+    if (State.OptionsPage == OptionsPageControls) {
+        options.Bindings = {State.PendingKeyboard, State.PendingGamepad, State.PendingJoystick};
+        options.Device = State.PendingControlsDevice;
+    } else if (State.OptionsPage == OptionsPageAudio) {
+        options.Volumes = {State.PendingMasterVolume, State.PendingMusicVolume, State.PendingSfxVolume};
+        options.MusicEnabled = State.PendingMusicEnabled;
+        options.SfxEnabled = State.PendingSfxEnabled;
+        options.Language = State.PendingLanguage;
+    }
+    return options;
+}
+
+/// The same without what the Graphics page edits in place.
+AppliedOptions WithoutGraphics(AppliedOptions Options) {
+    Options.AspectMode = 0;
+    Options.Size = {};
+    Options.RefreshRate = 0;
+    Options.Fullscreen = Options.VSync = false;
+    return Options;
+}
+
+std::int32_t &SelectionOf(GameState &State, enum OptionsPage Page) {
+    switch (Page) {
+    case OptionsPageControls:
+        return State.ControlsSelection;
+    case OptionsPageGraphics:
+        return State.GraphicsSelection;
+    case OptionsPageAudio:
+        return State.AudioSelection;
+    default:
+        return State.OptionsMainSelection;
+    }
+}
+
+/// The row of a page's DEFAULT SETTINGS; APPLY, REVERT and BACK follow it.
+std::int32_t DefaultsRowOf(enum OptionsPage Page) {
+    return Page == OptionsPageGraphics ? 5 : 6;
+}
+
+bool Activates(std::int32_t Key) {
+    return Key == 40 || Key == 44 || Key == 88;
+}
+
+/// A program whose options are open, on a display with modes of several shapes and rates.
+class OptionsWalk : public RunningTest {
+protected:
+    OptionsWalk() : Random(20240607) {
+        Displays.OfWindow = 7;
+        Displays.Primary = 7;
+        Displays.Add(7, 1920, 1080).Modes = {Mode(2560, 1080, 60.0F), Mode(1920, 1080, 144.0F),
+            Mode(1920, 1080, 60.0F), Mode(1920, 1200, 75.0F), Mode(1600, 1200, 85.0F),
+            Mode(1280, 720, 144.0F), Mode(1280, 720, 60.0F), Mode(1024, 768, 85.0F), Mode(1024, 768, 60.0F),
+            Mode(640, 480, 60.0F), Mode(5120, 1440, 120.0F)};
+    }
+
+    void SetUp() override {
+        RunningTest::SetUp();
+        ASSERT_EQ(State.Resolutions.size(), 5U);
+        ASSERT_GE(Localization.Languages.size(), 2U);
+        State.OptionsReturnScreen = ScreenPaused;
+        EnterOptions(State);
+    }
+
+    /// A key as HandleKey sees it. Who leaves the options is sent back at once.
+    void Press(std::int32_t Key) {
+        State.PendingSounds.Count = 0;
+        DispatchKey(State, Program.Window, Program.Renderer, Key);
+        if (State.Screen != ScreenOptions) {
+            EnterOptions(State);
+        }
+    }
+
+    void PressOn(std::int32_t Row, std::int32_t Key = Enter) {
+        SelectionOf(State, State.OptionsPage) = Row;
+        Press(Key);
+    }
+
+    std::int32_t DrawKey() {
+        return DrawnKeys.at(Random() % DrawnKeys.size());
+    }
+
+    bool IsOnApply() {
+        return State.OptionsPage != OptionsPageMain && !State.CaptureActive &&
+               SelectionOf(State, State.OptionsPage) == DefaultsRowOf(State.OptionsPage) + 1;
+    }
+
+    bool IsOnBack() {
+        return !State.CaptureActive &&
+               SelectionOf(State, State.OptionsPage) == DefaultsRowOf(State.OptionsPage) + 3;
+    }
+
+    /// Presses a drawn key, but never APPLY.
+    void StepWithoutApply() {
+        const std::int32_t key = DrawKey();
+        Press(Activates(key) && IsOnApply() ? Down : key);
+    }
+
+    /// Presses a drawn key that neither applies nor leaves the page.
+    void StepOnPage() {
+        const std::int32_t key = DrawKey();
+        const bool leaves = (key == Escape && !State.CaptureActive) || (Activates(key) && IsOnBack());
+        Press(leaves || (Activates(key) && IsOnApply()) ? Down : key);
+    }
+
+    /// Opens a page and changes it at random; no capture is left running.
+    void EditAtRandom(enum OptionsPage Page, int Steps) {
+        EnterOptions(State);
+        PressOn(Page - 1);
+        ASSERT_EQ(State.OptionsPage, Page);
+        for (int i = 0; i < Steps; ++i) {
+            StepOnPage();
+        }
+        if (State.CaptureActive) {
+            Press(Escape);
+        }
+        ASSERT_EQ(State.OptionsPage, Page);
+    }
+
+    void LeaveToTheMainPage() {
+        for (int i = 0; i < 2 && State.OptionsPage != OptionsPageMain; ++i) {
+            Press(Escape); // the first one may end a capture
+        }
+        ASSERT_EQ(State.OptionsPage, OptionsPageMain);
+    }
+
+    bool IsDirty() const {
+        return ControlsEditDirty(State) || GraphicsEditDirty(State) || AudioEditDirty(State);
+    }
+
+    /// The record without the sounds, and with the page's row at 0.
+    std::string TextWithoutRow() const {
+        GameState state = State;
+        state.PendingSounds.Count = 0;
+        SelectionOf(state, state.OptionsPage) = 0;
+        return TextOf(state);
+    }
+
+    static std::size_t WindowCalls(const SdlWatch &Watch) {
+        return Watch
+            .NamesAmong({"SDL_SetWindowFullscreenMode", "SDL_SetWindowFullscreen", "SDL_SetWindowSize",
+                "SDL_SetWindowPosition", "SDL_SetRenderVSync", "SDL_SetRenderLogicalPresentation"})
+            .size();
+    }
+
+    void ExpectSoundRecord();
+    void ExpectSoundEdits();
+
+    FakeDisplays Displays;
+    std::mt19937 Random;
+};
+
+/// Every value within its range.
+void OptionsWalk::ExpectSoundRecord() {
+    EXPECT_TRUE(State.OptionsMainSelection >= 0 && State.OptionsMainSelection < 4);
+    EXPECT_TRUE(State.ControlsSelection >= 0 && State.ControlsSelection < 10);
+    EXPECT_TRUE(State.GraphicsSelection >= 0 && State.GraphicsSelection < 9);
+    EXPECT_TRUE(State.AudioSelection >= 0 && State.AudioSelection < 10);
+    EXPECT_TRUE(State.ResolutionIndex >= 0 &&
+                State.ResolutionIndex < static_cast<std::int32_t>(State.Resolutions.size()));
+    EXPECT_EQ(std::ranges::count(State.RefreshRates, State.RefreshRate), 1);
+    for (const std::int32_t volume : {State.PendingMasterVolume, State.PendingMusicVolume,
+             State.PendingSfxVolume, State.MasterVolume, State.MusicVolume, State.SfxVolume}) {
+        EXPECT_TRUE(volume >= 0 && volume <= 100) << volume;
+    }
+    for (const std::int32_t key : State.PendingKeyboard) {
+        EXPECT_TRUE(key >= 0 && key < 512 && key != Escape && key != 76 && key != 42) << key;
+    }
+    const auto known = std::ranges::find(Localization.Languages, State.Language, &LanguageEntry::Code);
+    EXPECT_NE(known, Localization.Languages.end());
+}
+
+/// Each page is in edit exactly while it is open, and a capture runs on one page alone.
+void OptionsWalk::ExpectSoundEdits() {
+    EXPECT_EQ(State.PendingControlsValid, State.OptionsPage == OptionsPageControls);
+    EXPECT_EQ(State.GraphicsSnapshotValid, State.OptionsPage == OptionsPageGraphics);
+    EXPECT_EQ(State.PendingAudioValid, State.OptionsPage == OptionsPageAudio);
+    EXPECT_EQ(State.CaptureActive, State.CaptureKind != CaptureKindNone);
+    EXPECT_TRUE(!State.CaptureActive || State.OptionsPage == OptionsPageControls);
+}
+
+TEST_F(OptionsWalk, LeavingWithoutApplyChangesNoAppliedValue) {
+    const AppliedOptions applied = AppliedOf(State);
+    const std::vector<Resolution> resolutions = State.Resolutions;
+    const std::int32_t width = LogicalWidth;
+    const SdlWatch watch;
+    int edits = 0;
+    for (int walk = 0; walk < 150; ++walk) {
+        for (int i = 0; i < 80; ++i) {
+            StepWithoutApply();
+            ASSERT_EQ(WithoutGraphics(AppliedOf(State)), WithoutGraphics(applied)) << walk;
+            edits += IsDirty() ? 1 : 0;
+        }
+        LeaveToTheMainPage();
+        ASSERT_EQ(AppliedOf(State), applied) << walk;
+        ASSERT_EQ(State.Resolutions, resolutions) << walk;
+    }
+    EXPECT_FALSE(State.OptionsDirty);
+    EXPECT_EQ(WindowCalls(watch), 0U);
+    EXPECT_EQ(LogicalWidth, width);
+    EXPECT_GT(edits, 1000); // the walks do change things
+}
+
+TEST_F(OptionsWalk, RevertAfterApplyChangesNothing) {
+    for (int walk = 0; walk < 120; ++walk) {
+        const enum OptionsPage page = EditPages.at(Random() % EditPages.size());
+        EditAtRandom(page, 40);
+        PressOn(DefaultsRowOf(page) + 1);
+        const std::string applied = TextWithoutRow();
+        PressOn(DefaultsRowOf(page) + 2);
+        ASSERT_EQ(TextWithoutRow(), applied) << walk << " page " << page;
+    }
+}
+
+TEST_F(OptionsWalk, DefaultSettingsAloneChangeNothingThatIsApplied) {
+    for (int walk = 0; walk < 120; ++walk) {
+        const enum OptionsPage page = EditPages.at(Random() % EditPages.size());
+        const AppliedOptions applied = AppliedOf(State);
+        const std::int32_t width = LogicalWidth;
+        const SdlWatch watch;
+        EditAtRandom(page, 20);
+        PressOn(DefaultsRowOf(page));
+        ASSERT_EQ(WithoutGraphics(AppliedOf(State)), WithoutGraphics(applied)) << walk;
+        ASSERT_EQ(WindowCalls(watch), 0U) << walk;
+        ASSERT_EQ(LogicalWidth, width) << walk;
+        PressOn(DefaultsRowOf(page) + 3);
+        ASSERT_EQ(State.OptionsPage, OptionsPageMain) << walk;
+        ASSERT_EQ(AppliedOf(State), applied) << walk;
+        ASSERT_FALSE(State.OptionsDirty) << walk;
+        // Other options for the next walk.
+        EditAtRandom(page, 20);
+        PressOn(DefaultsRowOf(page) + 1);
+        State.OptionsDirty = false;
+        LeaveToTheMainPage();
+    }
+}
+
+TEST_F(OptionsWalk, ApplyMarksTheOptionsExactlyIfSomethingDiffers) {
+    int changed = 0;
+    int unchanged = 0;
+    for (int walk = 0; walk < 200; ++walk) {
+        const enum OptionsPage page = EditPages.at(Random() % EditPages.size());
+        const AppliedOptions before = AppliedOf(State);
+        EditAtRandom(page, static_cast<int>(Random() % 16));
+        const AppliedOptions edited = EditedOf(State);
+        const bool differs = edited != before;
+        ASSERT_EQ(IsDirty(), differs) << walk << " page " << page;
+        const SdlWatch watch;
+        PressOn(DefaultsRowOf(page) + 1);
+        ASSERT_EQ(State.OptionsDirty, differs) << walk << " page " << page;
+        ASSERT_EQ(AppliedOf(State), edited) << walk << " page " << page;
+        ASSERT_EQ(WindowCalls(watch) > 0, differs && page == OptionsPageGraphics) << walk;
+        ASSERT_FALSE(IsDirty()) << walk << " page " << page;
+        State.OptionsDirty = false;
+        (differs ? changed : unchanged) += 1;
+        LeaveToTheMainPage();
+        ASSERT_EQ(AppliedOf(State), edited) << walk << " page " << page;
+    }
+    EXPECT_GT(changed, 30);
+    EXPECT_GT(unchanged, 30);
+}
+
+TEST_F(OptionsWalk, RevertLeavesNothingToApply) {
+    for (int walk = 0; walk < 120; ++walk) {
+        const enum OptionsPage page = EditPages.at(Random() % EditPages.size());
+        const AppliedOptions applied = AppliedOf(State);
+        EditAtRandom(page, 30);
+        PressOn(DefaultsRowOf(page) + 2);
+        ASSERT_FALSE(IsDirty()) << walk << " page " << page;
+        ASSERT_EQ(EditedOf(State), applied) << walk << " page " << page;
+        PressOn(DefaultsRowOf(page) + 1);
+        ASSERT_FALSE(State.OptionsDirty) << walk << " page " << page;
+    }
+}
+
+TEST_F(OptionsWalk, EveryKeyLeavesASoundRecord) {
+    for (int step = 0; step < 6000 && !HasFailure(); ++step) {
+        Press(DrawKey());
+        ExpectSoundRecord();
+        ExpectSoundEdits();
+        EXPECT_FALSE(HasFailure()) << "step " << step;
+    }
+}
+
+TEST_F(OptionsWalk, TheLogicalScreenIsTheOneOfTheLastApply) {
+    const std::array widths{960, 1152, 1280, 1728, 2560};
+    std::vector<std::int32_t> seen;
+    for (int walk = 0; walk < 80; ++walk) {
+        EditAtRandom(OptionsPageGraphics, 25);
+        PressOn(6);
+        const Resolution size = CurrentResolution(State);
+        std::int32_t expected = 1280;
+        if (State.AspectMode == AspectClassic4x3) {
+            expected = 960;
+        } else if (size == Resolution{2560, 1080}) {
+            expected = 1728;
+        } else if (size == Resolution{5120, 1440}) {
+            expected = 2560;
+        } else if (size == Resolution{1920, 1200}) {
+            expected = 1152;
+        }
+        ASSERT_EQ(LogicalWidth, expected) << walk;
+        seen.push_back(LogicalWidth);
+    }
+    for (const std::int32_t width : widths) {
+        EXPECT_TRUE(std::ranges::find(seen, width) != seen.end()) << width;
+    }
+}
+
+} // namespace

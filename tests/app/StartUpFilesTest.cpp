@@ -1,0 +1,143 @@
+#include "tests/app/ProgramTest.hpp"
+
+#include "state/LogicalScreen.hpp"
+#include "state/Resolutions.hpp"
+#include "text/Localization.hpp"
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// Start-up with the real files of the user's storage.
+class StartUpFiles : public ProgramTest {
+protected:
+    StartUpFiles() {
+        Program.Writers = SaveWriters{SaveOptions, WriteSaveState};
+    }
+
+    void Put(const char *Name, const std::string &Contents) {
+        std::filesystem::create_directories(Home.FilePath(Name).parent_path());
+        std::ofstream(Home.FilePath(Name), std::ios::binary) << Contents;
+    }
+
+    std::string Contents(const char *Name) const {
+        std::ifstream file(Home.FilePath(Name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    bool Exists(const char *Name) const {
+        return std::filesystem::exists(Home.FilePath(Name));
+    }
+
+    /// Starts, runs one frame and ends, as a person who only looks.
+    void Visit() {
+        Start();
+        RunFrame(Program);
+        Stop();
+    }
+};
+
+TEST_F(StartUpFiles, AFirstLaunchHasOptionsBeforeTheFirstFrameAndASaveAfterIt) {
+    Start();
+    EXPECT_TRUE(Exists("Config.ini"));
+    EXPECT_FALSE(Exists("SaveState.bin"));
+    RunFrame(Program);
+    EXPECT_TRUE(Exists("SaveState.bin"));
+    EXPECT_FALSE(State.HasRunState);
+}
+
+TEST_F(StartUpFiles, ASecondLaunchReadsTheOptionsAndLeavesTheDesktopAlone) {
+    Visit();
+    const std::string first = Contents("Config.ini");
+    const SdlWatch watch;
+    Start();
+    EXPECT_EQ(watch.Count("SDL_GetPrimaryDisplay"), 0);
+    RunFrame(Program);
+    EXPECT_EQ(Contents("Config.ini"), first);
+    EXPECT_FALSE(State.SaveRequested);
+}
+
+TEST_F(StartUpFiles, TheWindowOpensAsTheOptionsSay) {
+    Put("Config.ini",
+        "[Graphics]\r\nResolutionWidth=\"1600\"\r\nResolutionHeight=\"900\"\r\nFullscreen=\"0\"");
+    const SdlWatch watch;
+    Start();
+    EXPECT_EQ(
+        watch.CallsOf("SDL_CreateWindow"), (std::vector<SdlCall>{{"SDL_CreateWindow", {1, 1600, 900, 0}}}));
+    EXPECT_EQ(LogicalWidth, 1280);
+    EXPECT_EQ(CurrentResolution(State), (Resolution{1600, 900}));
+}
+
+TEST_F(StartUpFiles, AWantedLanguageThatIsGoneMarksTheOptionsOnce) {
+    Put("Config.ini", "[Options]\r\nLanguage=\"xx\"");
+    Start();
+    EXPECT_EQ(State.Language, "en");
+    EXPECT_TRUE(State.OptionsDirty);
+    RunFrame(Program);
+    EXPECT_FALSE(State.OptionsDirty);
+    EXPECT_NE(Contents("Config.ini").find("Language=\"en\""), std::string::npos);
+}
+
+TEST_F(StartUpFiles, TheLanguageOfTheOptionsIsInForceBeforeTheFirstFrame) {
+    Put("Config.ini", "[Options]\r\nLanguage=\" DE \"");
+    Start();
+    EXPECT_EQ(State.Language, "de");
+    EXPECT_EQ(Localization.CurrentLanguage, "de");
+    EXPECT_FALSE(State.OptionsDirty);
+}
+
+TEST_F(StartUpFiles, ADamagedSaveIsReplacedInTheFirstFrameByOneWithoutARun) {
+    Put("SaveState.bin", "no save state at all");
+    Start();
+    EXPECT_FALSE(State.HasRunState);
+    EXPECT_EQ(State.HighScore, 0);
+    RunFrame(Program);
+    EXPECT_EQ(Contents("SaveState.bin").substr(0, 2), "\x0A\x08");
+    Stop();
+    Start();
+    EXPECT_FALSE(State.SaveRequested);
+}
+
+TEST_F(StartUpFiles, ARunWaitsToBeContinuedWithItsHighScore) {
+    Start();
+    State.HasRunState = true;
+    State.HighScore = 4711;
+    State.Score = 99;
+    State.PlayerLane = 7;
+    State.SaveRequested = true;
+    State.SaveDelay = 0.0F;
+    Stop();
+    Start();
+    EXPECT_EQ(State.Screen, ScreenMainMenu);
+    EXPECT_TRUE(State.HasRunState);
+    EXPECT_EQ(State.HighScore, 4711);
+    EXPECT_EQ(State.Score, 99);
+    EXPECT_EQ(State.PlayerLane, 7);
+}
+
+TEST_F(StartUpFiles, FirstOptionsThatCannotBeWrittenAreLoggedOnceAndNotTriedAgain) {
+    Program.Writers = CountingWriters();
+    Written.OptionsFailures = 1;
+    const LogCatcher log;
+    Start();
+    RunFrame(Program);
+    EXPECT_EQ(log.Lines, (Lines{NoIconsLine, "Failed to create default options config: Config.ini"}));
+    EXPECT_EQ(Written.OptionsWrites, 1);
+}
+
+TEST_F(StartUpFiles, AQuitWithinTheDelayLeavesTheOldSave) {
+    Visit();
+    const std::string before = Contents("SaveState.bin");
+    Start();
+    State.HighScore = 1000;
+    State.SaveRequested = true;
+    State.SaveDelay = 0.5F;
+    Stop();
+    EXPECT_EQ(Contents("SaveState.bin"), before);
+}
+
+} // namespace

@@ -1,0 +1,542 @@
+#include "options/AudioPage.hpp"
+
+#include "state/GameState.hpp"
+#include "tests/support/Sdl.hpp"
+#include "tests/support/TemporaryHome.hpp"
+#include "text/Localization.hpp"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <ostream>
+
+namespace {
+
+// Rows of the page.
+constexpr std::int32_t MasterRow = 0;
+constexpr std::int32_t MusicVolumeRow = 1;
+constexpr std::int32_t SfxVolumeRow = 2;
+constexpr std::int32_t MusicRow = 3;
+constexpr std::int32_t SfxRow = 4;
+constexpr std::int32_t LanguageRow = 5;
+constexpr std::int32_t DefaultsRow = 6;
+constexpr std::int32_t ApplyRow = 7;
+constexpr std::int32_t RevertRow = 8;
+constexpr std::int32_t BackRow = 9;
+
+constexpr std::array UpKeys{82, 26};
+constexpr std::array DownKeys{81, 22};
+constexpr std::array LeftKeys{80, 4};
+constexpr std::array RightKeys{79, 7};
+constexpr std::array ActivateKeys{40, 44, 88};
+constexpr std::int32_t EnterKey = 40;
+constexpr std::int32_t RightKey = 79;
+constexpr std::int32_t EscapeKey = 41;
+
+struct AudioValues {
+    std::int32_t Master;
+    std::int32_t Music;
+    std::int32_t Sfx;
+    bool MusicOn;
+    bool SfxOn;
+    std::string Language;
+
+    bool operator==(const AudioValues &) const = default;
+};
+
+/// All that the page may touch, to compare two records by.
+struct AudioRecord {
+    AudioValues Applied;
+    AudioValues Pending;
+    bool PendingValid;
+    std::int32_t Page;
+    std::int32_t Selection;
+    bool OptionsDirty;
+    std::size_t SoundCount;
+
+    bool operator==(const AudioRecord &) const = default;
+};
+
+AudioRecord RecordOf(const GameState &State) {
+    return {{State.MasterVolume, State.MusicVolume, State.SfxVolume, State.MusicEnabled, State.SfxEnabled,
+                State.Language},
+        {State.PendingMasterVolume, State.PendingMusicVolume, State.PendingSfxVolume,
+            State.PendingMusicEnabled, State.PendingSfxEnabled, State.PendingLanguage},
+        State.PendingAudioValid, State.OptionsPage, State.AudioSelection, State.OptionsDirty,
+        State.PendingSounds.Count};
+}
+
+void PrintTo(const AudioValues &Values, std::ostream *Out) {
+    *Out << Values.Master << " " << Values.Music << " " << Values.Sfx << " " << Values.MusicOn << " "
+         << Values.SfxOn << " \"" << Values.Language << "\"";
+}
+
+void PrintTo(const AudioRecord &Record, std::ostream *Out) {
+    *Out << "applied ";
+    PrintTo(Record.Applied, Out);
+    *Out << ", pending ";
+    PrintTo(Record.Pending, Out);
+    *Out << " valid " << Record.PendingValid << ", page " << Record.Page << " row " << Record.Selection
+         << " dirty " << Record.OptionsDirty;
+}
+
+using Change = std::function<void(GameState &Expected)>;
+
+const Change Nothing = [](GameState &) {};
+
+void ExpectPendingAsApplied(GameState &Expected) {
+    Expected.PendingMasterVolume = Expected.MasterVolume;
+    Expected.PendingMusicVolume = Expected.MusicVolume;
+    Expected.PendingSfxVolume = Expected.SfxVolume;
+    Expected.PendingMusicEnabled = Expected.MusicEnabled;
+    Expected.PendingSfxEnabled = Expected.SfxEnabled;
+    Expected.PendingLanguage = Expected.Language;
+}
+
+void ExpectLeft(GameState &Expected) {
+    Expected.PendingAudioValid = false;
+    Expected.OptionsPage = OptionsPageMain;
+}
+
+/// The page in edit with a catalogue of three languages, every pending value another one than the applied.
+class AudioPage : public SdlTest {
+protected:
+    AudioPage() : Before(Localization) {
+        Localization = {};
+        Localization.Languages = {{"en", "English", "En.ini"}, {"de", "Deutsch", "De.ini"},
+            {"fr",
+                "Fran\xC3\xA7"
+                "ais",
+                "Fr.ini"}};
+        Localization.Texts = {{"Remembered", "text"}};
+        State.Screen = ScreenOptions;
+        State.OptionsPage = OptionsPageAudio;
+        State.MasterVolume = 90;
+        State.MusicVolume = 35;
+        State.SfxVolume = 60;
+        State.MusicEnabled = false;
+        State.SfxEnabled = false;
+        State.Language = "en";
+        State.PendingMasterVolume = 80;
+        State.PendingMusicVolume = 45;
+        State.PendingSfxVolume = 15;
+        State.PendingMusicEnabled = true;
+        State.PendingSfxEnabled = true;
+        State.PendingLanguage = "de";
+        State.PendingAudioValid = true;
+    }
+
+    ~AudioPage() override {
+        Localization = Before;
+    }
+
+    void PressOn(std::int32_t Row, std::int32_t Scancode) {
+        State.AudioSelection = Row;
+        HandleAudioPageKey(State, Scancode);
+    }
+
+    /// Expects each of Keys on a row to do Effect and nothing else.
+    template <typename Keys> void ExpectKeys(std::int32_t Row, const Keys &Pressed, const Change &Effect) {
+        State.AudioSelection = Row;
+        for (const std::int32_t key : Pressed) {
+            GameState state = State;
+            GameState expected = State;
+            HandleAudioPageKey(state, key);
+            Effect(expected);
+            EXPECT_EQ(RecordOf(state), RecordOf(expected)) << "scancode " << key << " on row " << Row;
+        }
+    }
+
+    /// Expects steps of one of the volumes, from From to To.
+    void ExpectVolumeSteps(std::int32_t GameState::*Volume, std::int32_t Row) {
+        struct Step {
+            std::int32_t From;
+            std::int32_t Down;
+            std::int32_t Up;
+        };
+        for (const Step &step :
+            {Step{50, 45, 55}, Step{0, 0, 5}, Step{100, 95, 100}, Step{5, 0, 10}, Step{95, 90, 100},
+                Step{37, 32, 42}, Step{97, 92, 100}, Step{3, 0, 8}, Step{99, 94, 100}, Step{1, 0, 6}}) {
+            State.*Volume = step.From;
+            ExpectKeys(Row, LeftKeys, [&](GameState &Expected) {
+                Expected.*Volume = step.Down;
+            });
+            ExpectKeys(Row, RightKeys, [&](GameState &Expected) {
+                Expected.*Volume = step.Up;
+            });
+        }
+    }
+
+    static bool TextsAreAsBefore() {
+        return Localization.Texts.contains("Remembered") && Localization.Texts["Remembered"] == "text";
+    }
+
+    /// The language that the page would change to.
+    std::string After(const std::string &Pending, std::int32_t Direction) {
+        State.PendingLanguage = Pending;
+        CycleLanguage(State, Direction);
+        return State.PendingLanguage;
+    }
+
+    GameState State;
+
+private:
+    const TemporaryHome Home;
+    LocalizationTable Before;
+};
+
+TEST_F(AudioPage, BeginsWithTheAppliedValues) {
+    State.PendingAudioValid = false;
+    GameState expected = State;
+    BeginAudioEdit(State);
+    ExpectPendingAsApplied(expected);
+    expected.PendingAudioValid = true;
+    EXPECT_EQ(RecordOf(State), RecordOf(expected));
+    EXPECT_FALSE(AudioEditDirty(State));
+}
+
+TEST_F(AudioPage, BeginsWithTheLanguagesCodeInOrder) {
+    State.Language = " D E\t";
+    BeginAudioEdit(State);
+    EXPECT_EQ(State.PendingLanguage, "de");
+    EXPECT_EQ(State.Language, " D E\t"); // the option itself is left
+    EXPECT_FALSE(AudioEditDirty(State));
+    State.Language = "";
+    BeginAudioEdit(State);
+    EXPECT_EQ(State.PendingLanguage, "en");
+}
+
+TEST_F(AudioPage, IsDirtyByEachOfItsValues) {
+    BeginAudioEdit(State);
+    const std::vector<Change> changes{
+        [](GameState &Changed) {
+            Changed.PendingMasterVolume = 1;
+        },
+        [](GameState &Changed) {
+            Changed.PendingMusicVolume = 1;
+        },
+        [](GameState &Changed) {
+            Changed.PendingSfxVolume = 1;
+        },
+        [](GameState &Changed) {
+            Changed.PendingMusicEnabled = true;
+        },
+        [](GameState &Changed) {
+            Changed.PendingSfxEnabled = true;
+        },
+        [](GameState &Changed) {
+            Changed.PendingLanguage = "fr";
+        },
+    };
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        GameState changed = State;
+        changes[i](changed);
+        EXPECT_TRUE(AudioEditDirty(changed)) << i;
+        changed.PendingAudioValid = false;
+        EXPECT_FALSE(AudioEditDirty(changed)) << i;
+    }
+}
+
+TEST_F(AudioPage, IsNotDirtyByTheSpellingOfALanguage) {
+    BeginAudioEdit(State);
+    State.PendingLanguage = " EN ";
+    EXPECT_FALSE(AudioEditDirty(State));
+    State.Language = "D e";
+    State.PendingLanguage = "de";
+    EXPECT_FALSE(AudioEditDirty(State));
+}
+
+TEST_F(AudioPage, UpGoesThroughTheTenRowsAndWraps) {
+    constexpr std::array next{9, 0, 1, 2, 3, 4, 5, 6, 7, 8};
+    for (std::size_t row = 0; row < next.size(); ++row) {
+        ExpectKeys(static_cast<std::int32_t>(row), UpKeys, [&](GameState &Expected) {
+            Expected.AudioSelection = next.at(row);
+        });
+    }
+}
+
+TEST_F(AudioPage, DownGoesThroughTheTenRowsAndWraps) {
+    constexpr std::array next{1, 2, 3, 4, 5, 6, 7, 8, 9, 0};
+    for (std::size_t row = 0; row < next.size(); ++row) {
+        ExpectKeys(static_cast<std::int32_t>(row), DownKeys, [&](GameState &Expected) {
+            Expected.AudioSelection = next.at(row);
+        });
+    }
+}
+
+TEST_F(AudioPage, TheMasterVolumeStepsByFiveAndStopsAtBothEnds) {
+    ExpectVolumeSteps(&GameState::PendingMasterVolume, MasterRow);
+}
+
+TEST_F(AudioPage, TheMusicVolumeStepsByFiveAndStopsAtBothEnds) {
+    ExpectVolumeSteps(&GameState::PendingMusicVolume, MusicVolumeRow);
+}
+
+TEST_F(AudioPage, TheSfxVolumeStepsByFiveAndStopsAtBothEnds) {
+    ExpectVolumeSteps(&GameState::PendingSfxVolume, SfxVolumeRow);
+}
+
+TEST_F(AudioPage, StepsAreNotSnapped) {
+    State.PendingMasterVolume = 37;
+    for (const int expected : {42, 47, 52, 57, 62, 67, 72, 77, 82, 87, 92, 97, 100, 100, 95}) {
+        PressOn(MasterRow, State.PendingMasterVolume == 100 && expected == 95 ? 80 : RightKey);
+        EXPECT_EQ(State.PendingMasterVolume, expected);
+    }
+}
+
+TEST_F(AudioPage, ActivatingAVolumeDoesNothing) {
+    for (const std::int32_t row : {MasterRow, MusicVolumeRow, SfxVolumeRow}) {
+        ExpectKeys(row, ActivateKeys, Nothing);
+    }
+}
+
+TEST_F(AudioPage, LeftRightAndActivateToggleTheSwitches) {
+    for (const bool before : {true, false}) {
+        State.PendingMusicEnabled = before;
+        State.PendingSfxEnabled = before;
+        const Change music = [before](GameState &Expected) {
+            Expected.PendingMusicEnabled = !before;
+        };
+        const Change sfx = [before](GameState &Expected) {
+            Expected.PendingSfxEnabled = !before;
+        };
+        ExpectKeys(MusicRow, std::array{80, 4, 79, 7, 40, 44, 88}, music);
+        ExpectKeys(SfxRow, std::array{80, 4, 79, 7, 40, 44, 88}, sfx);
+    }
+}
+
+TEST_F(AudioPage, LeftRightAndActivateStepTheLanguage) {
+    ExpectKeys(LanguageRow, LeftKeys, [](GameState &Expected) {
+        Expected.PendingLanguage = "en";
+    });
+    ExpectKeys(LanguageRow, RightKeys, [](GameState &Expected) {
+        Expected.PendingLanguage = "fr";
+    });
+    ExpectKeys(LanguageRow, ActivateKeys, [](GameState &Expected) {
+        Expected.PendingLanguage = "fr";
+    });
+    EXPECT_TRUE(TextsAreAsBefore());
+}
+
+TEST_F(AudioPage, LanguagesGoRoundBothEndsOfTheCatalogue) {
+    EXPECT_EQ(After("en", 1), "de");
+    EXPECT_EQ(After("de", 1), "fr");
+    EXPECT_EQ(After("fr", 1), "en");
+    EXPECT_EQ(After("en", -1), "fr");
+    EXPECT_EQ(After("fr", -1), "de");
+    EXPECT_EQ(After("de", -1), "en");
+}
+
+TEST_F(AudioPage, ALanguageStepReadsTheSpellingOfThePendingOne) {
+    EXPECT_EQ(After(" D E", 1), "fr");
+    EXPECT_EQ(After("", 1), "de"); // nothing is English
+}
+
+TEST_F(AudioPage, ALanguageStepOfAnUnknownOneStartsFromTheDefault) {
+    Localization.DefaultLanguage = " F R";
+    EXPECT_EQ(After("xx", 1), "en");
+    EXPECT_EQ(After("xx", -1), "de");
+}
+
+TEST_F(AudioPage, ALanguageStepStartsFromTheFirstWhereTheDefaultIsUnknownToo) {
+    Localization.DefaultLanguage = "yy";
+    EXPECT_EQ(After("xx", 1), "de");
+    EXPECT_EQ(After("xx", -1), "fr");
+}
+
+TEST_F(AudioPage, WithOneLanguageNothingChanges) {
+    Localization.Languages = {{"de", "Deutsch", "De.ini"}};
+    for (const std::int32_t direction : {1, -1}) {
+        EXPECT_EQ(After("de", direction), "de");
+        EXPECT_EQ(After(" DE ", direction), " DE "); // not even its spelling
+        EXPECT_EQ(After("xx", direction), "de");
+    }
+}
+
+TEST_F(AudioPage, WithoutLanguagesNothingChanges) {
+    Localization.Languages.clear();
+    for (const std::int32_t direction : {1, -1}) {
+        EXPECT_EQ(After("de", direction), "de");
+        EXPECT_EQ(After("xx", direction), "xx");
+    }
+}
+
+TEST_F(AudioPage, LeftAndRightDoNothingOnTheOtherRows) {
+    for (std::int32_t row = DefaultsRow; row <= BackRow; ++row) {
+        ExpectKeys(row, LeftKeys, Nothing);
+        ExpectKeys(row, RightKeys, Nothing);
+    }
+}
+
+TEST_F(AudioPage, NoOtherKeyDoesAnything) {
+    constexpr std::array keys{82, 26, 81, 22, 80, 4, 79, 7, 40, 44, 88, 41};
+    std::vector<std::int32_t> others;
+    for (std::int32_t key = 1; key < 512; ++key) {
+        if (std::ranges::find(keys, key) == keys.end()) {
+            others.push_back(key);
+        }
+    }
+    ASSERT_EQ(others.size(), 499U);
+    for (std::int32_t row = 0; row < 10; ++row) {
+        ExpectKeys(row, others, Nothing);
+    }
+}
+
+TEST_F(AudioPage, BeginsItsEditWithAKeyIfItIsNotInOne) {
+    State.PendingAudioValid = false;
+    PressOn(MasterRow, RightKey);
+    EXPECT_TRUE(State.PendingAudioValid);
+    EXPECT_EQ(State.PendingMasterVolume, 95); // on from the applied 90
+    EXPECT_EQ(State.PendingMusicVolume, 35);
+    EXPECT_EQ(State.PendingLanguage, "en");
+}
+
+TEST_F(AudioPage, DefaultSettingsGoIntoThePendingValuesAndLeaveTheLanguage) {
+    State.PendingMusicEnabled = false;
+    State.PendingSfxEnabled = false;
+    ExpectKeys(DefaultsRow, ActivateKeys, [](GameState &Expected) {
+        Expected.PendingMasterVolume = 100;
+        Expected.PendingMusicVolume = 50;
+        Expected.PendingSfxVolume = 75;
+        Expected.PendingMusicEnabled = true;
+        Expected.PendingSfxEnabled = true;
+    });
+}
+
+TEST_F(AudioPage, ApplyTakesEveryValueOverAndLoadsTheLanguage) {
+    const LogCatcher log; // there is no catalogue beside the tests
+    ExpectKeys(ApplyRow, ActivateKeys, [](GameState &Expected) {
+        Expected.MasterVolume = 80;
+        Expected.MusicVolume = 45;
+        Expected.SfxVolume = 15;
+        Expected.MusicEnabled = true;
+        Expected.SfxEnabled = true;
+        Expected.Language = "de";
+        Expected.OptionsDirty = true;
+    });
+    EXPECT_FALSE(Localization.Texts.contains("Remembered")); // what was remembered is gone
+    EXPECT_EQ(Localization.CurrentLanguage, "de");
+}
+
+TEST_F(AudioPage, ApplyOfEachValueAloneMarksTheOptions) {
+    BeginAudioEdit(State);
+    struct Case {
+        Change Pend;
+        Change Apply;
+    };
+    const std::vector<Case> cases{
+        {[](GameState &Pending) {
+             Pending.PendingMasterVolume = 1;
+         },
+            [](GameState &Expected) {
+                Expected.MasterVolume = 1;
+            }},
+        {[](GameState &Pending) {
+             Pending.PendingMusicVolume = 2;
+         },
+            [](GameState &Expected) {
+                Expected.MusicVolume = 2;
+            }},
+        {[](GameState &Pending) {
+             Pending.PendingSfxVolume = 3;
+         },
+            [](GameState &Expected) {
+                Expected.SfxVolume = 3;
+            }},
+        {[](GameState &Pending) {
+             Pending.PendingMusicEnabled = true;
+         },
+            [](GameState &Expected) {
+                Expected.MusicEnabled = true;
+            }},
+        {[](GameState &Pending) {
+             Pending.PendingSfxEnabled = true;
+         },
+            [](GameState &Expected) {
+                Expected.SfxEnabled = true;
+            }},
+    };
+    const GameState fresh = State;
+    for (const Case &value : cases) {
+        State = fresh;
+        value.Pend(State);
+        ExpectKeys(ApplyRow, ActivateKeys, [&](GameState &Expected) {
+            value.Apply(Expected);
+            Expected.OptionsDirty = true;
+        });
+    }
+    EXPECT_TRUE(TextsAreAsBefore()); // no language was loaded
+}
+
+TEST_F(AudioPage, ApplyWithNothingChangedMarksNothing) {
+    BeginAudioEdit(State);
+    ExpectKeys(ApplyRow, ActivateKeys, Nothing);
+    State.OptionsDirty = true; // a write that failed stays due
+    ExpectKeys(ApplyRow, ActivateKeys, Nothing);
+    EXPECT_TRUE(TextsAreAsBefore());
+}
+
+TEST_F(AudioPage, ApplyOfAVolumePutsTheSpellingOfTheLanguageInOrder) {
+    State.Language = " D E";
+    BeginAudioEdit(State);
+    State.PendingMasterVolume = 5;
+    PressOn(ApplyRow, EnterKey);
+    EXPECT_EQ(State.Language, "de");
+    EXPECT_TRUE(TextsAreAsBefore()); // but it is the same language
+}
+
+TEST_F(AudioPage, ApplyOfALanguageThatIsGoneTakesTheOneInForce) {
+    const LogCatcher log;
+    State.PendingLanguage = "xx";
+    PressOn(ApplyRow, EnterKey);
+    EXPECT_EQ(State.Language, "en");
+    EXPECT_EQ(State.PendingLanguage, "en");
+    EXPECT_TRUE(State.OptionsDirty);
+    EXPECT_FALSE(AudioEditDirty(State));
+}
+
+TEST_F(AudioPage, RevertBringsTheAppliedValuesBackAndStaysInEdit) {
+    ExpectKeys(RevertRow, ActivateKeys, ExpectPendingAsApplied);
+}
+
+TEST_F(AudioPage, RevertAfterALanguageStepShowsTheAppliedOne) {
+    BeginAudioEdit(State);
+    PressOn(LanguageRow, RightKey);
+    ASSERT_EQ(State.PendingLanguage, "de");
+    PressOn(RevertRow, EnterKey);
+    EXPECT_EQ(State.PendingLanguage, "en");
+    EXPECT_TRUE(TextsAreAsBefore());
+}
+
+TEST_F(AudioPage, BackDropsUnappliedValuesWithoutAQuestion) {
+    ExpectKeys(BackRow, ActivateKeys, [](GameState &Expected) {
+        ExpectPendingAsApplied(Expected);
+        ExpectLeft(Expected);
+    });
+    BeginAudioEdit(State);
+    ExpectKeys(BackRow, ActivateKeys, ExpectLeft);
+}
+
+TEST_F(AudioPage, EscapeLeavesFromEveryRow) {
+    for (std::int32_t row = 0; row < 10; ++row) {
+        ExpectKeys(row, std::array{EscapeKey}, [](GameState &Expected) {
+            ExpectPendingAsApplied(Expected);
+            ExpectLeft(Expected);
+        });
+    }
+}
+
+TEST_F(AudioPage, NothingIsAppliedWithoutApply) {
+    const AudioValues applied = RecordOf(State).Applied;
+    for (std::int32_t row = 0; row < 10; ++row) {
+        for (const std::int32_t key : {80, 79, 40}) {
+            if (row != ApplyRow) {
+                PressOn(row, key);
+                EXPECT_EQ(RecordOf(State).Applied, applied) << row << " " << key;
+            }
+        }
+    }
+    EXPECT_FALSE(State.OptionsDirty);
+}
+
+} // namespace

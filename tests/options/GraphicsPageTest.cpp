@@ -1,0 +1,664 @@
+#include "options/GraphicsPage.hpp"
+
+#include "options/Displays.hpp"
+#include "state/Resolutions.hpp"
+#include "tests/options/PresentationTest.hpp"
+#include "tests/support/watch/FakeDisplays.hpp"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <ostream>
+
+namespace {
+
+// Rows of the page.
+constexpr std::int32_t ResolutionRow = 0;
+constexpr std::int32_t AspectRow = 1;
+constexpr std::int32_t RateRow = 2;
+constexpr std::int32_t ModeRow = 3;
+constexpr std::int32_t VSyncRow = 4;
+constexpr std::int32_t DefaultsRow = 5;
+constexpr std::int32_t ApplyRow = 6;
+constexpr std::int32_t RevertRow = 7;
+constexpr std::int32_t BackRow = 8;
+
+constexpr std::array UpKeys{82, 26};
+constexpr std::array DownKeys{81, 22};
+constexpr std::array LeftKeys{80, 4};
+constexpr std::array RightKeys{79, 7};
+constexpr std::array ActivateKeys{40, 44, 88};
+constexpr std::int32_t EnterKey = 40;
+constexpr std::int32_t EscapeKey = 41;
+
+/// All that the page may touch, to compare two records by.
+struct GraphicsRecord {
+    std::int32_t AspectMode;
+    Resolution Size;
+    std::int32_t ResolutionIndex;
+    std::int32_t RefreshRate;
+    bool Fullscreen;
+    bool VSync;
+    std::vector<Resolution> Resolutions;
+    std::vector<std::int32_t> RefreshRates;
+    std::int32_t Page;
+    std::int32_t Selection;
+    Resolution SnapshotSize;
+    std::int32_t SnapshotAspect;
+    std::int32_t SnapshotRate;
+    bool SnapshotFullscreen;
+    bool SnapshotVSync;
+    bool SnapshotValid;
+    bool OptionsDirty;
+    bool ResetFrameClock;
+    std::size_t SoundCount;
+
+    bool operator==(const GraphicsRecord &) const = default;
+};
+
+GraphicsRecord RecordOf(const GameState &State) {
+    const GraphicsSnapshot &snapshot = State.GraphicsSnapshot;
+    return {State.AspectMode, CurrentResolution(State), State.ResolutionIndex, State.RefreshRate,
+        State.Fullscreen, State.VSync, State.Resolutions, State.RefreshRates, State.OptionsPage,
+        State.GraphicsSelection, {snapshot.Width, snapshot.Height}, snapshot.AspectMode, snapshot.RefreshRate,
+        snapshot.Fullscreen, snapshot.VSync, State.GraphicsSnapshotValid, State.OptionsDirty,
+        State.ResetFrameClock, State.PendingSounds.Count};
+}
+
+void PrintTo(const GraphicsRecord &Record, std::ostream *Out) {
+    *Out << Record.Size.Width << "x" << Record.Size.Height << " (" << Record.ResolutionIndex << " of "
+         << Record.Resolutions.size() << ") aspect " << Record.AspectMode << " rate " << Record.RefreshRate
+         << " of " << ::testing::PrintToString(Record.RefreshRates) << " fullscreen " << Record.Fullscreen
+         << " vsync " << Record.VSync << "\npage " << Record.Page << " row " << Record.Selection
+         << " snapshot " << Record.SnapshotValid << ": " << Record.SnapshotSize.Width << "x"
+         << Record.SnapshotSize.Height << " aspect " << Record.SnapshotAspect << " rate "
+         << Record.SnapshotRate << " fullscreen " << Record.SnapshotFullscreen << " vsync "
+         << Record.SnapshotVSync << "\ndirty " << Record.OptionsDirty << " clock " << Record.ResetFrameClock;
+}
+
+using Change = std::function<void(GameState &Expected)>;
+
+const Change Nothing = [](GameState &) {};
+
+/// What the display below offers, by shape.
+const std::vector<Resolution> WideSizes{{640, 360}, {800, 450}, {1280, 720}, {1920, 1080}, {2560, 1080}};
+const std::vector<Resolution> ClassicSizes{{640, 480}, {1024, 768}, {1600, 1200}};
+
+/// The page on a display with some modes. It stands at 1920x1080 and 75 Hz in fullscreen, vertical sync off,
+/// with its edit begun and nothing changed.
+class GraphicsPage : public PresentationTest {
+protected:
+    GraphicsPage() {
+        Displays.OfWindow = 7;
+        Displays.Add(7, 1920, 1080).Modes = {Mode(2560, 1080, 60.0F), Mode(1920, 1080, 144.0F),
+            Mode(1920, 1080, 75.0F), Mode(1920, 1080, 60.0F), Mode(1600, 1200, 85.0F),
+            Mode(1600, 1200, 60.0F), Mode(1280, 720, 144.0F), Mode(1280, 720, 60.0F), Mode(1024, 768, 75.0F),
+            Mode(800, 450, 60.0F), Mode(640, 480, 60.0F), Mode(640, 360, 0.0F)};
+        State.Screen = ScreenOptions;
+        State.OptionsPage = OptionsPageGraphics;
+        State.Resolutions = {{1920, 1080}};
+        State.ResolutionIndex = 0;
+        State.RefreshRate = 75;
+        State.Fullscreen = true;
+        State.VSync = false;
+        BeginGraphicsEdit(State, Window);
+    }
+
+    void Press(std::int32_t Scancode) {
+        HandleGraphicsPageKey(State, Window, Renderer, Scancode);
+    }
+
+    void PressOn(std::int32_t Row, std::int32_t Scancode) {
+        State.GraphicsSelection = Row;
+        Press(Scancode);
+    }
+
+    void Adjust(std::int32_t Row, std::int32_t Direction) {
+        State.GraphicsSelection = Row;
+        AdjustGraphicsRow(State, Window, Direction);
+    }
+
+    /// Expects each of Keys on a row to do Effect and nothing else, and the window to be left alone.
+    template <typename Keys> void ExpectKeys(std::int32_t Row, const Keys &Pressed, const Change &Effect) {
+        State.GraphicsSelection = Row;
+        for (const std::int32_t key : Pressed) {
+            GameState state = State;
+            GameState expected = State;
+            const SdlWatch watch;
+            HandleGraphicsPageKey(state, Window, Renderer, key);
+            ExpectWindowUntouched(watch);
+            Effect(expected);
+            EXPECT_EQ(RecordOf(state), RecordOf(expected)) << "scancode " << key << " on row " << Row;
+        }
+    }
+
+    static void ExpectWindowUntouched(const SdlWatch &Watch) {
+        EXPECT_EQ(Watch.NamesAmong({"SDL_SetWindowFullscreenMode", "SDL_SetWindowFullscreen",
+                      "SDL_SetWindowSize", "SDL_SetWindowPosition", "SDL_SetRenderVSync",
+                      "SDL_GetRenderVSync", "SDL_SetRenderLogicalPresentation"}),
+            std::vector<std::string>{});
+        EXPECT_EQ(LogicalWidth, 1280);
+    }
+
+    /// Another value in each of the five options.
+    void ChangeEverything() {
+        Adjust(AspectRow, 1);
+        Adjust(ResolutionRow, 1);
+        Adjust(ModeRow, 1);
+        Adjust(VSyncRow, 1);
+        ASSERT_EQ(State.RefreshRate, 0);
+    }
+
+    FakeDisplays Displays;
+};
+
+TEST_F(GraphicsPage, BeginsWithASnapshotOfWhatIsInForce) {
+    EXPECT_EQ(State.GraphicsSnapshot.Width, 1920);
+    EXPECT_EQ(State.GraphicsSnapshot.Height, 1080);
+    EXPECT_EQ(State.GraphicsSnapshot.AspectMode, AspectWidescreen);
+    EXPECT_EQ(State.GraphicsSnapshot.RefreshRate, 75);
+    EXPECT_TRUE(State.GraphicsSnapshot.Fullscreen);
+    EXPECT_FALSE(State.GraphicsSnapshot.VSync);
+    EXPECT_TRUE(State.GraphicsSnapshotValid);
+}
+
+TEST_F(GraphicsPage, BeginsWithTheListsOfTheDisplay) {
+    EXPECT_EQ(State.DisplayModes.size(), 12U);
+    EXPECT_EQ(State.Resolutions, WideSizes);
+    EXPECT_EQ(State.ResolutionIndex, 3);
+    EXPECT_EQ(State.RefreshRates, (std::vector<std::int32_t>{0, 60, 75, 144}));
+    EXPECT_EQ(State.RefreshRate, 75);
+    EXPECT_FALSE(GraphicsEditDirty(State));
+}
+
+TEST_F(GraphicsPage, TakesASnapshotOfEachOtherValue) {
+    ChangeEverything();
+    const Resolution size = CurrentResolution(State);
+    BeginGraphicsEdit(State, Window);
+    EXPECT_EQ(State.GraphicsSnapshot.Width, size.Width);
+    EXPECT_EQ(State.GraphicsSnapshot.Height, size.Height);
+    EXPECT_EQ(State.GraphicsSnapshot.AspectMode, AspectClassic4x3);
+    EXPECT_EQ(State.GraphicsSnapshot.RefreshRate, 0);
+    EXPECT_FALSE(State.GraphicsSnapshot.Fullscreen);
+    EXPECT_TRUE(State.GraphicsSnapshot.VSync);
+    EXPECT_FALSE(GraphicsEditDirty(State));
+}
+
+TEST_F(GraphicsPage, KeepsASizeThatIsGoneInItsSnapshot) {
+    State.Resolutions = {{3440, 1440}};
+    State.ResolutionIndex = 0;
+    BeginGraphicsEdit(State, Window);
+    EXPECT_EQ(State.GraphicsSnapshot.Width, 3440);
+    EXPECT_EQ(State.GraphicsSnapshot.Height, 1440);
+    EXPECT_EQ(State.ResolutionIndex, 3); // where the rebuilt list fell back to
+    EXPECT_TRUE(GraphicsEditDirty(State));
+}
+
+TEST_F(GraphicsPage, KeepsARateThatIsGoneInItsSnapshot) {
+    State.RefreshRate = 240;
+    BeginGraphicsEdit(State, Window);
+    EXPECT_EQ(State.GraphicsSnapshot.RefreshRate, 240);
+    EXPECT_EQ(State.RefreshRate, 0);
+    EXPECT_TRUE(GraphicsEditDirty(State));
+}
+
+TEST_F(GraphicsPage, IsDirtyByEachOfItsOptions) {
+    const std::vector<Change> changes{
+        [](GameState &Changed) {
+            Changed.ResolutionIndex = 2;
+        },
+        [](GameState &Changed) {
+            Changed.AspectMode = AspectClassic4x3;
+        },
+        [](GameState &Changed) {
+            Changed.RefreshRate = 60;
+        },
+        [](GameState &Changed) {
+            Changed.Fullscreen = false;
+        },
+        [](GameState &Changed) {
+            Changed.VSync = true;
+        },
+        [](GameState &Changed) {
+            Changed.GraphicsSnapshot.Width = 1921;
+        },
+        [](GameState &Changed) {
+            Changed.GraphicsSnapshot.Height = 1079;
+        },
+    };
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        GameState changed = State;
+        changes[i](changed);
+        EXPECT_TRUE(GraphicsEditDirty(changed)) << i;
+        changed.GraphicsSnapshotValid = false;
+        EXPECT_FALSE(GraphicsEditDirty(changed)) << i;
+    }
+}
+
+TEST_F(GraphicsPage, RevertsEverythingTogether) {
+    const GraphicsRecord before = RecordOf(State);
+    ChangeEverything();
+    ASSERT_TRUE(GraphicsEditDirty(State));
+    State.GraphicsSelection = before.Selection;
+    RevertGraphicsEdit(State, Window);
+    EXPECT_EQ(RecordOf(State), before);
+    EXPECT_FALSE(GraphicsEditDirty(State));
+}
+
+TEST_F(GraphicsPage, RevertsNothingWithoutASnapshot) {
+    ChangeEverything();
+    State.GraphicsSnapshotValid = false;
+    const GraphicsRecord before = RecordOf(State);
+    RevertGraphicsEdit(State, Window);
+    EXPECT_EQ(RecordOf(State), before);
+}
+
+TEST_F(GraphicsPage, StepsThroughTheResolutionsRoundBothEnds) {
+    for (const int expected : {4, 0, 1, 2, 3, 4, 0}) {
+        Adjust(ResolutionRow, 1);
+        EXPECT_EQ(State.ResolutionIndex, expected);
+    }
+    for (const int expected : {4, 3, 2, 1, 0, 4}) {
+        Adjust(ResolutionRow, -1);
+        EXPECT_EQ(State.ResolutionIndex, expected);
+    }
+}
+
+TEST_F(GraphicsPage, ListsTheRatesOfEachResolution) {
+    Adjust(ResolutionRow, 1);
+    EXPECT_EQ(State.RefreshRates, (std::vector<std::int32_t>{0, 60}));
+    EXPECT_EQ(State.RefreshRate, 0); // there is no 75 here
+    Adjust(ResolutionRow, 1);
+    EXPECT_EQ(State.RefreshRates, (std::vector<std::int32_t>{0})); // the display does not tell
+    Adjust(ResolutionRow, -1);
+    Adjust(ResolutionRow, -1);
+    EXPECT_EQ(State.RefreshRates, (std::vector<std::int32_t>{0, 60, 75, 144}));
+    EXPECT_EQ(State.RefreshRate, 0); // what was lost stays lost
+}
+
+TEST_F(GraphicsPage, KeepsARateThatTheNextResolutionHas) {
+    Adjust(RateRow, 1);
+    ASSERT_EQ(State.RefreshRate, 144);
+    Adjust(ResolutionRow, -1);
+    EXPECT_EQ(State.RefreshRate, 144);
+}
+
+TEST_F(GraphicsPage, StepsFromWithinTheList) {
+    struct Case {
+        std::int32_t Index;
+        std::int32_t Direction;
+        std::int32_t Next;
+    };
+    for (const Case &step : {Case{-7, -1, 4}, Case{-7, 1, 1}, Case{99, 1, 0}, Case{99, -1, 3}}) {
+        State.ResolutionIndex = step.Index;
+        Adjust(ResolutionRow, step.Direction);
+        EXPECT_EQ(State.ResolutionIndex, step.Next) << step.Index;
+    }
+}
+
+TEST_F(GraphicsPage, StepsThroughTheBuiltInTableWhileThereIsNoList) {
+    State.Resolutions.clear();
+    State.ResolutionIndex = 20;
+    Adjust(ResolutionRow, 1);
+    EXPECT_EQ(State.ResolutionIndex, 0);
+    Adjust(ResolutionRow, -1);
+    EXPECT_EQ(State.ResolutionIndex, 20);
+    State.AspectMode = AspectClassic4x3;
+    State.ResolutionIndex = 6;
+    Adjust(ResolutionRow, 1);
+    EXPECT_EQ(State.ResolutionIndex, 0);
+}
+
+TEST_F(GraphicsPage, TheAspectModeBringsItsOwnResolutions) {
+    for (const std::int32_t direction : {1, -1}) {
+        Adjust(AspectRow, direction);
+        EXPECT_EQ(State.AspectMode, AspectClassic4x3);
+        EXPECT_EQ(State.Resolutions, ClassicSizes);
+        EXPECT_EQ(State.ResolutionIndex, 2); // 1920x1080 is none of them
+        EXPECT_EQ(State.RefreshRates, (std::vector<std::int32_t>{0, 60, 85}));
+        Adjust(AspectRow, direction);
+        EXPECT_EQ(State.AspectMode, AspectWidescreen);
+        EXPECT_EQ(State.Resolutions, WideSizes);
+        EXPECT_EQ(State.ResolutionIndex, 3);
+    }
+}
+
+TEST_F(GraphicsPage, StepsThroughTheRatesRoundBothEnds) {
+    for (const int expected : {144, 0, 60, 75, 144}) {
+        Adjust(RateRow, 1);
+        EXPECT_EQ(State.RefreshRate, expected);
+    }
+    for (const int expected : {75, 60, 0, 144}) {
+        Adjust(RateRow, -1);
+        EXPECT_EQ(State.RefreshRate, expected);
+    }
+    EXPECT_EQ(State.ResolutionIndex, 3);
+}
+
+TEST_F(GraphicsPage, StepsFromAutoWhereTheRateIsNotListed) {
+    State.RefreshRate = 50;
+    Adjust(RateRow, 1);
+    EXPECT_EQ(State.RefreshRate, 60);
+    State.RefreshRate = 50;
+    Adjust(RateRow, -1);
+    EXPECT_EQ(State.RefreshRate, 144);
+}
+
+TEST_F(GraphicsPage, HasNoRateWithoutAList) {
+    for (const std::int32_t direction : {1, -1}) {
+        State.RefreshRates.clear();
+        State.RefreshRate = 75;
+        Adjust(RateRow, direction);
+        EXPECT_EQ(State.RefreshRate, 0);
+    }
+}
+
+TEST_F(GraphicsPage, InAWindowThereIsNoRateToChoose) {
+    for (const std::int32_t direction : {1, -1}) {
+        Adjust(ModeRow, direction);
+        EXPECT_FALSE(State.Fullscreen);
+        EXPECT_EQ(State.RefreshRates, (std::vector<std::int32_t>{0}));
+        EXPECT_EQ(State.RefreshRate, 0);
+        Adjust(RateRow, direction);
+        EXPECT_EQ(State.RefreshRate, 0);
+        Adjust(ModeRow, direction);
+        EXPECT_TRUE(State.Fullscreen);
+        EXPECT_EQ(State.RefreshRates, (std::vector<std::int32_t>{0, 60, 75, 144}));
+    }
+}
+
+TEST_F(GraphicsPage, TheDisplayModeRebuildsTheListsFromTheDisplay) {
+    Displays.List.front().Modes = {Mode(1920, 1080, 50.0F)};
+    Adjust(ModeRow, 1);
+    EXPECT_EQ(State.Resolutions, (std::vector<Resolution>{{1920, 1080}}));
+    Adjust(ModeRow, 1);
+    EXPECT_EQ(State.RefreshRates, (std::vector<std::int32_t>{0, 50}));
+}
+
+TEST_F(GraphicsPage, VerticalSyncFlipsAlone) {
+    for (const bool expected : {true, false, true}) {
+        GameState flipped = State;
+        flipped.VSync = expected;
+        flipped.GraphicsSelection = VSyncRow;
+        Adjust(VSyncRow, expected ? 1 : -1);
+        EXPECT_EQ(RecordOf(State), RecordOf(flipped));
+    }
+}
+
+TEST_F(GraphicsPage, TheOtherRowsAreNotAdjusted) {
+    for (std::int32_t row = DefaultsRow; row <= BackRow; ++row) {
+        for (const std::int32_t direction : {1, -1}) {
+            State.GraphicsSelection = row;
+            const GraphicsRecord before = RecordOf(State);
+            Adjust(row, direction);
+            EXPECT_EQ(RecordOf(State), before) << row;
+        }
+    }
+}
+
+TEST_F(GraphicsPage, UpGoesThroughTheNineRowsAndWraps) {
+    constexpr std::array next{8, 0, 1, 2, 3, 4, 5, 6, 7};
+    for (std::size_t row = 0; row < next.size(); ++row) {
+        ExpectKeys(static_cast<std::int32_t>(row), UpKeys, [&](GameState &Expected) {
+            Expected.GraphicsSelection = next.at(row);
+        });
+    }
+}
+
+TEST_F(GraphicsPage, DownGoesThroughTheNineRowsAndWraps) {
+    constexpr std::array next{1, 2, 3, 4, 5, 6, 7, 8, 0};
+    for (std::size_t row = 0; row < next.size(); ++row) {
+        ExpectKeys(static_cast<std::int32_t>(row), DownKeys, [&](GameState &Expected) {
+            Expected.GraphicsSelection = next.at(row);
+        });
+    }
+}
+
+TEST_F(GraphicsPage, LeftAndRightChangeTheFiveOptions) {
+    ExpectKeys(ResolutionRow, RightKeys, [](GameState &Expected) {
+        Expected.ResolutionIndex = 4;
+        Expected.RefreshRate = 0;
+        Expected.RefreshRates = {0, 60};
+    });
+    ExpectKeys(ResolutionRow, LeftKeys, [](GameState &Expected) {
+        Expected.ResolutionIndex = 2;
+        Expected.RefreshRate = 0;
+        Expected.RefreshRates = {0, 60, 144};
+    });
+    const Change toClassic = [](GameState &Expected) {
+        Expected.AspectMode = AspectClassic4x3;
+        Expected.Resolutions = ClassicSizes;
+        Expected.ResolutionIndex = 2;
+        Expected.RefreshRate = 0;
+        Expected.RefreshRates = {0, 60, 85};
+    };
+    ExpectKeys(AspectRow, RightKeys, toClassic);
+    ExpectKeys(AspectRow, LeftKeys, toClassic);
+    ExpectKeys(RateRow, RightKeys, [](GameState &Expected) {
+        Expected.RefreshRate = 144;
+    });
+    ExpectKeys(RateRow, LeftKeys, [](GameState &Expected) {
+        Expected.RefreshRate = 60;
+    });
+    const Change toWindowed = [](GameState &Expected) {
+        Expected.Fullscreen = false;
+        Expected.RefreshRate = 0;
+        Expected.RefreshRates = {0};
+    };
+    ExpectKeys(ModeRow, RightKeys, toWindowed);
+    ExpectKeys(ModeRow, LeftKeys, toWindowed);
+    const Change toSynced = [](GameState &Expected) {
+        Expected.VSync = true;
+    };
+    ExpectKeys(VSyncRow, RightKeys, toSynced);
+    ExpectKeys(VSyncRow, LeftKeys, toSynced);
+}
+
+TEST_F(GraphicsPage, LeftAndRightDoNothingOnTheOtherRows) {
+    for (std::int32_t row = DefaultsRow; row <= BackRow; ++row) {
+        ExpectKeys(row, LeftKeys, Nothing);
+        ExpectKeys(row, RightKeys, Nothing);
+    }
+}
+
+TEST_F(GraphicsPage, ActivatingResolutionAspectModeOrRateDoesNothing) {
+    for (const std::int32_t row : {ResolutionRow, AspectRow, RateRow}) {
+        ExpectKeys(row, ActivateKeys, Nothing);
+    }
+}
+
+TEST_F(GraphicsPage, ActivatingASwitchTogglesIt) {
+    ExpectKeys(ModeRow, ActivateKeys, [](GameState &Expected) {
+        Expected.Fullscreen = false;
+        Expected.RefreshRate = 0;
+        Expected.RefreshRates = {0};
+    });
+    ExpectKeys(VSyncRow, ActivateKeys, [](GameState &Expected) {
+        Expected.VSync = true;
+    });
+}
+
+TEST_F(GraphicsPage, NoOtherKeyDoesAnything) {
+    constexpr std::array keys{82, 26, 81, 22, 80, 4, 79, 7, 40, 44, 88, 41};
+    std::vector<std::int32_t> others;
+    for (std::int32_t key = 1; key < 512; ++key) {
+        if (std::ranges::find(keys, key) == keys.end()) {
+            others.push_back(key);
+        }
+    }
+    ASSERT_EQ(others.size(), 499U);
+    for (std::int32_t row = 0; row < 9; ++row) {
+        ExpectKeys(row, others, Nothing);
+    }
+}
+
+TEST_F(GraphicsPage, BeginsItsEditWithAKeyIfItIsNotInOne) {
+    State.GraphicsSnapshotValid = false;
+    State.GraphicsSnapshot = {};
+    PressOn(VSyncRow, EnterKey);
+    EXPECT_TRUE(State.GraphicsSnapshotValid);
+    EXPECT_EQ(State.GraphicsSnapshot.Width, 1920);
+    EXPECT_FALSE(State.GraphicsSnapshot.VSync); // taken before the key acts
+    EXPECT_TRUE(State.VSync);
+}
+
+TEST_F(GraphicsPage, DefaultSettingsChangeTheOptionsButNotTheWindow) {
+    const Change toDefaults = [](GameState &Expected) {
+        Expected.AspectMode = AspectWidescreen;
+        Expected.Resolutions = WideSizes;
+        Expected.ResolutionIndex = 2; // 1280x720
+        Expected.RefreshRate = 0;
+        Expected.RefreshRates = {0, 60, 144};
+        Expected.Fullscreen = true;
+        Expected.VSync = true;
+    };
+    ExpectKeys(DefaultsRow, ActivateKeys, toDefaults);
+    Adjust(ModeRow, 1);
+    ExpectKeys(DefaultsRow, ActivateKeys, toDefaults);
+}
+
+TEST_F(GraphicsPage, DefaultSettingsTakeTheFourthRowWhereTheirSizeIsNotOffered) {
+    Displays.List.front().Modes = {Mode(640, 360, 60.0F), Mode(800, 450, 60.0F), Mode(1600, 900, 60.0F),
+        Mode(1920, 1080, 60.0F), Mode(2560, 1440, 60.0F)};
+    BeginGraphicsEdit(State, Window);
+    PressOn(DefaultsRow, EnterKey);
+    EXPECT_EQ(CurrentResolution(State), (Resolution{1920, 1080}));
+}
+
+TEST_F(GraphicsPage, DefaultSettingsLookTheirSizeUpInTheOldList) {
+    // Out of the three sizes of 4:3 the last one is chosen; as widescreen has none like it, it falls back to
+    // the fourth of its own, which is not 1280x720.
+    Adjust(AspectRow, 1);
+    PressOn(DefaultsRow, EnterKey);
+    EXPECT_EQ(State.AspectMode, AspectWidescreen);
+    EXPECT_EQ(State.Resolutions, WideSizes);
+    EXPECT_EQ(State.ResolutionIndex, 3);
+    EXPECT_EQ(CurrentResolution(State), (Resolution{1920, 1080}));
+}
+
+TEST_F(GraphicsPage, DefaultSettingsFromTheBuiltIn4x3TableAre1280x720) {
+    Displays.List.front().Modes.clear();
+    State.AspectMode = AspectClassic4x3;
+    BeginGraphicsEdit(State, Window);
+    ASSERT_EQ(State.Resolutions.size(), 7U);
+    PressOn(DefaultsRow, EnterKey);
+    EXPECT_EQ(State.Resolutions.size(), 21U);
+    EXPECT_EQ(CurrentResolution(State), (Resolution{1280, 720}));
+}
+
+TEST_F(GraphicsPage, DefaultSettingsThenBackRestoreTheSnapshot) {
+    const GraphicsRecord before = RecordOf(State);
+    const SdlWatch watch;
+    PressOn(DefaultsRow, EnterKey);
+    ASSERT_TRUE(GraphicsEditDirty(State));
+    PressOn(BackRow, EnterKey);
+    ExpectWindowUntouched(watch);
+    GraphicsRecord expected = before;
+    expected.Selection = BackRow;
+    expected.Page = OptionsPageMain;
+    expected.SnapshotValid = false;
+    EXPECT_EQ(RecordOf(State), expected);
+}
+
+TEST_F(GraphicsPage, ApplyBringsTheWindowInLineAndMarksTheOptions) {
+    for (const std::int32_t key : ActivateKeys) {
+        State.OptionsDirty = false;
+        State.ResetFrameClock = false;
+        Adjust(ModeRow, 1);
+        const bool fullscreen = State.Fullscreen;
+        const SdlWatch watch;
+        PressOn(ApplyRow, key);
+        EXPECT_EQ(IsFullscreen(), fullscreen) << key;
+        EXPECT_EQ(watch.Count("SDL_SetRenderLogicalPresentation"), 1) << key;
+        EXPECT_TRUE(State.OptionsDirty) << key;
+        EXPECT_TRUE(State.ResetFrameClock) << key;
+        EXPECT_EQ(State.GraphicsSnapshot.Fullscreen, fullscreen) << key; // the new snapshot
+        EXPECT_TRUE(State.GraphicsSnapshotValid) << key;
+        EXPECT_FALSE(GraphicsEditDirty(State)) << key;
+        EXPECT_EQ(State.OptionsPage, OptionsPageGraphics) << key;
+    }
+}
+
+TEST_F(GraphicsPage, ApplyShapesTheLogicalScreen) {
+    Adjust(AspectRow, 1);
+    ASSERT_EQ(LogicalWidth, 1280);
+    PressOn(ApplyRow, EnterKey);
+    EXPECT_EQ(LogicalWidth, 960);
+    EXPECT_EQ(State.GraphicsSnapshot.Width, 1600);
+    EXPECT_EQ(State.GraphicsSnapshot.Height, 1200);
+    EXPECT_EQ(State.GraphicsSnapshot.AspectMode, AspectClassic4x3);
+}
+
+TEST_F(GraphicsPage, ApplyOfARateAloneMarksTheOptions) {
+    Adjust(RateRow, 1);
+    PressOn(ApplyRow, EnterKey);
+    EXPECT_TRUE(State.OptionsDirty);
+    EXPECT_EQ(State.RefreshRate, 144);
+    EXPECT_EQ(State.GraphicsSnapshot.RefreshRate, 144);
+}
+
+TEST_F(GraphicsPage, ApplyWithNothingChangedLeavesWindowAndMarkAlone) {
+    ExpectKeys(ApplyRow, ActivateKeys, Nothing);
+    State.OptionsDirty = true; // a write that failed stays due
+    ExpectKeys(ApplyRow, ActivateKeys, Nothing);
+}
+
+TEST_F(GraphicsPage, ApplyWithFailingStepsMarksTheOptionsAllTheSame) {
+    Adjust(ModeRow, 1);
+    SdlWatch watch;
+    watch.Refuse("SDL_SetWindowSize");
+    const LogCatcher log;
+    PressOn(ApplyRow, EnterKey);
+    EXPECT_EQ(
+        log.Lines, (std::vector<std::string>{"SDL_SetWindowSize(1920, 1080) failed: refused for the test"}));
+    EXPECT_FALSE(State.Fullscreen);
+    EXPECT_TRUE(State.OptionsDirty);
+}
+
+TEST_F(GraphicsPage, RevertBringsTheSnapshotBackAndStaysInEdit) {
+    const GraphicsRecord before = RecordOf(State);
+    for (const std::int32_t key : ActivateKeys) {
+        ChangeEverything();
+        PressOn(RevertRow, key);
+        GraphicsRecord expected = before;
+        expected.Selection = RevertRow;
+        EXPECT_EQ(RecordOf(State), expected) << key;
+    }
+}
+
+TEST_F(GraphicsPage, BackAndEscapeRestoreTheListOfTheOldAspect) {
+    const GraphicsRecord before = RecordOf(State);
+    for (const std::int32_t key : {40, 44, 88, EscapeKey}) {
+        State.OptionsPage = OptionsPageGraphics;
+        BeginGraphicsEdit(State, Window);
+        Adjust(AspectRow, 1);
+        ASSERT_EQ(State.Resolutions, ClassicSizes);
+        PressOn(BackRow, key);
+        GraphicsRecord expected = before;
+        expected.Selection = BackRow;
+        expected.Page = OptionsPageMain;
+        expected.SnapshotValid = false;
+        EXPECT_EQ(RecordOf(State), expected) << key;
+    }
+}
+
+TEST_F(GraphicsPage, EscapeLeavesFromEveryRow) {
+    for (std::int32_t row = 0; row < 9; ++row) {
+        ExpectKeys(row, std::array{EscapeKey}, [](GameState &Expected) {
+            Expected.OptionsPage = OptionsPageMain;
+            Expected.GraphicsSnapshotValid = false;
+        });
+    }
+}
+
+TEST_F(GraphicsPage, WorksWithoutAWindow) {
+    ChangeEverything();
+    State.GraphicsSelection = ApplyRow;
+    const SdlWatch watch;
+    HandleGraphicsPageKey(State, nullptr, nullptr, EnterKey);
+    ExpectWindowUntouched(watch);
+    EXPECT_TRUE(State.OptionsDirty);
+    EXPECT_FALSE(GraphicsEditDirty(State));
+}
+
+} // namespace
