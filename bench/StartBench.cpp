@@ -3,16 +3,18 @@
 #include "app/ShutDown.hpp"
 #include "app/StartUp.hpp"
 #include "bench/DrawCalls.hpp"
+#include "bench/PrivateHome.hpp"
 #include "tools/desktop/VirtualDisplay.hpp"
 
+#include <SDL3_mixer/SDL_mixer.h>
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
 #include <memory>
 #include <optional>
 
-// From nothing to the first frame on screen, beside a program that opens the same window and shows it black.
-// Both open a real window: on a machine without a display, on a virtual one.
+// From nothing to the first frame on screen, beside a program that opens the same window and mixer and shows
+// black. Both open a real window: on a machine without a display, on a virtual one.
 
 namespace {
 
@@ -45,6 +47,7 @@ double SecondsSince(Uint64 Start) {
 
 void StartGame(benchmark::State &Bench) {
     const Desktop desktop;
+    const PrivateHome home;
     const auto program = std::make_unique<Program>();
     for (auto iteration : Bench) {
         const Uint64 start = SDL_GetPerformanceCounter();
@@ -54,12 +57,14 @@ void StartGame(benchmark::State &Bench) {
         }
         RunFrame(*program);
         Bench.SetIterationTime(SecondsSince(start));
+        program->Music.FadeOutMs = 0; // nobody listens
         ShutDown(*program);
     }
 }
 
 void StartBareProgram(benchmark::State &Bench) {
     const Desktop desktop;
+    const PrivateHome home;
     for (auto iteration : Bench) {
         const Uint64 start = SDL_GetPerformanceCounter();
         SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD);
@@ -71,12 +76,16 @@ void StartBareProgram(benchmark::State &Bench) {
         SDL_Window *window = SDL_CreateWindow("Bare", mode->w, mode->h, SDL_WINDOW_FULLSCREEN);
         SDL_Renderer *renderer = SDL_CreateRenderer(window, nullptr);
         SDL_HideCursor();
+        MIX_Init();
+        MIX_Mixer *mixer = MIX_CreateMixerDevice(SDL_AUDIO_DEVICE_DEFAULT_PLAYBACK, nullptr);
         SDL_Event event;
         while (SDL_PollEvent(&event)) {
         }
         SDL_RenderClear(renderer);
         SDL_RenderPresent(renderer);
         Bench.SetIterationTime(SecondsSince(start));
+        MIX_DestroyMixer(mixer);
+        MIX_Quit();
         SDL_DestroyRenderer(renderer);
         SDL_DestroyWindow(window);
         SDL_Quit();

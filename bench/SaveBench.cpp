@@ -1,0 +1,49 @@
+#include "bench/BusyRoad.hpp"
+#include "bench/PrivateHome.hpp"
+#include "state/GameState.hpp"
+#include "store/SaveState.hpp"
+
+#include <SDL3/SDL.h>
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+// Saving a run on a full road, which happens inside a frame, beside one call that writes the same bytes.
+
+namespace {
+
+std::string SavePath(const PrivateHome &Home) {
+    return (Home.Folder.Path() / "Orrin" / "KestrelVolley" / SaveStateFileName).string();
+}
+
+void SaveBusyRun(benchmark::State &Bench) {
+    const PrivateHome home;
+    const GameState state = BusyRoad();
+    for (auto iteration : Bench) {
+        if (!WriteSaveState(state)) {
+            Bench.SkipWithError("the save state was not written");
+            return;
+        }
+    }
+}
+
+void WriteSameBytes(benchmark::State &Bench) {
+    const PrivateHome home;
+    WriteSaveState(BusyRoad());
+    std::size_t size = 0;
+    void *const bytes = SDL_LoadFile(SavePath(home).c_str(), &size);
+    if (bytes == nullptr) {
+        Bench.SkipWithError("the save state was not written");
+        return;
+    }
+    for (auto iteration : Bench) {
+        SDL_SaveFile(SavePath(home).c_str(), bytes, size);
+    }
+    Bench.counters["bytes"] = static_cast<double>(size);
+    SDL_free(bytes);
+}
+
+BENCHMARK(SaveBusyRun)->Unit(benchmark::kMicrosecond);
+BENCHMARK(WriteSameBytes)->Unit(benchmark::kMicrosecond);
+
+} // namespace
