@@ -1,14 +1,16 @@
 # The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
 .POSIX:
-.PHONY: help run test bench asan music install clean format
+.PHONY: help run test bench asan fuzz music install clean format
 
 PREFIX = /usr/local
+FUZZ_SECONDS = 600
 
 help:
 	@echo 'make run      set up what is missing, build the game and play it (without a display: a short tour of it)'
 	@echo 'make test     set up what is missing and run all tests, plainly and under the sanitizers'
 	@echo 'make bench    measure drawing, the simulation step and the start-up'
 	@echo 'make asan     the tests under AddressSanitizer and UndefinedBehaviorSanitizer only'
+	@echo 'make fuzz     feed damaged files to each fuzz target for FUZZ_SECONDS ($(FUZZ_SECONDS))'
 	@echo 'make music    play the scores of tools/music into Music/ (the results are kept in the repository)'
 	@echo 'make install  install the game below PREFIX ($(PREFIX)); DESTDIR is honoured'
 	@echo 'make format   lay out the code as .clang-format has it'
@@ -34,18 +36,27 @@ test:
 	cmake --preset sanitizers
 	cmake --build --preset sanitizers
 	ctest --preset sanitizers
+	cmake --preset fuzz
+	cmake --build --preset fuzz
+	ctest --preset fuzz
 
 bench:
 	@scripts/setup test
 	cmake --preset release
 	cmake --build --preset release --target kestrel-bench
-	build/release/bench/kestrel-bench
+	build/release/kestrel-bench
 
 asan:
 	@scripts/setup test
 	cmake --preset sanitizers
 	cmake --build --preset sanitizers
 	ctest --preset sanitizers
+
+fuzz:
+	@scripts/setup test
+	cmake --preset fuzz
+	cmake --build --preset fuzz
+	fuzz/run long build/fuzz/fuzz '$(FUZZ_SECONDS)'
 
 music:
 	@scripts/setup music
