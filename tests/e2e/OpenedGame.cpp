@@ -1,7 +1,9 @@
 #include "tests/e2e/OpenedGame.hpp"
 
+#include <csignal>
 #include <stdexcept>
 #include <string>
+#include <thread>
 
 namespace {
 
@@ -15,19 +17,32 @@ Environment Adapted(Environment Settings) {
     return Settings;
 }
 
+bool FirstMenuRow(const Picture &Seen) {
+    return FiveRowMenu(0)(Seen) || SixRowMenu(0)(Seen);
+}
+
 } // namespace
 
 const char *GameProgram() {
     return GAME_PROGRAM;
 }
 
-OpenedGame::OpenedGame(ScreenSize Screen, const Environment &Settings)
-    : Session(GameProgram(), Screen, Adapted(Settings)) {
+OpenedGame::OpenedGame(ScreenSize Screen, const Environment &Settings, const PreparedHome *Prepared)
+    : Session(GameProgram(), Screen, Adapted(Settings), Prepared) {
+    WaitForMenu(Prepared == nullptr ? FiveRowMenu(0) : Sight(FirstMenuRow));
+}
+
+OpenedGame::OpenedGame(const PreparedHome &Prepared, const Sight &Shows, ScreenSize Screen, Desk Kind)
+    : Session(GameProgram(), Screen, Adapted({}), &Prepared, Kind) {
+    WaitForMenu(Shows);
+}
+
+void OpenedGame::WaitForMenu(const Sight &Shows) {
     const std::optional<DesktopWindow> window = Session.WaitForWindow();
     if (!window) {
         throw std::runtime_error("The game showed no window. It says:\n" + Program().Output());
     }
-    if (!WaitForPicture(FiveRowMenu(0))) {
+    if (!WaitForPicture(Shows)) {
         throw std::runtime_error("The main menu does not come. The game says:\n" + Program().Output());
     }
     // Read anew: the first frame may have given the window another size.
@@ -56,6 +71,18 @@ std::optional<Picture> OpenedGame::WaitForPicture(const Sight &Shows, std::chron
 
 std::optional<Picture> OpenedGame::Tap(Key Tapped, const Sight &Shows) {
     return Session.Tap(Tapped, Shows);
+}
+
+// All of it waits in the stopped game's connection and is read at once when the game goes on.
+void OpenedGame::TapInOneFrame(const std::vector<Key> &Tapped) {
+    constexpr std::chrono::milliseconds held{1};
+    constexpr std::chrono::milliseconds arrival{200};
+    Program().Send(SIGSTOP);
+    for (const Key key : Tapped) {
+        Person().TapKey(key, held);
+    }
+    std::this_thread::sleep_for(arrival);
+    Program().Send(SIGCONT);
 }
 
 // The press waits in the game's queue of events until a frame takes it, so it is not lost however short it

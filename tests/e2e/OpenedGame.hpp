@@ -7,13 +7,19 @@
 #include <chrono>
 #include <gtest/gtest.h>
 #include <optional>
+#include <vector>
 
-// The real program in a real window, on its main menu as a person finds it the first time: without a run.
+// The real program in a real window, on its main menu as a person finds it the first time: without a run,
+// unless a prepared home holds one.
 class OpenedGame {
 public:
     // Starts the program and waits for the main menu. Throws std::runtime_error, with what the program wrote,
     // if that does not come.
-    explicit OpenedGame(ScreenSize Screen = {}, const Environment &Settings = {});
+    explicit OpenedGame(
+        ScreenSize Screen = {}, const Environment &Settings = {}, const PreparedHome *Prepared = nullptr);
+    // The same with a main menu that looks otherwise: the first picture is one that satisfies Shows.
+    OpenedGame(
+        const PreparedHome &Prepared, const Sight &Shows, ScreenSize Screen = {}, Desk Kind = Desk::Bare);
 
     const DesktopWindow &Window() const;
     XClient &Person();
@@ -25,6 +31,8 @@ public:
     std::optional<Picture> WaitForPicture(
         const Sight &Shows, std::chrono::milliseconds Deadline = PatientDeadline);
     std::optional<Picture> Tap(Key Tapped, const Sight &Shows);
+    // Taps the keys so fast that one frame of the game takes them all.
+    void TapInOneFrame(const std::vector<Key> &Tapped);
 
     // Taps a key that should do nothing: whether all pictures of the next half second satisfy Shows still.
     testing::AssertionResult Ignores(Key Tapped, const Sight &Shows);
@@ -32,6 +40,8 @@ public:
     testing::AssertionResult KeepsFor(std::chrono::milliseconds Time, const Sight &Shows);
 
 private:
+    void WaitForMenu(const Sight &Shows);
+
     GameSession Session;
     DesktopWindow Opened;
 };

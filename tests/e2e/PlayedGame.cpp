@@ -8,7 +8,8 @@ Sight CarInLane(int Lane) {
     };
 }
 
-PlayedGame::PlayedGame(ScreenSize Screen, const Environment &Settings) : OpenedGame(Screen, Settings) {
+PlayedGame::PlayedGame(ScreenSize Screen, const Environment &Settings, const PreparedHome *Prepared)
+    : OpenedGame(Screen, Settings, Prepared) {
     if (!StartNewRun()) {
         throw std::runtime_error("No car stands in the middle lane. The game says:\n" + Program().Output());
     }

@@ -6,9 +6,10 @@
 // The same with a run on the screen that a person can play.
 class PlayedGame : public OpenedGame {
 public:
-    // Starts the program and a new run, and waits until its car stands on the road. Throws
-    // std::runtime_error, with what the program wrote, if that does not come.
-    explicit PlayedGame(ScreenSize Screen = {}, const Environment &Settings = {});
+    // Starts the program and a new run, which a prepared home may not hold already, and waits until its car
+    // stands on the road. Throws std::runtime_error, with what the program wrote, if that does not come.
+    explicit PlayedGame(
+        ScreenSize Screen = {}, const Environment &Settings = {}, const PreparedHome *Prepared = nullptr);
 
     // Starts a new run from its row of the main menu, which is selected. False if its car does not come.
     bool StartNewRun();

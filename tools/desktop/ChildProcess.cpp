@@ -134,6 +134,7 @@ ChildProcess::~ChildProcess() {
         return;
     }
     kill(Id, SIGTERM);
+    kill(Id, SIGCONT); // one that was stopped would not hear of it
     if (!WaitForExit(std::chrono::seconds(5))) {
         kill(Id, SIGKILL);
         waitpid(Id, nullptr, 0);
@@ -150,6 +151,16 @@ bool ChildProcess::IsRunning() {
     }
     Result = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
     return false;
+}
+
+void ChildProcess::Send(int Signal) {
+    if (IsRunning()) {
+        kill(Id, Signal);
+    }
+}
+
+pid_t ChildProcess::ProcessId() const {
+    return Id;
 }
 
 std::optional<int> ChildProcess::WaitForExit(std::chrono::milliseconds Deadline) {

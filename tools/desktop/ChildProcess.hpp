@@ -29,6 +29,10 @@ public:
     ChildProcess &operator=(const ChildProcess &) = delete;
 
     bool IsRunning();
+    // Sends the program, if it runs, a signal such as SIGSTOP.
+    void Send(int Signal);
+    // Its id, by which the system knows it.
+    pid_t ProcessId() const;
     // The program's result, or 128 plus the signal that ended it; nothing if it still runs at the deadline.
     std::optional<int> WaitForExit(std::chrono::milliseconds Deadline);
     // Everything that the program has written so far to standard output and standard error, in order.

@@ -18,7 +18,7 @@ Environment PrivateEnvironment(const std::filesystem::path &Home, const std::str
     Environment variables = InheritedEnvironment(NeededNames);
     variables["HOME"] = Home.string();
     for (const auto &[name, folder] : std::initializer_list<std::pair<const char *, const char *>>{
-             {"XDG_CONFIG_HOME", ".config"}, {"XDG_DATA_HOME", ".local-share"}, {"XDG_CACHE_HOME", ".cache"},
+             {"XDG_CONFIG_HOME", ".config"}, {"XDG_DATA_HOME", DataFolder}, {"XDG_CACHE_HOME", ".cache"},
              {"XDG_STATE_HOME", ".local-state"}, {"XDG_RUNTIME_DIR", ".run"}}) {
         const std::filesystem::path path = Home / folder;
         std::filesystem::create_directories(path);
@@ -44,9 +44,13 @@ Environment Joined(Environment Base, const Environment &Settings) {
 
 } // namespace
 
-GameSession::GameSession(const std::filesystem::path &Program, ScreenSize Screen, const Environment &Settings)
-    : Display(Screen), Client(Display.Name()),
-      Game(Program, {}, Joined(PrivateEnvironment(HomeFolder.Path(), Display.Name()), Settings)) {}
+GameSession::GameSession(const std::filesystem::path &Program, ScreenSize Screen, const Environment &Settings,
+    const PreparedHome *Prepared, Desk Kind)
+    : OwnHome(Prepared == nullptr ? std::make_unique<const PreparedHome>() : nullptr),
+      UsedHome(Prepared == nullptr ? *OwnHome : *Prepared), Display(Screen), Client(Display.Name()),
+      Manager(Kind == Desk::Managed ? std::make_unique<WindowManager>(Display.Name(), UsedHome.Path(), Client)
+                                    : nullptr),
+      Game(Program, {}, Joined(PrivateEnvironment(UsedHome.Path(), Display.Name()), Settings)) {}
 
 std::optional<DesktopWindow> GameSession::WaitForWindow() {
     std::optional<DesktopWindow> window;
@@ -96,5 +100,5 @@ ChildProcess &GameSession::Program() {
 }
 
 const std::filesystem::path &GameSession::Home() const {
-    return HomeFolder.Path();
+    return UsedHome.Path();
 }

@@ -1,26 +1,32 @@
 #pragma once
 
 #include "tools/desktop/ChildProcess.hpp"
-#include "tools/desktop/TemporaryFolder.hpp"
+#include "tools/desktop/PreparedHome.hpp"
 #include "tools/desktop/VirtualDisplay.hpp"
+#include "tools/desktop/WindowManager.hpp"
 #include "tools/desktop/XClient.hpp"
 
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 
 // What a picture is asked for.
 using Sight = std::function<bool(const Picture &)>;
 
+// Whether a window manager looks after the display. Without one a window stays as large as it was opened.
+enum class Desk { Bare, Managed };
+
 // The real game on a display of its own, with a home folder of its own: it finds no options, no saved run and
 // no controller of the person whose machine this is, and makes no sound.
 class GameSession {
 public:
-    // Starts the program. Settings are environment variables that come on top or replace ours. Throws
-    // std::runtime_error if the display or the program cannot be started.
-    GameSession(
-        const std::filesystem::path &Program, ScreenSize Screen = {}, const Environment &Settings = {});
+    // Starts the program. Settings are environment variables that come on top or replace ours. Prepared is
+    // the home folder, which must outlive this record; without one it is a new, empty one. Throws
+    // std::runtime_error if the display, its window manager or the program cannot be started.
+    GameSession(const std::filesystem::path &Program, ScreenSize Screen = {},
+        const Environment &Settings = {}, const PreparedHome *Prepared = nullptr, Desk Kind = Desk::Bare);
 
     // Waits until the game shows its window, and gives it the keyboard. Nothing if it shows none in time, or
     // ends before.
@@ -43,8 +49,10 @@ public:
 
 private:
     // In this order, so that the game ends before the display does, and the folder goes last.
-    TemporaryFolder HomeFolder;
+    std::unique_ptr<const PreparedHome> OwnHome;
+    const PreparedHome &UsedHome;
     VirtualDisplay Display;
     XClient Client;
+    std::unique_ptr<WindowManager> Manager;
     ChildProcess Game;
 };

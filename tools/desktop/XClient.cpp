@@ -211,6 +211,20 @@ void XClient::TapKey(Key Tapped, std::chrono::milliseconds Held) {
     XSync(Server->Server, False);
 }
 
+bool XClient::HasWindowManager() {
+    Display *server = Server->Server;
+    Atom type = None;
+    int format = 0;
+    unsigned long length = 0;
+    unsigned long rest = 0;
+    unsigned char *data = nullptr;
+    XGetWindowProperty(server, XDefaultRootWindow(server),
+        XInternAtom(server, "_NET_SUPPORTING_WM_CHECK", False), 0, 1, False, XA_WINDOW, &type, &format,
+        &length, &rest, &data);
+    const std::unique_ptr<unsigned char, FreeByX> owned(data);
+    return length > 0;
+}
+
 bool XClient::KeysRepeat() {
     XKeyboardState keyboard{};
     XGetKeyboardControl(Server->Server, &keyboard);

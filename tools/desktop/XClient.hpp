@@ -41,6 +41,9 @@ public:
     // Presses the key and has the X server release it Held later, however late we run ourselves.
     void TapKey(Key Tapped, std::chrono::milliseconds Held);
 
+    // Whether a window manager looks after this display.
+    bool HasWindowManager();
+
     // Whether the keyboard sends a key that is held again and again.
     bool KeysRepeat();
 

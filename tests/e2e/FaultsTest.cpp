@@ -1,0 +1,107 @@
+#include "tests/e2e/PageSight.hpp"
+#include "tests/e2e/PlayedGame.hpp"
+#include "tests/e2e/StoredFiles.hpp"
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <thread>
+
+// Writes that cannot succeed: the game says so, tries again and plays on.
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr const char *SaveFailed = "Failed to write save state: SaveState.bin";
+constexpr const char *OptionsFailed = "Failed to write options config: Config.ini";
+constexpr const char *FirstOptionsFailed = "Failed to create default options config: Config.ini";
+
+int CountLines(OpenedGame &Game, const std::string &Line) {
+    const std::string output = Game.Program().Output();
+    int count = 0;
+    for (std::size_t at = output.find(Line); at != std::string::npos; at = output.find(Line, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+// How many more such lines the game writes in that time.
+int LinesIn(OpenedGame &Game, const std::string &Line, milliseconds Time) {
+    const int before = CountLines(Game, Line);
+    std::this_thread::sleep_for(Time);
+    return CountLines(Game, Line) - before;
+}
+
+// A folder that stands where a file is wanted, so that no file can be written there.
+void Obstruct(const PreparedHome &Home, const std::string &Name) {
+    std::filesystem::create_directories(StoredPath(Home, Name));
+}
+
+} // namespace
+
+// Once a second on the menu, and 0.8 seconds after the last try in play. A slow machine writes fewer lines.
+TEST(Faults, ASaveThatFailsIsTriedAgainOnceASecond) {
+    const PreparedHome home;
+    Obstruct(home, SaveFile);
+    OpenedGame game({}, {}, &home);
+    const int onMenu = LinesIn(game, SaveFailed, milliseconds{4500});
+    EXPECT_GE(onMenu, 2);
+    EXPECT_LE(onMenu, 5);
+    ASSERT_TRUE(game.Tap(Key::Return, CarInLane(4)));
+    const int inPlay = LinesIn(game, SaveFailed, milliseconds{4000});
+    EXPECT_GE(inPlay, 2);
+    EXPECT_LE(inPlay, 6);
+    EXPECT_TRUE(game.Tap(Key::Left, CarInLane(3)));
+    EXPECT_TRUE(game.Tap(Key::Right, CarInLane(4)));
+
+    std::filesystem::remove(StoredPath(home, SaveFile));
+    ASSERT_TRUE(WaitUntil([&home] {
+        return StoresRun(home) == true;
+    })) << "it has stopped trying";
+    EXPECT_EQ(LinesIn(game, SaveFailed, milliseconds{2000}), 0);
+    EXPECT_EQ(game.Close(), std::optional(0));
+}
+
+TEST(Faults, OptionsThatCannotBeWrittenAreTriedInEveryFrame) {
+    enum AudioRow { Master, Apply = 7 };
+    const PreparedHome home;
+    Obstruct(home, OptionsFile);
+    OpenedGame game({}, {}, &home);
+    EXPECT_EQ(CountLines(game, FirstOptionsFailed), 1);
+    EXPECT_EQ(LinesIn(game, OptionsFailed, milliseconds{500}), 0) << "nothing has changed yet";
+    ASSERT_NO_FATAL_FAILURE(OpenPageFromMainMenu(game, Page::Audio));
+    ASSERT_TRUE(game.Tap(Key::Left, RowShows(Master, "95%")));
+    ASSERT_NO_FATAL_FAILURE(ActivateRow(game, Page::Audio, Apply, PageIs(Page::Audio, Apply)));
+    // At 15 frames a second, the least that any machine of today gives.
+    EXPECT_GE(LinesIn(game, OptionsFailed, milliseconds{2000}), 30);
+    EXPECT_TRUE(RowShows(Master, "95%")(game.Person().Screenshot()));
+    ASSERT_TRUE(game.Tap(Key::Escape, OptionsMenu(2)));
+    ASSERT_TRUE(game.Tap(Key::Escape, FiveRowMenu(1)));
+    ASSERT_TRUE(game.Tap(Key::Up, FiveRowMenu(0)));
+    ASSERT_TRUE(game.Tap(Key::Return, CarInLane(4)));
+    EXPECT_TRUE(game.Tap(Key::Left, CarInLane(3)));
+
+    std::filesystem::remove(StoredPath(home, OptionsFile));
+    ASSERT_TRUE(WaitUntil([&home] {
+        return StoredOption(home, "Audio", "MasterVolume") == "95";
+    })) << "it has stopped trying";
+    EXPECT_EQ(LinesIn(game, OptionsFailed, milliseconds{500}), 0);
+    EXPECT_EQ(game.Close(), std::optional(0));
+}
+
+// Where the game's folder should be there is a file: nothing can be read, staged or written.
+TEST(Faults, WithoutAFolderToWriteToTheGamePlaysAllTheSame) {
+    const PreparedHome home;
+    const std::filesystem::path folder = StoredPath(home, SaveFile).parent_path();
+    std::filesystem::create_directories(folder.parent_path());
+    std::ofstream(folder) << "in the way";
+    PlayedGame game({}, {}, &home);
+    EXPECT_EQ(CountLines(game, FirstOptionsFailed), 1);
+    EXPECT_TRUE(WaitUntil([&game] {
+        return CountLines(game, SaveFailed) >= 2;
+    }));
+    EXPECT_TRUE(game.Tap(Key::Left, CarInLane(3)));
+    EXPECT_EQ(game.Close(), std::optional(0));
+}

@@ -1,0 +1,231 @@
+#include "tests/e2e/PlayedGame.hpp"
+#include "tests/e2e/StoredFiles.hpp"
+#include "tests/e2e/TextSight.hpp"
+
+#include <array>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <random>
+#include <string>
+#include <thread>
+
+// What the game remembers from one start to the next.
+
+namespace {
+
+using std::chrono::milliseconds;
+
+enum Row { Resume, Options, Help, MainMenu };
+
+// A save is written 0.8 seconds of frames after it was asked for; a frame counts for 33 milliseconds at most,
+// so a slow machine takes longer.
+constexpr milliseconds UntilSaved{GAME_IS_SANITIZED != 0 ? 6000 : 2500};
+
+// The screen with nothing but the paused run on it, as it then lies in the file. The car is in lane 8, a bomb
+// is gone, shots are in the air and the score is above 0.
+std::optional<Picture> PauseARunWorthKeeping(PlayedGame &Game) {
+    constexpr std::chrono::minutes patience{2};
+    Game.Person().PressKey(Key::LeftControl);
+    const bool scored = Game.WaitForPicture(
+                                [](const Picture &Seen) {
+                                    return !ScoreIsZero(Seen);
+                                },
+                                patience)
+                            .has_value();
+    Game.Person().PressKey(Key::Right);
+    const bool moved = Game.WaitForPicture(CarInLane(8)).has_value();
+    Game.Person().ReleaseKey(Key::Right);
+    const bool thrown = Game.Tap(Key::X,
+                                [](const Picture &Seen) {
+                                    return BombsShown(Seen) == 2;
+                                })
+                            .has_value();
+    // Past the blast and the car's blinking.
+    const bool calm = Game.WaitForPicture([](const Picture &Seen) {
+                              return !SeesBlast(Seen) && CarInLane(8)(Seen) && !FindShots(Seen).empty();
+                          })
+                          .has_value();
+    const bool paused = Game.Tap(Key::Escape, PauseMenu(Resume)).has_value();
+    Game.Person().ReleaseKey(Key::LeftControl);
+    std::this_thread::sleep_for(UntilSaved);
+    return scored && moved && thrown && calm && paused ? Game.WaitForPicture(PauseMenu(Resume))
+                                                       : std::nullopt;
+}
+
+Sight HighScoreIs(std::int64_t Score) {
+    std::array<char, 32> digits{};
+    std::snprintf(digits.data(), digits.size(), "%08lld", static_cast<long long>(Score));
+    return [text = std::string(digits.data())](const Picture &Seen) {
+        constexpr int top = 190;
+        constexpr int scale = 3;
+        return ShowsText(Seen, text, top, scale, {{0xEB, 0xEB, 0xEB}});
+    };
+}
+
+} // namespace
+
+TEST(Memory, TheFirstStartLeavesBothFiles) {
+    const PreparedHome home;
+    OpenedGame game({960, 720}, {}, &home);
+    EXPECT_EQ(StoredOption(home, "Graphics", "AspectMode"), "classic4x3");
+    EXPECT_EQ(StoredOption(home, "Graphics", "ResolutionWidth"), "960");
+    EXPECT_EQ(StoredOption(home, "Graphics", "ResolutionHeight"), "720");
+    EXPECT_EQ(StoredOption(home, "Graphics", "Fullscreen"), "1");
+    EXPECT_EQ(StoredOption(home, "Options", "Language"), "en");
+    EXPECT_EQ(StoredOption(home, "Audio", "MusicVolume"), "50");
+    EXPECT_EQ(StoredHighScore(home), std::optional<std::int64_t>(0));
+    EXPECT_EQ(StoresRun(home), std::optional(false));
+    EXPECT_EQ(game.Close(), std::optional(0));
+    EXPECT_EQ(game.Program().Output(), "");
+}
+
+TEST(Memory, ContinueGameResumesTheRunAsItStoodToThePixel) {
+    const PreparedHome home;
+    std::optional<Picture> left;
+    {
+        PlayedGame game({}, {}, &home);
+        left = PauseARunWorthKeeping(game);
+        ASSERT_TRUE(left);
+        ASSERT_TRUE(game.Tap(Key::Up, PauseMenu(MainMenu)));
+        ASSERT_TRUE(game.Tap(Key::Return, SixRowMenu(0)));
+        ASSERT_TRUE(game.Tap(Key::Up, SixRowMenu(5)));
+        game.Person().PressKey(Key::Return); // QUIT
+        ASSERT_EQ(game.Program().WaitForExit(PatientDeadline), std::optional(0));
+    }
+    OpenedGame game({}, {}, &home);
+    ASSERT_TRUE(SixRowMenu(0)(game.Person().Screenshot()));
+    // The run is paused before a single step of it.
+    game.TapInOneFrame({Key::Return, Key::Escape});
+    const std::optional<Picture> continued = game.WaitForPicture(PauseMenu(Resume));
+    ASSERT_TRUE(continued);
+    EXPECT_TRUE(continued->Pixels == left->Pixels);
+    ASSERT_TRUE(game.Tap(Key::Escape, ScreenIs(SeenScreen::Playing)));
+    EXPECT_TRUE(game.Tap(Key::Left, CarInLane(7)));
+    EXPECT_EQ(game.Close(), std::optional(0));
+    EXPECT_EQ(game.Program().Output(), "");
+}
+
+// The first frame of a new run puts its save off by 0.8 seconds.
+TEST(Memory, ANewGameQuitAtOnceBringsTheOldRunBack) {
+    const PreparedHome home;
+    const std::string old = MadeSave({.HighScore = 7000, .Score = 6000, .Lane = 2});
+    home.Put(SaveFile, old);
+    {
+        OpenedGame game({}, {}, &home);
+        ASSERT_TRUE(game.Tap(Key::Down, SixRowMenu(1)));
+        game.Program().Send(SIGSTOP);
+        game.Person().TapKey(Key::Return, milliseconds{1});
+        std::this_thread::sleep_for(milliseconds{200});
+        game.Person().RequestClose(game.Window());
+        std::this_thread::sleep_for(milliseconds{200});
+        game.Program().Send(SIGCONT);
+        ASSERT_EQ(game.Program().WaitForExit(PatientDeadline), std::optional(0));
+    }
+    EXPECT_EQ(home.Read(SaveFile), old);
+    OpenedGame game({}, {}, &home);
+    EXPECT_TRUE(game.Tap(Key::Return, CarInLane(2)));
+}
+
+TEST(Memory, ANewGamePlayedForAWhileReplacesTheOldRun) {
+    const PreparedHome home;
+    home.Put(SaveFile, MadeSave({.HighScore = 7000, .Score = 6000, .Lane = 2}));
+    {
+        OpenedGame game({}, {}, &home);
+        ASSERT_TRUE(game.Tap(Key::Down, SixRowMenu(1)));
+        ASSERT_TRUE(game.Tap(Key::Return, CarInLane(4)));
+        std::this_thread::sleep_for(UntilSaved);
+        ASSERT_EQ(game.Close(), std::optional(0));
+    }
+    EXPECT_EQ(StoredHighScore(home), std::optional<std::int64_t>(7000));
+    OpenedGame game({}, {}, &home);
+    EXPECT_TRUE(game.Tap(Key::Return, [](const Picture &Seen) {
+        return CarInLane(4)(Seen) && HighScoreIs(7000)(Seen);
+    }));
+}
+
+// A run that has beaten the high score and has next to nothing left to lose.
+TEST(Memory, TheHighScoreOutlivesTheRunAndTheProgram) {
+    const PreparedHome home;
+    home.Put(SaveFile, MadeSave({.HighScore = 7000, .Score = 6990, .Lane = 4, .Hp = 1, .Stocks = 0}));
+    {
+        PlayedGame game({}, {}, &home); // the menu's first row continues it
+        game.Person().PressKey(Key::LeftControl);
+        EXPECT_TRUE(game.RamUntil(ScreenIs(SeenScreen::GameOver)));
+        game.Person().ReleaseKey(Key::LeftControl);
+        EXPECT_EQ(game.Close(), std::optional(0));
+    }
+    const std::int64_t highScore = StoredHighScore(home).value_or(0);
+    EXPECT_GE(highScore, 7000);
+    EXPECT_EQ(StoresRun(home), std::optional(false));
+    PlayedGame game({}, {}, &home); // the menu has five rows now, and the first one is NEW GAME
+    EXPECT_TRUE(game.WaitForPicture([&](const Picture &Seen) {
+        return HighScoreIs(highScore)(Seen) && ScoreIsZero(Seen);
+    }));
+}
+
+TEST(Memory, ADamagedSaveIsReplacedByAnEmptyOne) {
+    const PreparedHome home;
+    home.Put(SaveFile, "This is no saved run at all.");
+    OpenedGame game({}, {}, &home);
+    ASSERT_TRUE(FiveRowMenu(0)(game.Person().Screenshot()));
+    EXPECT_EQ(StoredHighScore(home), std::optional<std::int64_t>(0));
+    EXPECT_EQ(StoresRun(home), std::optional(false));
+    EXPECT_EQ(game.Close(), std::optional(0));
+}
+
+namespace {
+
+// Plays on for a while, as a person who only wants to score, and is then killed without a warning.
+void PlayAndBeKilled(OpenedGame &Game, std::mt19937 &Random) {
+    const auto draw = [&Random](int Below) {
+        return static_cast<int>(Random() % static_cast<unsigned>(Below));
+    };
+    constexpr std::array keys{Key::Left, Key::Right, Key::X, Key::Space, Key::Escape};
+    // A few are over on the menu already, most are in the middle of play.
+    const auto end = std::chrono::steady_clock::now() + milliseconds{draw(2500)};
+    Game.Person().TapKey(Key::Return, milliseconds{20});
+    Game.Person().PressKey(Key::LeftControl);
+    while (std::chrono::steady_clock::now() < end) {
+        // Escape twice: a pause that goes on at once.
+        const Key key = keys[static_cast<std::size_t>(draw(static_cast<int>(keys.size())))];
+        Game.Person().TapKey(key, milliseconds{20});
+        if (key == Key::Escape) {
+            Game.Person().TapKey(key, milliseconds{20});
+        }
+        std::this_thread::sleep_for(milliseconds{20 + draw(180)});
+    }
+    Game.Program().Send(SIGKILL);
+    Game.Program().WaitForExit(PatientDeadline);
+}
+
+int RoundsOfKilling() {
+    const char *wanted = std::getenv("KILLING_ROUNDS");
+    return wanted == nullptr ? 8 : std::atoi(wanted);
+}
+
+} // namespace
+
+// KILLING_ROUNDS sets how often.
+TEST(Memory, KilledAtAnyMomentTheNextStartLoadsAndTheHighScoreNeverFalls) {
+    const PreparedHome home;
+    std::mt19937 random(20260211); // NOLINT(cert-msc51-cpp): the same moments each time
+    std::int64_t highest = 0;
+    int runsFound = 0;
+    for (int round = 0; round < RoundsOfKilling(); ++round) {
+        // It waits for a main menu with five or six rows.
+        OpenedGame game({}, {}, &home);
+        const std::optional<std::int64_t> loaded = StoredHighScore(home);
+        ASSERT_TRUE(loaded) << "round " << round;
+        ASSERT_GE(*loaded, highest) << "round " << round;
+        highest = *loaded;
+        const bool hasRun = SixRowMenu(0)(game.Person().Screenshot());
+        ASSERT_EQ(StoresRun(home), std::optional(hasRun)) << "round " << round;
+        runsFound += hasRun ? 1 : 0;
+        ASSERT_EQ(game.Program().Output(), "") << "round " << round;
+        PlayAndBeKilled(game, random);
+    }
+    RecordProperty("Highest", static_cast<int>(highest));
+    EXPECT_GT(runsFound, 0) << "no run was ever saved";
+}

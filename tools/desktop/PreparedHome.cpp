@@ -1,0 +1,31 @@
+#include "tools/desktop/PreparedHome.hpp"
+
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+void PreparedHome::Put(const std::string &Name, const std::string &Text) const {
+    const std::filesystem::path path = FileOf(Name);
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream file(path, std::ios::binary);
+    file << Text << std::flush;
+    if (!file) {
+        throw std::runtime_error(path.string() + " cannot be written");
+    }
+}
+
+std::optional<std::string> PreparedHome::Read(const std::string &Name) const {
+    std::ifstream file(FileOf(Name), std::ios::binary);
+    if (!file) {
+        return std::nullopt;
+    }
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+const std::filesystem::path &PreparedHome::Path() const {
+    return Folder.Path();
+}
+
+std::filesystem::path PreparedHome::FileOf(const std::string &Name) const {
+    return Folder.Path() / DataFolder / "Orrin" / "KestrelVolley" / Name;
+}
