@@ -92,6 +92,15 @@ public:
         }
     }
 
+    // Whether each screen that a run leads to was met.
+    bool HasMetAll() {
+        constexpr std::array all{SeenScreen::MainMenu, SeenScreen::Playing, SeenScreen::Paused,
+            SeenScreen::Options, SeenScreen::GameOver};
+        return std::all_of(all.begin(), all.end(), [this](SeenScreen Screen) {
+            return Visits[Screen] > 0;
+        });
+    }
+
     // How often each screen was met.
     std::map<SeenScreen, int> Visits;
 
@@ -264,17 +273,19 @@ TEST(Soak, PlayedOnAndOnTheGameKeepsItsPaceItsMemoryAndItsSilence) {
     const pid_t id = game.Program().ProcessId();
     std::vector<int> memory;
     const steady_clock::time_point start = steady_clock::now();
-    while (steady_clock::now() - start < SoakTime() && game.Program().IsRunning()) {
+    // On a slow machine it takes longer until each screen was met; five minutes are enough for any.
+    const auto isOver = [&] {
+        const auto time = steady_clock::now() - start;
+        return time >= SoakTime() && (someone.HasMetAll() || time > std::chrono::minutes{5});
+    };
+    while (!isOver() && game.Program().IsRunning()) {
         someone.Act();
         memory.push_back(ResidentMemory(id));
     }
     ASSERT_TRUE(game.Program().IsRunning()) << "it has ended. It says:\n" << game.Program().Output();
     ASSERT_TRUE(ComesToMainMenu(game));
     const double lastPace = MeasuredPace(game);
-    for (const SeenScreen screen : {SeenScreen::MainMenu, SeenScreen::Playing, SeenScreen::Paused,
-             SeenScreen::Options, SeenScreen::GameOver}) {
-        EXPECT_GT(someone.Visits[screen], 0) << "never met screen " << static_cast<int>(screen);
-    }
+    EXPECT_TRUE(someone.HasMetAll());
     EXPECT_GT(lastPace, firstPace * 0.7) << "pixels of credits a second";
     // A third of the time for everything to be loaded once.
     const auto third = memory.begin() + static_cast<std::ptrdiff_t>(memory.size() / 3);
