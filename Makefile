@@ -8,7 +8,7 @@ FUZZ_SECONDS = 600
 help:
 	@echo 'make run      set up what is missing, build the game and play it (without a display: a short tour of it)'
 	@echo 'make test     set up what is missing and run all tests, plainly and under the sanitizers'
-	@echo 'make bench    measure drawing, the simulation step and the start-up'
+	@echo 'make bench    measure drawing, the simulation step, the start-up and saving'
 	@echo 'make asan     the tests under AddressSanitizer and UndefinedBehaviorSanitizer only'
 	@echo 'make fuzz     feed damaged files to each fuzz target for FUZZ_SECONDS ($(FUZZ_SECONDS))'
 	@echo 'make music    play the scores of tools/music into Music/ (the results are kept in the repository)'

@@ -24,8 +24,8 @@ constexpr float EnemyGap = 8.0F;      ///< logical pixels between the circles of
 constexpr float EnemyLead = 6.0F;
 
 // Where an enemy shoots, both ends excluded.
-constexpr float ShootBelowY = 14.0F;
-constexpr float ShootAboveY = 650.0F;
+constexpr float ShootFromY = 14.0F;
+constexpr float ShootToY = 650.0F;
 constexpr float MuzzleDistance = 11.0F;
 
 /// How an enemy thinks and shoots, by the hit points that it has now: a heavy one that is down to its last
@@ -142,7 +142,7 @@ void Drive(const Turn &Turn, Enemy &Enemy) {
 }
 
 void Shoot(GameState &State, Enemy &Enemy) {
-    if (Enemy.FireCooldown > 0.0F || !(Enemy.Y > ShootBelowY) || !(Enemy.Y < ShootAboveY)) {
+    if (Enemy.FireCooldown > 0.0F || !(Enemy.Y > ShootFromY) || !(Enemy.Y < ShootToY)) {
         return;
     }
     const Temper &temper = TemperOf(Enemy);

@@ -17,7 +17,7 @@ void MoveRoad(GameState &State, float dt) {
     const float target = TargetScrollSpeed(State.Stage);
     State.CurrentScrollSpeed += (target - State.CurrentScrollSpeed) * (1.0F - std::exp(-EaseRate * dt));
     if (!std::isfinite(State.CurrentScrollSpeed)) {
-        State.CurrentScrollSpeed = target; // from a damaged file; it would never ease back
+        State.CurrentScrollSpeed = target; // it would never ease back by itself
     }
     const float distance = State.CurrentScrollSpeed * dt;
     State.StageTransition = std::min(State.StageTransition + distance / LogicalHeightF, 1.0F);

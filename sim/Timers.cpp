@@ -5,7 +5,7 @@
 #include <algorithm>
 
 void CountDown(float &Timer, float dt) {
-    // In this order the comparison turns what is no number, as a damaged file may hold, into 0 as well.
+    // In this order the comparison turns what is no number into 0 as well, should a timer ever hold that.
     Timer = std::max(0.0F, Timer - dt);
 }
 
