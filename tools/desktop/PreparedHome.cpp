@@ -1,7 +1,7 @@
 #include "tools/desktop/PreparedHome.hpp"
 
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 
 void PreparedHome::Put(const std::string &Name, const std::string &Text) const {
@@ -19,7 +19,9 @@ std::optional<std::string> PreparedHome::Read(const std::string &Name) const {
     if (!file) {
         return std::nullopt;
     }
-    return std::string(std::istreambuf_iterator<char>(file), {});
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
 }
 
 const std::filesystem::path &PreparedHome::Path() const {
