@@ -1,5 +1,6 @@
 #include "app/OptionsKeys.hpp"
 
+#include "input/Capture.hpp"
 #include "input/ControlsPage.hpp"
 #include "options/AudioPage.hpp"
 #include "options/GraphicsPage.hpp"
@@ -58,8 +59,7 @@ void HandleMainPageKey(GameState &State, SDL_Window *Window, std::int32_t Scanco
 void EnterOptions(GameState &State) {
     State.Screen = ScreenOptions;
     State.OptionsPage = OptionsPageMain;
-    State.CaptureActive = false;
-    State.CaptureKind = CaptureKindNone;
+    EndCapture(State);
     State.PendingControlsValid = false;
     State.GraphicsSnapshotValid = false;
     State.PendingAudioValid = false;

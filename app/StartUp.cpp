@@ -100,11 +100,9 @@ void StartLanguage(GameState &State) {
     }
 }
 
-/// Without a usable save state the first frame writes a clean one.
+/// Without a usable save state there is no run and no high score, and the first frame writes a clean file.
 void RestoreGame(GameState &State) {
     if (!LoadSaveState(State)) {
-        State.HasRunState = false;
-        State.HighScore = 0;
         RequestSave(State, 0.0F);
     }
 }

@@ -1,5 +1,6 @@
 #include "quillini/Decoding.hpp"
 
+#include "quillini/ByteOrder.hpp"
 #include "quillini/CodeCvt.hpp"
 #include "quillini/Files.hpp"
 #include "quillini/Text.hpp"
@@ -21,11 +22,6 @@ namespace {
 
 // Five bytes could be a whole file, and are refused all the same.
 constexpr std::size_t SmallestFile = 6;
-
-enum class ByteOrder : std::uint8_t {
-    Little,
-    Big,
-};
 
 /// What one of the first four bytes of a file has to be.
 struct ByteRule {

@@ -1,3 +1,4 @@
+#include "quillini/ByteOrder.hpp"
 #include "quillini/CodeCvt.hpp"
 #include "quillini/quillini.hpp"
 
@@ -10,11 +11,6 @@
 namespace quillINI {
 
 namespace {
-
-enum class ByteOrder : std::uint8_t {
-    Little,
-    Big,
-};
 
 template <class Unit>
 void WriteUnits(const std::basic_string<Unit> &Units, std::ostream &File, ByteOrder Order) {
