@@ -79,10 +79,11 @@ TEST_F(ShuttingDown, GoesInItsOrder) {
         SdlWatch::Notice("save", {});
     };
     Stop();
-    EXPECT_EQ(watch.NamesAmong({"options", "save", "SDL_CloseGamepad", "SDL_CloseJoystick",
-                  "SDL_DestroyTexture", "SDL_DestroyRenderer", "SDL_DestroyWindow", "SDL_Quit"}),
+    EXPECT_EQ(
+        watch.NamesAmong({"options", "save", "SDL_CloseGamepad", "SDL_CloseJoystick", "SDL_DestroyTexture",
+            "SDL_DestroyRenderer", "SDL_HideWindow", "SDL_DestroyWindow", "SDL_Quit"}),
         (Names{"options", "save", "SDL_CloseGamepad", "SDL_CloseJoystick", "SDL_DestroyTexture",
-            "SDL_DestroyRenderer", "SDL_DestroyWindow", "SDL_Quit"}));
+            "SDL_DestroyRenderer", "SDL_HideWindow", "SDL_DestroyWindow", "SDL_Quit"}));
 }
 
 TEST_F(ShuttingDown, WithoutDevicesClosesNone) {

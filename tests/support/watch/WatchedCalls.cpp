@@ -80,6 +80,7 @@ WATCH_RESULT(bool, SDL_Init, (SDL_InitFlags Flags), (Flags), false)
 WATCH_NO_RESULT(SDL_Quit, (), ())
 WATCH_RESULT(SDL_Window *, SDL_CreateWindow, (const char *Title, int W, int H, SDL_WindowFlags Flags),
     (Title, W, H, Flags), nullptr)
+WATCH_RESULT(bool, SDL_HideWindow, (SDL_Window * Window), (Window), false)
 WATCH_NO_RESULT(SDL_DestroyWindow, (SDL_Window * Window), (Window))
 WATCH_RESULT(
     SDL_Renderer *, SDL_CreateRenderer, (SDL_Window * Window, const char *Name), (Window, Name), nullptr)
