@@ -22,7 +22,7 @@ run:
 	    cmake --preset play && cmake --build --preset play && build/play/kestrel-volley; \
 	else \
 	    echo 'There is no display here (neither DISPLAY nor WAYLAND_DISPLAY is set), so nobody could play.' && \
-	    echo 'Instead the game is shown around: it runs in a virtual display, real keys are pressed, and the' && \
+	    echo 'Instead here is a tour of the game: it runs in a virtual display, real keys are pressed, and the' && \
 	    echo 'pictures are left in build/tour.' && \
 	    cmake --preset play -DKESTREL_BUILD_TOOLS=ON && cmake --build --preset play && \
 	    build/play/tools/tour/tour build/play/kestrel-volley build/tour; \

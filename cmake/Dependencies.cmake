@@ -4,8 +4,10 @@ include(${CMAKE_SOURCE_DIR}/build/Dependencies.cmake OPTIONAL)
 
 # A found folder is remembered by CMake. When the set-up has moved on to another one, look again.
 if(NOT "${CMAKE_PREFIX_PATH}" STREQUAL "${KESTREL_SEARCHED_PREFIXES}")
-    unset(SDL3_DIR CACHE)
-    unset(SDL3_mixer_DIR CACHE)
+    if(DEFINED KESTREL_SEARCHED_PREFIXES) # else it is one that was named on the command line
+        unset(SDL3_DIR CACHE)
+        unset(SDL3_mixer_DIR CACHE)
+    endif()
     set(KESTREL_SEARCHED_PREFIXES "${CMAKE_PREFIX_PATH}" CACHE INTERNAL "Prefixes that SDL was last looked for in")
 endif()
 
