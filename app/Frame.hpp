@@ -5,14 +5,14 @@
 struct Program;
 
 /// The longest step that the simulation ever sees, in seconds: a slower machine plays in slow motion.
-constexpr float MaxDeltaSeconds = 0.033F;
+inline constexpr float MaxDeltaSeconds = 0.033F;
 
 /// The least time between the tops of two frames without active vertical sync.
-constexpr Uint64 MinFrameMilliseconds = 8;
+inline constexpr Uint64 MinFrameMilliseconds = 8;
 
-/// The credits' speed in units a second, and the position past which they end.
-constexpr float CreditsScrollSpeed = 42.0F;
-constexpr float CreditsScrollEnd = 1090.0F;
+/// The credits' speed in logical pixels a second, and the position past which they end.
+inline constexpr float CreditsScrollSpeed = 42.0F;
+inline constexpr float CreditsScrollEnd = 1090.0F;
 
 /// The seconds between two ticks in milliseconds, at most MaxDeltaSeconds.
 float DeltaSecondsBetween(Uint64 LastFrameTicks, Uint64 Now);

@@ -21,10 +21,10 @@ struct MusicPattern {
 };
 
 /// The length of a pattern whose length is unknown: its boundary is never reached.
-constexpr std::int32_t UnknownLoopMs = std::numeric_limits<std::int32_t>::max();
+inline constexpr std::int32_t UnknownLoopMs = std::numeric_limits<std::int32_t>::max();
 
 /// No track position has been seen yet.
-constexpr std::int64_t NoPosition = -1;
+inline constexpr std::int64_t NoPosition = -1;
 
 /// What plays on the music track, and what is to play next.
 struct MusicPlayer {

@@ -28,7 +28,7 @@ bool OpenMixer(MusicRuntime &Runtime) {
     return true;
 }
 
-/// Gives up if it cannot be done: the last step after which there may be no audio at all.
+/// The last step whose failure leaves the game without any audio.
 bool CreateMusicTrack(const GameState &State, MusicRuntime &Runtime) {
     Runtime.MusicTrack = MIX_CreateTrack(Runtime.Mixer);
     if (Runtime.MusicTrack == nullptr) {

@@ -2,6 +2,7 @@
 
 #include "state/Sounds.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -15,10 +16,10 @@ struct SfxRecipe {
     std::int64_t Duration;  ///< milliseconds
 };
 
-constexpr std::size_t SfxCount = 11;
+inline constexpr std::size_t SfxCount = 11;
 
 /// In the order of the ids.
-constexpr std::array<SfxRecipe, SfxCount> SfxRecipes{{
+inline constexpr std::array<SfxRecipe, SfxCount> SfxRecipes{{
     {SfxId::UiMove, "UiMove", 900, 0.16F, 45},
     {SfxId::UiConfirm, "UiConfirm", 1220, 0.24F, 70},
     {SfxId::UiBack, "UiBack", 680, 0.22F, 85},
@@ -37,8 +38,10 @@ constexpr std::size_t SfxIndex(SfxId Id) {
     return static_cast<std::size_t>(Id);
 }
 
-static_assert(SfxRecipes[SfxIndex(SfxId::UiMove)].Id == SfxId::UiMove &&
-                  SfxRecipes[SfxIndex(SfxId::Item)].Id == SfxId::Item,
+static_assert(std::ranges::all_of(SfxRecipes,
+                  [](const SfxRecipe &Recipe) {
+                      return &Recipe == &SfxRecipes[SfxIndex(Recipe.Id)];
+                  }),
     "the rows stand in the order of the ids");
 
 /// A sound's word for the log, "Unknown" for a byte that is no sound.

@@ -2,6 +2,9 @@
 
 #include "audio/MusicRuntime.hpp"
 
+#include <cstdint>
+#include <string_view>
+
 struct GameState;
 
 // Moves the music track to the pattern that the game wants to hear: at the end of the playing pattern's loop,
@@ -10,8 +13,8 @@ struct GameState;
 /// Looks at the game once a frame, on every screen. A failure is logged and tried again; the game goes on.
 void UpdateMusicRuntime(const GameState &State, MusicRuntime &Runtime);
 
-/// Starts a pattern as an endless loop, FadeInMs long in rising. False without a pattern or a track, and if
-/// the mixer refuses.
+/// Starts a pattern as an endless loop that rises from silence in FadeInMs. False without a pattern or a
+/// track, and if the mixer refuses.
 bool PlayMusicPattern(MusicPlayer &Player, const MusicPattern *Pattern, std::int32_t FadeInMs);
 
 /// Asks for a pattern at the next opportunity. Throws std::runtime_error, whose message is to be logged, if

@@ -1,6 +1,5 @@
 #include "gfx/AudioPage.hpp"
 
-#include "gfx/MenuStyle.hpp"
 #include "gfx/OptionsRows.hpp"
 #include "state/GameState.hpp"
 #include "state/MenuRows.hpp"
@@ -10,9 +9,6 @@
 #include <array>
 
 namespace {
-
-constexpr float FirstHintY = 498.0F;
-constexpr float SecondHintY = 526.0F;
 
 /// A volume of 0 to 100.
 std::string PercentLabel(std::int32_t Volume) {
@@ -42,5 +38,5 @@ std::array<OptionsRow, AudioRowCount> Rows(const GameState &State) {
 
 void DrawAudioPage(SDL_Renderer *Renderer, const GameState &State, std::string_view DeviceLine) {
     DrawOptionsRows(Renderer, Rows(State), State.AudioSelection);
-    DrawValueHints(Renderer, DeviceLine, FirstHintY, SecondHintY);
+    DrawValueHints(Renderer, DeviceLine, OptionsFirstHintY, OptionsSecondHintY);
 }

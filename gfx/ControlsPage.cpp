@@ -13,9 +13,6 @@
 
 namespace {
 
-constexpr float PromptY = 498.0F;
-constexpr float SecondHintY = 526.0F;
-
 /// In the order of KeyboardAction and of PadAction.
 constexpr std::array<TextKey, 5> KeyboardActionNames{
     TextKey::ActionMoveLeft,
@@ -111,12 +108,13 @@ void DrawControlsPage(SDL_Renderer *Renderer, const GameState &State, const Inpu
     const float centerX = ScreenCenterX();
     DrawOptionsRows(Renderer, Rows(State, Devices), State.ControlsSelection);
     if (State.CaptureActive) {
-        DrawHint(Renderer, CapturePrompt(State), centerX, PromptY, PromptColor);
-        DrawHint(Renderer, GetText(TextKey::OptionsControlsHintEscCancelDelClear), centerX, SecondHintY);
+        DrawHint(Renderer, CapturePrompt(State), centerX, OptionsFirstHintY, PromptColor);
+        DrawHint(
+            Renderer, GetText(TextKey::OptionsControlsHintEscCancelDelClear), centerX, OptionsSecondHintY);
         return;
     }
-    DrawHint(Renderer, GetText(TextKey::OptionsControlsHintRebindDevice), centerX, PromptY);
+    DrawHint(Renderer, GetText(TextKey::OptionsControlsHintRebindDevice), centerX, OptionsFirstHintY);
     DrawHint(Renderer,
         DeviceLine.empty() ? std::string_view(GetText(TextKey::OptionsControlsHintEscBack)) : DeviceLine,
-        centerX, SecondHintY);
+        centerX, OptionsSecondHintY);
 }

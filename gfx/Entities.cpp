@@ -100,14 +100,14 @@ void DrawEnemies(SDL_Renderer *Renderer, const GameState &State) {
     }
 }
 
-void DrawExplosion(SDL_Renderer *Renderer, const Explosion &Burst) {
+void DrawExplosion(SDL_Renderer *Renderer, const Explosion &Explosion) {
     // Only a damaged file holds a life of 0; such a burst is drawn as newly born.
-    const float t = Burst.Life == 0.0F ? 0.0F : std::clamp(Burst.Age / Burst.Life, 0.0F, 1.0F);
+    const float t = Explosion.Life == 0.0F ? 0.0F : std::clamp(Explosion.Age / Explosion.Life, 0.0F, 1.0F);
     const auto alpha =
-        static_cast<std::uint32_t>(TruncateToInt(static_cast<float>(Burst.Color.A) * (1.0F - t)));
-    const std::uint32_t color = alpha << 24U | std::uint32_t{Burst.Color.B} << 16U |
-                                std::uint32_t{Burst.Color.G} << 8U | std::uint32_t{Burst.Color.R};
-    FillDisc(Renderer, std::round(Burst.X), std::round(Burst.Y), Burst.MaxRadius * t, color);
+        static_cast<std::uint32_t>(TruncateToInt(static_cast<float>(Explosion.Color.A) * (1.0F - t)));
+    const std::uint32_t color = alpha << 24U | std::uint32_t{Explosion.Color.B} << 16U |
+                                std::uint32_t{Explosion.Color.G} << 8U | std::uint32_t{Explosion.Color.R};
+    FillDisc(Renderer, std::round(Explosion.X), std::round(Explosion.Y), Explosion.MaxRadius * t, color);
 }
 
 void DrawExplosions(SDL_Renderer *Renderer, const GameState &State) {

@@ -1,6 +1,5 @@
 #include "gfx/GraphicsPage.hpp"
 
-#include "gfx/MenuStyle.hpp"
 #include "gfx/OptionsRows.hpp"
 #include "state/GameState.hpp"
 #include "state/MenuRows.hpp"

@@ -34,9 +34,9 @@ constexpr int BannerScale = 5;
 constexpr float BannerY = 340.0F;
 constexpr std::uint32_t BannerColor = 0xFFFFB41E;
 
-constexpr float BlastStartRadius = 40.0F;
-constexpr float BlastGrowth = 420.0F;
-constexpr std::uint32_t BlastColor = 0x8278F5FF;
+constexpr float FlashStartRadius = 40.0F;
+constexpr float FlashGrowth = 420.0F;
+constexpr std::uint32_t FlashColor = 0x8278F5FF;
 
 struct Bar {
     float Y;
@@ -127,9 +127,9 @@ void DrawReadyBanner(SDL_Renderer *Renderer) {
     DrawTextCentered(Renderer, text, roadCenter, BannerY, BannerScale, BannerColor);
 }
 
-void DrawBombBlast(SDL_Renderer *Renderer, const GameState &State) {
-    const float radius = (1.0F - State.SpecialTimer / BombFlashSeconds) * BlastGrowth + BlastStartRadius;
-    FillDisc(Renderer, std::round(State.Player.X), std::round(State.Player.Y), radius, BlastColor);
+void DrawBombFlash(SDL_Renderer *Renderer, const GameState &State) {
+    const float radius = (1.0F - State.SpecialTimer / BombFlashSeconds) * FlashGrowth + FlashStartRadius;
+    FillDisc(Renderer, std::round(State.Player.X), std::round(State.Player.Y), radius, FlashColor);
 }
 
 } // namespace
@@ -144,6 +144,6 @@ void DrawGameplayOverlays(SDL_Renderer *Renderer, const GameState &State) {
         DrawReadyBanner(Renderer);
     }
     if (State.SpecialActive) {
-        DrawBombBlast(Renderer, State);
+        DrawBombFlash(Renderer, State);
     }
 }

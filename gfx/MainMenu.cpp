@@ -1,6 +1,5 @@
 #include "gfx/MainMenu.hpp"
 
-#include "gfx/Draw.hpp"
 #include "gfx/MenuStyle.hpp"
 #include "gfx/Text.hpp"
 #include "state/GameState.hpp"
@@ -13,7 +12,7 @@
 
 namespace {
 
-constexpr int TitleScale = 10;
+constexpr int NameScale = 10;
 constexpr std::string_view FirstWord = "KESTREL";
 constexpr std::string_view SecondWord = "VOLLEY";
 constexpr std::uint32_t FirstWordColor = 0xFFFF8237;
@@ -63,7 +62,7 @@ float BlockTop(std::size_t RowCount) {
 
 /// The right edges of the version's ink and the second word's are aligned, as far as the screen has room.
 float VersionX(float CenterX) {
-    const auto wordWidth = static_cast<float>(MeasureTextVisible(SecondWord, TitleScale));
+    const auto wordWidth = static_cast<float>(MeasureTextVisible(SecondWord, NameScale));
     const auto inkWidth = static_cast<float>(MeasureTextVisible(VersionText, SmallScale));
     const auto cellWidth = static_cast<float>(MeasureText(VersionText, SmallScale));
     const float aligned = CenterX - SecondWordLeft + wordWidth - inkWidth;
@@ -72,9 +71,9 @@ float VersionX(float CenterX) {
 }
 
 void DrawTitle(SDL_Renderer *Renderer, float CenterX, float Top) {
-    DrawText(Renderer, FirstWord, CenterX - FirstWordLeft, Top, TitleScale, FirstWordColor);
+    DrawText(Renderer, FirstWord, CenterX - FirstWordLeft, Top, NameScale, FirstWordColor);
     DrawText(
-        Renderer, SecondWord, CenterX - SecondWordLeft, Top + SecondWordDrop, TitleScale, SecondWordColor);
+        Renderer, SecondWord, CenterX - SecondWordLeft, Top + SecondWordDrop, NameScale, SecondWordColor);
     DrawText(Renderer, VersionText, VersionX(CenterX), Top + VersionDrop, SmallScale, VersionColor);
 }
 

@@ -11,24 +11,25 @@
 
 // What the screens around a run have in common. Colours are 0xAABBGGRR.
 
-constexpr std::uint32_t SelectedColor = 0xFFF5F5F5;  ///< the selected row and its marker
-constexpr std::uint32_t OtherRowColor = 0xFFB4B4B4;  ///< rows of the options and the pause panel
-constexpr std::uint32_t OtherNameColor = 0xFFB9B9B9; ///< rows of the main menu, names of credits and help
-constexpr std::uint32_t PageTitleColor = 0xFFF0F0F0; ///< options and help
-constexpr std::uint32_t SectionColor = 0xFFFFAF69;   ///< section headings of the options
-constexpr std::uint32_t BodyColor = 0xFFDCDCDC;      ///< text of the help page
-constexpr std::uint32_t HintColor = 0xFFE1E1E1;
-constexpr std::uint32_t PromptColor = 0xFFAAFF78; ///< what a binding capture waits for
+inline constexpr std::uint32_t SelectedColor = 0xFFF5F5F5; ///< the selected row and its marker
+inline constexpr std::uint32_t OtherRowColor = 0xFFB4B4B4; ///< rows of the options and the pause panel
+inline constexpr std::uint32_t OtherNameColor =
+    0xFFB9B9B9; ///< rows of the main menu, names of credits and help
+inline constexpr std::uint32_t PageTitleColor = 0xFFF0F0F0; ///< options and help
+inline constexpr std::uint32_t SectionColor = 0xFFFFAF69;   ///< section headings of the options
+inline constexpr std::uint32_t BodyColor = 0xFFDCDCDC;      ///< text of the help page
+inline constexpr std::uint32_t HintColor = 0xFFE1E1E1;
+inline constexpr std::uint32_t PromptColor = 0xFFAAFF78; ///< what a binding capture waits for
 
-constexpr int TitleScale = 6; ///< of pages and panels
-constexpr float PageTitleY = 42.0F;
-constexpr int MenuScale = 4; ///< rows of the main menu and the pause panel, headings, credits
-constexpr int PageScale = 3; ///< rows and text of the pages
-constexpr int HintScale = 2;
+inline constexpr int TitleScale = 6; ///< of pages and panels
+inline constexpr float PageTitleY = 42.0F;
+inline constexpr int MenuScale = 4; ///< rows of the main menu and the pause panel, headings, credits
+inline constexpr int PageScale = 3; ///< rows and text of the pages
+inline constexpr int HintScale = 2;
 
 /// What stands before the selected row.
-constexpr std::string_view RowMarker = ">";
-constexpr int RowMarkerScale = 3;
+inline constexpr std::string_view RowMarker = ">";
+inline constexpr int RowMarkerScale = 3;
 
 /// How a kind of menu draws its rows: where the marker stands before the label and below its top, in pixels.
 struct RowStyle {
@@ -39,10 +40,10 @@ struct RowStyle {
 };
 
 // The gaps differ on purpose and are to be kept.
-constexpr RowStyle MainMenuRowStyle{MenuScale, 28.0F, 4.0F, OtherNameColor};
-constexpr RowStyle PauseRowStyle{MenuScale, 27.0F, 4.0F, OtherRowColor};
-constexpr RowStyle OptionsMainRowStyle{PageScale, 27.0F, 0.0F, OtherRowColor};
-constexpr RowStyle OptionsRowStyle{PageScale, 24.0F, 0.0F, OtherRowColor};
+inline constexpr RowStyle MainMenuRowStyle{MenuScale, 28.0F, 4.0F, OtherNameColor};
+inline constexpr RowStyle PauseRowStyle{MenuScale, 27.0F, 4.0F, OtherRowColor};
+inline constexpr RowStyle OptionsMainRowStyle{PageScale, 27.0F, 0.0F, OtherRowColor};
+inline constexpr RowStyle OptionsRowStyle{PageScale, 24.0F, 0.0F, OtherRowColor};
 
 /// The middle of the logical screen.
 float ScreenCenterX();

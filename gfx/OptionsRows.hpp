@@ -15,8 +15,12 @@ struct OptionsRow {
     std::string Value;
 };
 
-constexpr float OptionsRowsY = 150.0F;
-constexpr float OptionsRowDistance = 34.0F;
+inline constexpr float OptionsRowsY = 150.0F;
+inline constexpr float OptionsRowDistance = 34.0F;
+
+/// The two hints below the rows; those of the graphics page stand higher.
+inline constexpr float OptionsFirstHintY = 498.0F;
+inline constexpr float OptionsSecondHintY = 526.0F;
 
 /// Draws one row in two columns, with the marker before a selected one. An empty value is not drawn.
 void DrawMenuRow(SDL_Renderer *Renderer, std::string_view Label, std::string_view Value, float Y,

@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
-constexpr std::int32_t SpriteSize = 16; ///< width and height of a sprite's cell in pixels
-constexpr char TransparentSymbol = '.';
+inline constexpr std::int32_t SpriteSize = 16; ///< width and height of a sprite's cell in pixels
+inline constexpr char TransparentSymbol = '.';
 
 /// A painted picture: the colours that its symbols stand for, and a row of symbols for each row of pixels.
 struct SpriteMap {

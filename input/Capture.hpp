@@ -24,7 +24,7 @@ void ClearJoystickBinding(BindingTable &Table, std::int32_t Row);
 /// Waits for a press for a row of the pending device's table. There is no time-out.
 void BeginCapture(GameState &State, std::int32_t Row);
 
-/// Ends a capture, if one runs, without a binding.
+/// Ends a capture, if one runs; what is bound by then stays.
 void EndCapture(GameState &State);
 
 /// What a key means to a running capture: Escape ends it, Delete and Backspace unbind the row, and any other

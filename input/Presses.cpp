@@ -17,8 +17,8 @@ static_assert(ScancodeReturn == SDL_SCANCODE_RETURN && ScancodeEscape == SDL_SCA
                   ScancodeBackspace == SDL_SCANCODE_BACKSPACE && LastScancode == SDL_SCANCODE_COUNT - 1,
     "the keys of the menus are SDL's");
 
-/// In play the keyboard's own key for healing, so that a pad heals only while that row is bound; this stays
-/// so.
+/// In play the keyboard's own key for healing, so that a button heals only while that row is bound; this
+/// stays so.
 std::int32_t HealKey(const GameState &State) {
     return State.Screen == ScreenPlaying ? BindingOf(State.KeyboardBindings, KeyboardAction::Heal) : NoKey;
 }

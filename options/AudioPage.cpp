@@ -83,6 +83,7 @@ void Apply(GameState &State) {
     BeginAudioEdit(State);
 }
 
+/// What was not applied is lost without a question, and that is meant.
 void Leave(GameState &State) {
     if (AudioEditDirty(State)) {
         BeginAudioEdit(State);

@@ -10,9 +10,7 @@
 
 namespace {
 
-// Where the built-in resolutions have a height of 720.
-constexpr std::int32_t FallbackIndex4x3 = 2;
-constexpr std::int32_t FallbackIndexWide = 3;
+constexpr std::int32_t FallbackIndex4x3 = 2; ///< where the built-in table of 4:3 has a height of 720
 
 SDL_DisplayID DisplayOf(SDL_Window *Window) {
     const SDL_DisplayID display = Window != nullptr ? SDL_GetDisplayForWindow(Window) : 0;
@@ -70,7 +68,8 @@ void RebuildDisplayLists(GameState &State, SDL_Window *Window) {
         ListDisplayModes(State, display);
     }
     ListResolutions(State);
-    const std::int32_t fallback = State.AspectMode == AspectClassic4x3 ? FallbackIndex4x3 : FallbackIndexWide;
+    const std::int32_t fallback =
+        State.AspectMode == AspectClassic4x3 ? FallbackIndex4x3 : DefaultResolutionIndex;
     State.ResolutionIndex = FindResolutionIndex(State, wanted.Width, wanted.Height, fallback);
     RebuildRefreshRates(State);
 }

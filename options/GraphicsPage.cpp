@@ -13,15 +13,9 @@
 namespace {
 
 constexpr Resolution DefaultResolution{1280, 720};
-constexpr std::int32_t DefaultResolutionIndex = 3;
-
-std::int32_t ResolutionCount(const GameState &State) {
-    return static_cast<std::int32_t>(
-        State.Resolutions.empty() ? BuiltInResolutions(State.AspectMode).size() : State.Resolutions.size());
-}
 
 void StepResolution(GameState &State, std::int32_t Direction) {
-    const std::int32_t count = ResolutionCount(State);
+    const auto count = static_cast<std::int32_t>(ResolutionsInForce(State).size());
     if (count < 1) {
         State.ResolutionIndex = 0;
         return;
@@ -70,6 +64,7 @@ void Apply(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer) {
     BeginGraphicsEdit(State, Window);
 }
 
+/// What was not applied is lost without a question, and that is meant.
 void Leave(GameState &State, SDL_Window *Window) {
     if (GraphicsEditDirty(State)) {
         RevertGraphicsEdit(State, Window);

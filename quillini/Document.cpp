@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <stdexcept>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>

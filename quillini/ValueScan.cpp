@@ -3,7 +3,6 @@
 #include "quillini/ReadState.hpp"
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 

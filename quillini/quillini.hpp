@@ -89,6 +89,7 @@ enum class IniEncoding : std::uint8_t {
 std::vector<IniSection>::iterator FindIniSection(IniDocument &Document, std::string_view Name);
 std::vector<IniSection>::const_iterator FindIniSection(const IniDocument &Document, std::string_view Name);
 
+/// Whether there is a section of that name.
 bool HasIniSection(const IniDocument &Document, std::string_view Name);
 
 /// Throws std::out_of_range if Index is negative or not below the number of sections.
@@ -152,16 +153,16 @@ std::vector<std::string> SplitAny(std::string_view Text, std::string_view Delimi
 /// UTF-32, std::runtime_error for an invalid unicode escape, and what AddIniArrayElement throws.
 bool ReadIniFile(IniDocument &Document, std::string_view Path);
 
-/// Writes a document over a file; Spaced puts blanks around separators and blank lines between sections.
-/// False if it cannot be opened; later failures of the disk are not seen. Throws as EscapeIniText, with part
-/// of it written.
+/// Writes a document over a file; Spaced puts blanks around separators and before comments, and blank lines
+/// between sections. False if it cannot be opened; later failures of the disk are not seen. Throws as
+/// EscapeIniText, and as WriteIniEncoded for marks and line ends of the document, with part of it written.
 bool WriteIniFile(const IniDocument &Document, std::string_view Path, bool Spaced, IniEncoding Encoding);
 
 /// Writes UTF-8 text in an encoding, without a byte order mark; nothing for a value that is no encoding.
 /// Throws std::range_error if the text is invalid and has to be converted.
 void WriteIniEncoded(std::string_view Text, std::ostream &File, IniEncoding Encoding);
 
-/// The text in pure ASCII, with quotes, backslashes, control characters and all beyond ASCII as escapes.
+/// The text in pure ASCII, with quotes, backslashes, the codes below 0x1F and all beyond ASCII as escapes.
 /// Throws std::runtime_error if it is not UTF-8.
 std::string EscapeIniText(std::string_view Text);
 

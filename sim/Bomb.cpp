@@ -26,7 +26,7 @@ void ThrowBomb(GameState &State, const StepInput &StepInput) {
         return;
     }
     State.SpecialActive = true;
-    --State.Bombs;
+    --State.Bombs; // also on an empty road, and that is meant
     State.SpecialTimer = BombFlashSeconds;
     std::int64_t count = TakeAll(State, State.Enemies, Burst::BombedEnemy);
     count += TakeAll(State, State.Obstacles, Burst::BombedObstacle);

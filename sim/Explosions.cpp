@@ -10,7 +10,7 @@ void AgeExplosions(GameState &State, float dt) {
     for (Explosion &explosion : State.Explosions) {
         explosion.Age += dt;
     }
-    std::erase_if(State.Explosions, [](const Explosion &Burst) {
-        return Burst.Age >= Burst.Life;
+    std::erase_if(State.Explosions, [](const Explosion &Explosion) {
+        return Explosion.Age >= Explosion.Life;
     });
 }

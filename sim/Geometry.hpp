@@ -5,12 +5,14 @@
 // Contact tests in logical pixels. A touch counts as a hit. They are by far the most frequent calls of a
 // step, so they stand here to be inlined.
 
+/// Between two points, in square pixels.
 inline float SquaredDistance(float X1, float Y1, float X2, float Y2) {
     const float dx = X1 - X2;
     const float dy = Y1 - Y2;
     return dx * dx + dy * dy;
 }
 
+/// Whether two circles, given by centre and radius, share a point.
 inline bool CirclesTouch(float X1, float Y1, float Radius1, float X2, float Y2, float Radius2) {
     const float reach = Radius1 + Radius2;
     return reach * reach >= SquaredDistance(X1, Y1, X2, Y2);

@@ -34,7 +34,7 @@ void ApplyItem(GameState &State, std::int32_t Type) {
     case ItemTypeBomb:
         Pocket(State, State.Bombs, MaxBombs);
         break;
-    case ItemTypeInvincibility:
+    case ItemTypeInvincibility: // a second one fills the time up again and adds nothing, and that is meant
         State.InvincibilityPowerTimer = std::max(InvincibilitySeconds, State.InvincibilityPowerTimer);
         break;
     case ItemTypeDualWeapon:

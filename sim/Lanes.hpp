@@ -4,9 +4,9 @@
 
 struct GameState;
 
-constexpr std::int32_t LaneCount = 9; ///< numbered 0 to 8 from the left
-constexpr std::int32_t PlayerStartLane = 4;
-constexpr float RoadWidth = 320.0F;
+inline constexpr std::int32_t LaneCount = 9; ///< numbered 0 to 8 from the left
+inline constexpr std::int32_t PlayerStartLane = 4;
+inline constexpr float RoadWidth = 320.0F;
 
 /// The road's edges in logical pixels; the road is centred on the logical screen.
 float RoadLeft();

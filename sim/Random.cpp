@@ -3,7 +3,6 @@
 #include "state/GameState.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace {

@@ -16,9 +16,6 @@ constexpr float EaseRate = 5.5F; ///< per second
 void MoveRoad(GameState &State, float dt) {
     const float target = TargetScrollSpeed(State.Stage);
     State.CurrentScrollSpeed += (target - State.CurrentScrollSpeed) * (1.0F - std::exp(-EaseRate * dt));
-    if (!std::isfinite(State.CurrentScrollSpeed)) {
-        State.CurrentScrollSpeed = target; // it would never ease back by itself
-    }
     const float distance = State.CurrentScrollSpeed * dt;
     State.StageTransition = std::min(State.StageTransition + distance / LogicalHeightF, 1.0F);
     State.RoadScroll += distance;

@@ -4,7 +4,7 @@
 
 struct GameState;
 
-constexpr float StageSeconds = 26.0F;
+inline constexpr float StageSeconds = 26.0F;
 
 /// The road speed that a stage eases towards, in logical pixels a second. The table repeats from stage 10 on.
 float TargetScrollSpeed(std::int32_t Stage);

@@ -14,6 +14,7 @@ constexpr bool IsSpaceAscii(char Character) {
     return Character == ' ' || (Character >= '\t' && Character <= '\r');
 }
 
+/// The text with its letters A to Z made small.
 inline std::string LowerCased(std::string Text) {
     std::ranges::transform(Text, Text.begin(), ToLowerAscii);
     return Text;

@@ -13,8 +13,8 @@ enum class KeyboardAction : std::int32_t {
     Heal = 4,
 };
 
-/// Rows of the gamepad and the joystick table. Steering is fixed on a pad, confirm and back on the keyboard,
-/// so the two kinds of table differ.
+/// Rows of the gamepad and the joystick table. Steering is fixed on these devices, confirm and back on the
+/// keyboard, so the two kinds of table differ.
 enum class PadAction : std::int32_t {
     Fire = 0,
     Bomb = 1,
@@ -42,6 +42,7 @@ enum CaptureKind : std::int32_t {
 /// (from 0). Any other value is unbound.
 using BindingTable = std::array<std::int32_t, 5>;
 
+/// What a row of a table is bound to.
 constexpr std::int32_t BindingOf(const BindingTable &Table, KeyboardAction Action) {
     return Table[static_cast<std::size_t>(Action)];
 }
@@ -51,19 +52,19 @@ constexpr std::int32_t BindingOf(const BindingTable &Table, PadAction Action) {
 }
 
 /// The arrow keys left and right, left control, X, space bar (SDL scancodes).
-constexpr BindingTable DefaultKeyboardBindings{80, 79, 224, 27, 44};
+inline constexpr BindingTable DefaultKeyboardBindings{80, 79, 224, 27, 44};
 
 /// South, west, north, south, east (SDL gamepad buttons). Fire and confirm share a button on purpose.
-constexpr BindingTable DefaultGamepadBindings{0, 2, 3, 0, 1};
+inline constexpr BindingTable DefaultGamepadBindings{0, 2, 3, 0, 1};
 
 /// Joystick button indices; fire and confirm share one on purpose.
-constexpr BindingTable DefaultJoystickBindings{0, 1, 2, 0, 3};
+inline constexpr BindingTable DefaultJoystickBindings{0, 1, 2, 0, 3};
 
 /// The values that an SDL scancode and an SDL gamepad button of a table may have.
-constexpr std::int32_t FirstScancode = 1;
-constexpr std::int32_t LastScancode = 511;
-constexpr std::int32_t LastGamepadButton = 25;
+inline constexpr std::int32_t FirstScancode = 1;
+inline constexpr std::int32_t LastScancode = 511;
+inline constexpr std::int32_t LastGamepadButton = 25;
 
 /// What stands in a row that nothing is bound to.
-constexpr std::int32_t UnboundKey = 0;
-constexpr std::int32_t UnboundButton = -1;
+inline constexpr std::int32_t UnboundKey = 0;
+inline constexpr std::int32_t UnboundButton = -1;

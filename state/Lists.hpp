@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+/// Whether an equal entry is in the list.
 template <typename Value> bool Contains(const std::vector<Value> &List, const Value &Entry) {
     return std::ranges::find(List, Entry) != List.end();
 }

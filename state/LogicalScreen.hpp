@@ -5,10 +5,10 @@
 // The logical screen: everything is placed and drawn in its pixels, x to the right, y downwards.
 
 /// Height of the logical screen in logical pixels, whatever the display.
-constexpr std::int32_t LogicalHeight = 720;
+inline constexpr std::int32_t LogicalHeight = 720;
 
 /// The same as a float, for geometry.
-constexpr float LogicalHeightF = static_cast<float>(LogicalHeight);
+inline constexpr float LogicalHeightF = static_cast<float>(LogicalHeight);
 
 /// Width of the logical screen in logical pixels: 960, 1080, 1152, 1280, 1728 or 2560, by the aspect mode and
 /// the shape of the chosen resolution. Set by ComputeLogicalWidth alone.

@@ -4,20 +4,20 @@
 
 // The keys that move menus, as SDL scancodes. They are fixed: rebinding does not touch them.
 
-constexpr std::int32_t ScancodeA = 4;
-constexpr std::int32_t ScancodeD = 7;
-constexpr std::int32_t ScancodeS = 22;
-constexpr std::int32_t ScancodeW = 26;
-constexpr std::int32_t ScancodeReturn = 40;
-constexpr std::int32_t ScancodeEscape = 41;
-constexpr std::int32_t ScancodeBackspace = 42;
-constexpr std::int32_t ScancodeSpace = 44;
-constexpr std::int32_t ScancodeDelete = 76;
-constexpr std::int32_t ScancodeRight = 79;
-constexpr std::int32_t ScancodeLeft = 80;
-constexpr std::int32_t ScancodeDown = 81;
-constexpr std::int32_t ScancodeUp = 82;
-constexpr std::int32_t ScancodeKeypadEnter = 88;
+inline constexpr std::int32_t ScancodeA = 4;
+inline constexpr std::int32_t ScancodeD = 7;
+inline constexpr std::int32_t ScancodeS = 22;
+inline constexpr std::int32_t ScancodeW = 26;
+inline constexpr std::int32_t ScancodeReturn = 40;
+inline constexpr std::int32_t ScancodeEscape = 41;
+inline constexpr std::int32_t ScancodeBackspace = 42;
+inline constexpr std::int32_t ScancodeSpace = 44;
+inline constexpr std::int32_t ScancodeDelete = 76;
+inline constexpr std::int32_t ScancodeRight = 79;
+inline constexpr std::int32_t ScancodeLeft = 80;
+inline constexpr std::int32_t ScancodeDown = 81;
+inline constexpr std::int32_t ScancodeUp = 82;
+inline constexpr std::int32_t ScancodeKeypadEnter = 88;
 
 constexpr bool IsKeyUp(std::int32_t Scancode) {
     return Scancode == ScancodeUp || Scancode == ScancodeW;

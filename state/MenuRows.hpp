@@ -46,11 +46,11 @@ enum class AudioRow : std::int32_t {
     Back,
 };
 
-constexpr std::int32_t PauseRowCount = 4;
-constexpr std::int32_t OptionsMainRowCount = 4;
-constexpr std::int32_t ControlsRowCount = 10;
-constexpr std::int32_t GraphicsRowCount = 9;
-constexpr std::int32_t AudioRowCount = 10;
+inline constexpr std::int32_t PauseRowCount = 4;
+inline constexpr std::int32_t OptionsMainRowCount = 4;
+inline constexpr std::int32_t ControlsRowCount = 10;
+inline constexpr std::int32_t GraphicsRowCount = 9;
+inline constexpr std::int32_t AudioRowCount = 10;
 
 constexpr std::uint32_t MainMenuRowCount(bool HasRunState) {
     return HasRunState ? 6 : 5;

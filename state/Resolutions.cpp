@@ -67,14 +67,6 @@ std::int32_t LogicalWidthFor(enum AspectMode AspectMode, std::int32_t Width, std
     return 1280;
 }
 
-/// The list that is in force: the display's own, or the built-in table while that one is empty.
-std::span<const Resolution> ResolutionsInForce(const GameState &State) {
-    if (State.Resolutions.empty()) {
-        return BuiltInResolutions(State.AspectMode);
-    }
-    return State.Resolutions;
-}
-
 std::int32_t ClampToList(std::int32_t Index, std::span<const Resolution> List) {
     return std::clamp(Index, 0, static_cast<std::int32_t>(List.size()) - 1);
 }
@@ -116,6 +108,13 @@ std::span<const Resolution> BuiltInResolutions(enum AspectMode AspectMode) {
         return BuiltInResolutions4x3;
     }
     return BuiltInResolutionsWide;
+}
+
+std::span<const Resolution> ResolutionsInForce(const GameState &State) {
+    if (State.Resolutions.empty()) {
+        return BuiltInResolutions(State.AspectMode);
+    }
+    return State.Resolutions;
 }
 
 Resolution CurrentResolution(const GameState &State) {

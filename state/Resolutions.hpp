@@ -23,6 +23,12 @@ void ComputeLogicalWidth(enum AspectMode AspectMode, std::int32_t Width, std::in
 /// The sizes offered where no size of a display fits the aspect mode, smallest first.
 std::span<const Resolution> BuiltInResolutions(enum AspectMode AspectMode);
 
+/// Where the built-in table of widescreen has 1280 by 720.
+inline constexpr std::int32_t DefaultResolutionIndex = 3;
+
+/// The list that is in force: the display's own, or the built-in table while that one is empty.
+std::span<const Resolution> ResolutionsInForce(const GameState &State);
+
 /// The resolution at ResolutionIndex, the index clamped to the list that is in force; the field stays as it
 /// is.
 Resolution CurrentResolution(const GameState &State);

@@ -7,10 +7,10 @@
 struct GameState;
 
 /// The volumes that the game starts with, in percent.
-constexpr std::int32_t DefaultMasterVolume = 100;
-constexpr std::int32_t DefaultMusicVolume = 50;
-constexpr std::int32_t DefaultSfxVolume = 75;
-constexpr std::int32_t MaxVolume = 100;
+inline constexpr std::int32_t DefaultMasterVolume = 100;
+inline constexpr std::int32_t DefaultMusicVolume = 50;
+inline constexpr std::int32_t DefaultSfxVolume = 75;
+inline constexpr std::int32_t MaxVolume = 100;
 
 /// The synthesised sounds.
 enum class SfxId : std::uint8_t {

@@ -2,5 +2,5 @@
 
 // Under which name the player's files are kept.
 
-constexpr const char *Organisation = "Orrin";
-constexpr const char *Application = "KestrelVolley";
+inline constexpr const char *Organisation = "Orrin";
+inline constexpr const char *Application = "KestrelVolley";

@@ -40,11 +40,8 @@ void ReadBindings(const IniDocument &Document, const BindingSection &Section, Ga
 }
 
 bool IsListed(const GameState &State, const Resolution &Size) {
-    if (!State.Resolutions.empty()) {
-        return Contains(State.Resolutions, Size);
-    }
-    const std::span<const Resolution> builtIn = BuiltInResolutions(State.AspectMode);
-    return std::ranges::find(builtIn, Size) != builtIn.end();
+    const std::span<const Resolution> list = ResolutionsInForce(State);
+    return std::ranges::find(list, Size) != list.end();
 }
 
 void ReadResolution(const IniDocument &Document, GameState &State) {

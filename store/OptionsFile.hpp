@@ -2,10 +2,10 @@
 
 struct GameState;
 
-constexpr const char *OptionsFileName = "Config.ini";
+inline constexpr const char *OptionsFileName = "Config.ini";
 
 /// Reads the options file. False if there is none that can be read; then nothing has changed. A key that is
-/// missing or bad leaves what was there.
+/// missing or bad leaves what was there; volumes, rates and sizes are brought into what is offered.
 bool LoadOptions(GameState &State);
 
 /// Writes the options file anew; nothing of an older one is kept. False if it did not reach the user's

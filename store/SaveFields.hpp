@@ -13,16 +13,16 @@
 // What the save state holds, in the order in which it stands in the file. Writing and reading go by the same
 // tables, so that they cannot drift apart. Floats are Double tokens, whole numbers Int32, the score Int64.
 
-constexpr std::string_view HighScoreKey = "HighScore";
-constexpr std::string_view HasRunStateKey = "HasRunState";
-constexpr std::string_view RunStateKey = "RunState";
-constexpr std::string_view PlayerKey = "Player";
+inline constexpr std::string_view HighScoreKey = "HighScore";
+inline constexpr std::string_view HasRunStateKey = "HasRunState";
+inline constexpr std::string_view RunStateKey = "RunState";
+inline constexpr std::string_view PlayerKey = "Player";
 
 template <typename Record>
 using SaveMember = std::variant<float Record::*, std::int32_t Record::*, std::int64_t Record::*,
     bool Record::*, struct Color Record::*>;
 
-constexpr double NoLimit = std::numeric_limits<double>::infinity();
+inline constexpr double NoLimit = std::numeric_limits<double>::infinity();
 
 /// A field, and the range that a number is brought into after reading.
 template <typename Record> struct SaveField {
@@ -33,7 +33,7 @@ template <typename Record> struct SaveField {
 };
 
 /// The run without its player and its lists. The initial values of a GameState stand for missing keys.
-constexpr std::array<SaveField<GameState>, 24> RunFields{{
+inline constexpr std::array<SaveField<GameState>, 24> RunFields{{
     {"Score", &GameState::Score, 0},
     {"Stage", &GameState::Stage, 1},
     {"PreviousStage", &GameState::PreviousStage, 1},
@@ -60,7 +60,7 @@ constexpr std::array<SaveField<GameState>, 24> RunFields{{
     {"DualWeaponPowerTimer", &GameState::DualWeaponPowerTimer, 0},
 }};
 
-constexpr std::array<SaveField<Player>, 7> PlayerFields{{
+inline constexpr std::array<SaveField<Player>, 7> PlayerFields{{
     {"X", &Player::X}, // replaced by the lane's
     {"Y", &Player::Y, 0, LogicalHeight},
     {"Radius", &Player::Radius},
@@ -70,14 +70,14 @@ constexpr std::array<SaveField<Player>, 7> PlayerFields{{
     {"FireCooldown", &Player::FireCooldown, 0},
 }};
 
-constexpr std::array<SaveField<Bullet>, 4> BulletFields{{
+inline constexpr std::array<SaveField<Bullet>, 4> BulletFields{{
     {"X", &Bullet::X},
     {"Y", &Bullet::Y},
     {"Speed", &Bullet::Speed},
     {"Radius", &Bullet::Radius},
 }};
 
-constexpr std::array<SaveField<EnemyBullet>, 5> EnemyBulletFields{{
+inline constexpr std::array<SaveField<EnemyBullet>, 5> EnemyBulletFields{{
     {"X", &EnemyBullet::X},
     {"Y", &EnemyBullet::Y},
     {"Speed", &EnemyBullet::Speed},
@@ -85,7 +85,7 @@ constexpr std::array<SaveField<EnemyBullet>, 5> EnemyBulletFields{{
     {"Damage", &EnemyBullet::Damage},
 }};
 
-constexpr std::array<SaveField<Enemy>, 11> EnemyFields{{
+inline constexpr std::array<SaveField<Enemy>, 11> EnemyFields{{
     {"X", &Enemy::X},
     {"Y", &Enemy::Y},
     {"Speed", &Enemy::Speed},
@@ -99,7 +99,7 @@ constexpr std::array<SaveField<Enemy>, 11> EnemyFields{{
     {"Color", &Enemy::Color},
 }};
 
-constexpr std::array<SaveField<Obstacle>, 10> ObstacleFields{{
+inline constexpr std::array<SaveField<Obstacle>, 10> ObstacleFields{{
     {"X", &Obstacle::X},
     {"Y", &Obstacle::Y},
     {"Speed", &Obstacle::Speed},
@@ -112,7 +112,7 @@ constexpr std::array<SaveField<Obstacle>, 10> ObstacleFields{{
     {"Type", &Obstacle::Type, 0, 2},
 }};
 
-constexpr std::array<SaveField<Item>, 6> ItemFields{{
+inline constexpr std::array<SaveField<Item>, 6> ItemFields{{
     {"X", &Item::X},
     {"Y", &Item::Y},
     {"Speed", &Item::Speed},
@@ -121,7 +121,7 @@ constexpr std::array<SaveField<Item>, 6> ItemFields{{
     {"Type", &Item::Type, 0, 3},
 }};
 
-constexpr std::array<SaveField<Explosion>, 6> ExplosionFields{{
+inline constexpr std::array<SaveField<Explosion>, 6> ExplosionFields{{
     {"X", &Explosion::X},
     {"Y", &Explosion::Y},
     {"Age", &Explosion::Age},
@@ -132,12 +132,13 @@ constexpr std::array<SaveField<Explosion>, 6> ExplosionFields{{
 
 // What stands for the missing keys of a list's entry.
 
-constexpr Bullet SavedBullet{.Radius = 2.0F};
-constexpr EnemyBullet SavedEnemyBullet{.Speed = 190.0F, .Radius = 2.0F, .Damage = 12};
-constexpr Enemy SavedEnemy{};
-constexpr Obstacle SavedObstacle{};
-constexpr Item SavedItem{};
-constexpr Explosion SavedExplosion{.Life = 0.5F, .MaxRadius = 20.0F, .Color = {0xFF, 0xDC, 0x64, 0xDC}};
+inline constexpr Bullet SavedBullet{.Radius = 2.0F};
+inline constexpr EnemyBullet SavedEnemyBullet{.Speed = 190.0F, .Radius = 2.0F, .Damage = 12};
+inline constexpr Enemy SavedEnemy{};
+inline constexpr Obstacle SavedObstacle{};
+inline constexpr Item SavedItem{};
+inline constexpr Explosion SavedExplosion{
+    .Life = 0.5F, .MaxRadius = 20.0F, .Color = {0xFF, 0xDC, 0x64, 0xDC}};
 
 /// Calls Visit(key, member list of the state, its fields, its defaults) for each list, in the file's order.
 template <typename Visitor> void VisitSaveLists(Visitor Visit) {
@@ -154,7 +155,7 @@ struct ColorChannel {
     std::uint8_t Color::*Value;
 };
 
-constexpr std::array<ColorChannel, 4> ColorChannels{{
+inline constexpr std::array<ColorChannel, 4> ColorChannels{{
     {"R", &Color::R},
     {"G", &Color::G},
     {"B", &Color::B},

@@ -3,4 +3,4 @@
 #include "store/SaveState.hpp"
 #include "store/StagedFile.hpp"
 
-constexpr StagedFile SaveStateFile{SaveStateFileName, ".SaveState.bin.tmp"};
+inline constexpr StagedFile SaveStateFile{SaveStateFileName, ".SaveState.bin.tmp"};

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdio>
-#include <string>
-
 #include "store/Paths.hpp"
 #include "store/Storage.hpp"
+
+#include <cstdio>
+#include <string>
 
 /// A file of the user's storage and the name of the plain file through which it is read and written. The
 /// plain file lives for one operation; one that a crash has left behind is overwritten and never read.

@@ -63,7 +63,7 @@ private:
 struct ValueToken {
     ValueTag Tag = ValueTag::None;
     std::uint32_t Depth = 0; ///< of an array or object, after entering it; otherwise 0
-    /// Text lives as long as the reader that gave it.
+    /// Text lives as long as the reader that gave it, and until that loads again.
     std::variant<std::monostate, std::string_view, std::uint64_t, std::int64_t, double, std::uint32_t,
         std::int32_t, bool>
         Value;
@@ -76,6 +76,7 @@ public:
     /// Reads the whole file. False after a line on standard error if it cannot be opened.
     bool Load(const std::string &Path);
 
+    /// The next token and its value; tag None at the end of the data and for damage.
     ValueToken NextToken();
 
     /// Walks an array or object, whose opening token is Container; false at its end. What the caller has left

@@ -113,7 +113,7 @@ struct TextRow {
 };
 
 /// In the order of the enumeration.
-constexpr std::array<TextRow, 98> TextTable{{
+inline constexpr std::array<TextRow, 98> TextTable{{
     {"MainMenu.ContinueGame", "CONTINUE GAME"},
     {"MainMenu.NewGame", "NEW GAME"},
     {"MainMenu.Options", "OPTIONS"},

@@ -29,8 +29,8 @@ TEST_F(AudioAtStart, WithoutADeviceTheGameRunsSilent) {
 }
 
 TEST_F(AudioInFrames, TheSoundsOfAFrameAreTakenInIt) {
-    PushSound(State, SfxId::UiMove);
-    PushSound(State, SfxId::UiMove);
+    PushSound(State, SfxId::PlayerDeath); // the longest: it still plays when the frame is over
+    PushSound(State, SfxId::PlayerDeath);
     RunFrame(Program);
     EXPECT_EQ(State.PendingSounds.Count, 0U);
     EXPECT_TRUE(MIX_TrackPlaying(Program.Music.SfxTracks[0]));

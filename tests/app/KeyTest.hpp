@@ -19,11 +19,11 @@ inline const Scancodes LeftKeys{80, 4};
 inline const Scancodes RightKeys{79, 7};
 inline const Scancodes ActivateKeys{40, 44, 88};
 inline const Scancodes EnterKeys{40, 88};
-constexpr std::int32_t UpKey = 82;
-constexpr std::int32_t DownKey = 81;
-constexpr std::int32_t EnterKey = 40;
-constexpr std::int32_t SpaceBar = 44;
-constexpr std::int32_t EscapeKey = 41;
+inline constexpr std::int32_t UpKey = 82;
+inline constexpr std::int32_t DownKey = 81;
+inline constexpr std::int32_t EnterKey = 40;
+inline constexpr std::int32_t SpaceBar = 44;
+inline constexpr std::int32_t EscapeKey = 41;
 
 /// What a key does to the record, done to a copy by hand.
 using Change = std::function<void(GameState &Expected)>;

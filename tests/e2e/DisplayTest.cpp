@@ -19,7 +19,7 @@ enum GraphicsRow { Resolution, AspectMode, RefreshRate, DisplayMode, VSync, Defa
 
 // The main menu in any size, told by the colour of its title: the game has opened its window for good.
 bool SomeMainMenu(const Picture &Seen) {
-    return BoundsOfColour(Seen, {0, 0, Seen.Width, Seen.Height}, {0x37, 0x82, 0xFF}) != Area{};
+    return BoundsOfColor(Seen, {0, 0, Seen.Width, Seen.Height}, {0x37, 0x82, 0xFF}) != Area{};
 }
 
 Picture Cut(const Picture &Seen, const Area &Part) {
@@ -172,7 +172,7 @@ TEST(Display, ASmallWindowShowsTheWholeGameSmall) {
     constexpr Pixel edgeLine{0xB4, 0xB9, 0xBE};
     EXPECT_TRUE(game.WaitForPicture([&](const Picture &Seen) {
         const Picture window = Cut(Seen, *place);
-        const Area road = BoundsOfColour(window, {0, 100, window.Width, 101}, edgeLine);
+        const Area road = BoundsOfColor(window, {0, 100, window.Width, 101}, edgeLine);
         return road.Left == 240 && road.Right == 400;
     }));
 }
@@ -224,7 +224,7 @@ TEST(Display, AnotherShapeInTheMiddleOfARunKeepsTheCarInItsLane) {
     home.Put(OptionsFile, GraphicsOptions(1280, 720, false, true));
     OpenedGame game(home, FiveRowMenu(0), Wall, Desk::Managed);
     ASSERT_TRUE(game.Tap(Key::Return, CarInLane(4)));
-    ASSERT_TRUE(game.Tap(Key::Right, CarInLane(5)));
+    ASSERT_TRUE(game.Tap(Key::Right, CarInLane(8)));
     ASSERT_TRUE(game.Tap(Key::Escape, PauseMenu(0)));
     ASSERT_TRUE(game.Tap(Key::Down, PauseMenu(1)));
     ASSERT_TRUE(game.Tap(Key::Return, OptionsMenu(0)));
@@ -236,7 +236,7 @@ TEST(Display, AnotherShapeInTheMiddleOfARunKeepsTheCarInItsLane) {
     ASSERT_TRUE(game.Tap(Key::Escape, OptionsMenu(1)));
     ASSERT_TRUE(game.Tap(Key::Escape, PauseMenu(1)));
     ASSERT_TRUE(game.Tap(Key::Escape, RunFillsPart(FilledBy(960))));
-    EXPECT_TRUE(game.WaitForPicture(Within(FilledBy(960), CarInLane(5))));
+    EXPECT_TRUE(game.WaitForPicture(Within(FilledBy(960), CarInLane(8))));
     EXPECT_TRUE(Keeps(home, "Graphics", "AspectMode", "classic4x3"));
     EXPECT_TRUE(Keeps(home, "Graphics", "ResolutionWidth", "960"));
     EXPECT_EQ(game.Close(), std::optional(0));

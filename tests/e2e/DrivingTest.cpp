@@ -46,8 +46,8 @@ std::vector<int> LanesOf(const std::vector<Sighting> &Drive) {
 // Taps the key until the car leaves that lane. The game looks at held keys once a frame, so a tap that falls
 // between two frames of a slow machine is lost.
 bool TapUntilMoved(PlayedGame &Game, Key Tapped, int From) {
-    // Less than the 90 milliseconds after which a held key moves the car again.
-    constexpr milliseconds held{50};
+    // Well below the 90 milliseconds after which a held key moves the car again.
+    constexpr milliseconds held{25};
     for (int attempt = 0; attempt < 20; ++attempt) {
         Game.Person().TapKey(Tapped, held);
         if (!Game.StaysFor(10, CarInLane(From))) {

@@ -34,16 +34,24 @@ bool IsBadlyHurt(const Picture &Seen) {
 } // namespace
 
 TEST(FirstAid, TheSpaceBarSpendsAKitAndHeals) {
-    constexpr std::chrono::minutes patience{4};
+    constexpr std::chrono::minutes patience{2};
     PlayedGame game;
     ASSERT_TRUE(CatchKit(game)) << "no first aid kit came";
-    const std::optional<Picture> hurt = game.WaitForPicture(IsBadlyHurt, patience);
-    ASSERT_TRUE(hurt);
-    const int kits = KitsShown(*hurt);
-    ASSERT_GE(kits, 1);
-    const std::optional<Picture> healed = game.Tap(Key::Space, [kits](const Picture &Seen) {
-        return KitsShown(Seen) == kits - 1;
-    });
+    // A blow in the same moment may cost a life, and with full health no kit is spent: then once more.
+    std::optional<Picture> hurt;
+    std::optional<Picture> healed;
+    for (int attempt = 0; attempt < 3 && !healed; ++attempt) {
+        hurt = game.WaitForPicture(IsBadlyHurt, patience);
+        ASSERT_TRUE(hurt);
+        const int kits = KitsShown(*hurt);
+        ASSERT_GE(kits, 1);
+        game.Person().TapKey(Key::Space, std::chrono::milliseconds{50});
+        healed = game.WaitForPicture(
+            [kits](const Picture &Seen) {
+                return KitsShown(Seen) == kits - 1;
+            },
+            std::chrono::seconds{5});
+    }
     ASSERT_TRUE(healed);
     EXPECT_GT(HealthShown(*healed), HealthShown(*hurt));
 }

@@ -9,37 +9,37 @@
 
 namespace {
 
-constexpr Pixel SelectedColour{0xF5, 0xF5, 0xF5};
-constexpr Pixel RowColour{0xB9, 0xB9, 0xB9};
-constexpr Pixel HudColour{0xEB, 0xEB, 0xEB};
-constexpr Pixel TitleColour{0xF0, 0xF0, 0xF0};
+constexpr Pixel SelectedColor{0xF5, 0xF5, 0xF5};
+constexpr Pixel RowColor{0xB9, 0xB9, 0xB9};
+constexpr Pixel HudColor{0xEB, 0xEB, 0xEB};
+constexpr Pixel TitleColor{0xF0, 0xF0, 0xF0};
 
-constexpr Pixel SectionColour{0x69, 0xAF, 0xFF};
+constexpr Pixel SectionColor{0x69, 0xAF, 0xFF};
 
 enum AudioRow { Language = 5, DefaultSettings, Apply };
 
 // A row of the main menu without a run.
 Sight MenuRowShows(int Row, const std::string &Text) {
     return [Row, Text](const Picture &Seen) {
-        return ShowsText(Seen, Text, 375 + Row * 36, 4, {SelectedColour, RowColour});
+        return ShowsText(Seen, Text, 375 + Row * 36, 4, {SelectedColor, RowColor});
     };
 }
 
 Sight HudShows(int Top, const std::string &Text) {
     return [Top, Text](const Picture &Seen) {
-        return ShowsText(Seen, Text, Top, 3, {HudColour});
+        return ShowsText(Seen, Text, Top, 3, {HudColor});
     };
 }
 
 Sight OptionsTitleIs(const std::string &Text) {
     return [Text](const Picture &Seen) {
-        return ShowsText(Seen, Text, 42, 6, {TitleColour});
+        return ShowsText(Seen, Text, 42, 6, {TitleColor});
     };
 }
 
 Sight SectionIs(const std::string &Text) {
     return [Text](const Picture &Seen) {
-        return ShowsText(Seen, Text, 100, 4, {SectionColour});
+        return ShowsText(Seen, Text, 100, 4, {SectionColor});
     };
 }
 
@@ -103,7 +103,7 @@ TEST(Language, AChangeOnTheAudioPageShowsAtOnceAndIsKept) {
     const PreparedHome home;
     {
         PlayedGame game({}, {}, &home);
-        ASSERT_TRUE(game.Tap(Key::Right, CarInLane(5)));
+        ASSERT_TRUE(game.Tap(Key::Right, CarInLane(8)));
         ASSERT_TRUE(game.Tap(Key::Escape, PauseMenu(0)));
         ASSERT_TRUE(game.Tap(Key::Down, PauseMenu(1)));
         ASSERT_TRUE(game.Tap(Key::Return, OptionsMenu(0)));
@@ -115,7 +115,7 @@ TEST(Language, AChangeOnTheAudioPageShowsAtOnceAndIsKept) {
         ASSERT_NO_FATAL_FAILURE(ActivateRow(game, Page::Audio, Apply, OptionsTitleIs(German.OptionsTitle)));
         ASSERT_TRUE(game.Tap(Key::Escape, SectionIs("MEN\u00DC")));
         game.TapInOneFrame({Key::Escape, Key::Escape}); // out of the options and out of the pause
-        ASSERT_TRUE(game.StaysFor(5, CarInLane(5)));
+        ASSERT_TRUE(game.StaysFor(5, CarInLane(8)));
         EXPECT_TRUE(HudShows(92, German.Score)(game.Person().Screenshot()));
         EXPECT_EQ(game.Close(), std::optional(0));
         EXPECT_EQ(game.Program().Output(), "");
@@ -124,8 +124,8 @@ TEST(Language, AChangeOnTheAudioPageShowsAtOnceAndIsKept) {
     // Below the row that continues the run, or in the first one if all this took less than the 0.8 seconds
     // after which a new run is saved.
     OpenedGame game(home, [](const Picture &Seen) {
-        return ShowsText(Seen, German.NewGame, 393, 4, {RowColour}) ||
-               ShowsText(Seen, German.NewGame, 375, 4, {SelectedColour});
+        return ShowsText(Seen, German.NewGame, 393, 4, {RowColor}) ||
+               ShowsText(Seen, German.NewGame, 375, 4, {SelectedColor});
     });
 }
 

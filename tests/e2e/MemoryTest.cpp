@@ -21,7 +21,7 @@ enum Row { Resume, Options, Help, MainMenu };
 
 // A save is written 0.8 seconds of frames after it was asked for; a frame counts for 33 milliseconds at most,
 // so a slow machine takes longer.
-constexpr milliseconds UntilSaved{GAME_IS_SANITIZED != 0 ? 6000 : 2500};
+constexpr milliseconds UntilSaved{6000};
 
 // The screen with nothing but the paused run on it, as it then lies in the file. The car is in lane 8, a bomb
 // is gone, shots are in the air and the score is above 0.
@@ -34,10 +34,10 @@ std::optional<Picture> PauseARunWorthKeeping(PlayedGame &Game) {
                                 },
                                 patience)
                             .has_value();
+    // Held, since a life that is lost puts the car back into the middle.
     Game.Person().PressKey(Key::Right);
     const bool moved = Game.WaitForPicture(CarInLane(8)).has_value();
-    Game.Person().ReleaseKey(Key::Right);
-    const bool thrown = Game.Tap(Key::X,
+    const bool thrown = Game.TapUntil(Key::X,
                                 [](const Picture &Seen) {
                                     return BombsShown(Seen) == 2;
                                 })
@@ -48,6 +48,7 @@ std::optional<Picture> PauseARunWorthKeeping(PlayedGame &Game) {
                           })
                           .has_value();
     const bool paused = Game.Tap(Key::Escape, PauseMenu(Resume)).has_value();
+    Game.Person().ReleaseKey(Key::Right);
     Game.Person().ReleaseKey(Key::LeftControl);
     std::this_thread::sleep_for(UntilSaved);
     return scored && moved && thrown && calm && paused ? Game.WaitForPicture(PauseMenu(Resume))
@@ -102,7 +103,7 @@ TEST(Memory, ContinueGameResumesTheRunAsItStoodToThePixel) {
     ASSERT_TRUE(continued);
     EXPECT_TRUE(continued->Pixels == left->Pixels);
     ASSERT_TRUE(game.Tap(Key::Escape, ScreenIs(SeenScreen::Playing)));
-    EXPECT_TRUE(game.Tap(Key::Left, CarInLane(7)));
+    EXPECT_TRUE(game.Tap(Key::Left, CarInLane(0)));
     EXPECT_EQ(game.Close(), std::optional(0));
     EXPECT_EQ(game.Program().Output(), "");
 }
@@ -130,12 +131,15 @@ TEST(Memory, ANewGameQuitAtOnceBringsTheOldRunBack) {
 
 TEST(Memory, ANewGamePlayedForAWhileReplacesTheOldRun) {
     const PreparedHome home;
-    home.Put(SaveFile, MadeSave({.HighScore = 7000, .Score = 6000, .Lane = 2}));
+    const std::string old = MadeSave({.HighScore = 7000, .Score = 6000, .Lane = 2});
+    home.Put(SaveFile, old);
     {
         OpenedGame game({}, {}, &home);
         ASSERT_TRUE(game.Tap(Key::Down, SixRowMenu(1)));
         ASSERT_TRUE(game.Tap(Key::Return, CarInLane(4)));
-        std::this_thread::sleep_for(UntilSaved);
+        ASSERT_TRUE(WaitUntil([&] {
+            return StoresRun(home) == true && home.Read(SaveFile) != old;
+        }));
         ASSERT_EQ(game.Close(), std::optional(0));
     }
     EXPECT_EQ(StoredHighScore(home), std::optional<std::int64_t>(7000));
@@ -207,10 +211,11 @@ int RoundsOfKilling() {
 
 } // namespace
 
-// KILLING_ROUNDS sets how often.
+// KILLING_ROUNDS sets how often. SDL empties the file before it writes it: a kill in that quarter of a
+// millisecond costs the high score, and would here, once in thousands of rounds.
 TEST(Memory, KilledAtAnyMomentTheNextStartLoadsAndTheHighScoreNeverFalls) {
     const PreparedHome home;
-    std::mt19937 random(20260211); // NOLINT(cert-msc51-cpp): the same moments each time
+    std::mt19937 random(20260211); // NOLINT(cert-msc51-cpp): the same course each time
     std::int64_t highest = 0;
     int runsFound = 0;
     for (int round = 0; round < RoundsOfKilling(); ++round) {

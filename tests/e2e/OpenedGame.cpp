@@ -45,8 +45,11 @@ void OpenedGame::WaitForMenu(const Sight &Shows) {
     if (!WaitForPicture(Shows)) {
         throw std::runtime_error("The main menu does not come. The game says:\n" + Program().Output());
     }
-    // Read anew: the first frame may have given the window another size.
+    // Looked for anew: it may have another size by now, or be another window.
     Opened = Session.Person().FindWindow(window->Title).value_or(*window);
+    if (!Person().GiveFocus(Opened)) {
+        throw std::runtime_error("The game's window does not take the keyboard.");
+    }
 }
 
 const DesktopWindow &OpenedGame::Window() const {
@@ -71,6 +74,17 @@ std::optional<Picture> OpenedGame::WaitForPicture(const Sight &Shows, std::chron
 
 std::optional<Picture> OpenedGame::Tap(Key Tapped, const Sight &Shows) {
     return Session.Tap(Tapped, Shows);
+}
+
+std::optional<Picture> OpenedGame::TapUntil(Key Tapped, const Sight &Shows) {
+    constexpr std::chrono::milliseconds held{60};
+    constexpr std::chrono::milliseconds patience{3000};
+    std::optional<Picture> seen;
+    for (int attempt = 0; attempt < 10 && !seen; ++attempt) {
+        Person().TapKey(Tapped, held);
+        seen = WaitForPicture(Shows, patience);
+    }
+    return seen;
 }
 
 // All of it waits in the stopped game's connection and is read at once when the game goes on.

@@ -31,6 +31,9 @@ public:
     std::optional<Picture> WaitForPicture(
         const Sight &Shows, std::chrono::milliseconds Deadline = PatientDeadline);
     std::optional<Picture> Tap(Key Tapped, const Sight &Shows);
+    // Taps briefly, and again where a frame of a slow machine was too long to see it. For keys that act anew
+    // while they are held.
+    std::optional<Picture> TapUntil(Key Tapped, const Sight &Shows);
     // Taps the keys so fast that one frame of the game takes them all.
     void TapInOneFrame(const std::vector<Key> &Tapped);
 

@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr Pixel SelectedColour{0xF5, 0xF5, 0xF5};
-constexpr Pixel OtherColour{0xB4, 0xB4, 0xB4};
-constexpr Pixel HeadingColour{0x69, 0xAF, 0xFF};
+constexpr Pixel SelectedColor{0xF5, 0xF5, 0xF5};
+constexpr Pixel OtherColor{0xB4, 0xB4, 0xB4};
+constexpr Pixel HeadingColor{0x69, 0xAF, 0xFF};
 
 constexpr int MostRows = 10;
 
@@ -32,7 +32,7 @@ std::optional<int> FindSelectedRow(const Picture &Seen) {
     std::optional<int> selected;
     for (int row = 0; row < MostRows; ++row) {
         const Area band{0, TopOfRow(row), Seen.Width, TopOfRow(row) + RowHeight};
-        if (BoundsOfColour(Seen, band, SelectedColour) != Area{}) {
+        if (BoundsOfColor(Seen, band, SelectedColor) != Area{}) {
             if (selected) {
                 return std::nullopt;
             }
@@ -44,7 +44,7 @@ std::optional<int> FindSelectedRow(const Picture &Seen) {
 
 bool ShowsHeading(const Picture &Seen, Page Shown) {
     return ShowsText(
-        Seen, Headings[static_cast<std::size_t>(Shown)], HeadingTop, HeadingScale, {HeadingColour});
+        Seen, Headings[static_cast<std::size_t>(Shown)], HeadingTop, HeadingScale, {HeadingColor});
 }
 
 } // namespace
@@ -63,7 +63,7 @@ Sight SelectedRowIs(int Row) {
 
 Sight RowShows(int Row, const std::string &Text) {
     return [Row, Text](const Picture &Seen) {
-        return ShowsText(Seen, Text, TopOfRow(Row), RowScale, {SelectedColour, OtherColour});
+        return ShowsText(Seen, Text, TopOfRow(Row), RowScale, {SelectedColor, OtherColor});
     };
 }
 

@@ -26,8 +26,10 @@ std::optional<Picture> PauseARunUnderWay(PlayedGame &Game) {
                                 patience)
                             .has_value();
     Game.Person().ReleaseKey(Key::LeftControl);
-    const bool moved = Game.Tap(Key::Right, CarInLane(8)).has_value();
-    const bool thrown = Game.Tap(Key::X,
+    // Held, since a life that is lost puts the car back into the middle.
+    Game.Person().PressKey(Key::Right);
+    const bool moved = Game.WaitForPicture(CarInLane(8)).has_value();
+    const bool thrown = Game.TapUntil(Key::X,
                                 [](const Picture &Seen) {
                                     return BombsShown(Seen) == 2;
                                 })
@@ -37,6 +39,7 @@ std::optional<Picture> PauseARunUnderWay(PlayedGame &Game) {
                               return !SeesBlast(Seen) && CarInLane(8)(Seen) && FindShots(Seen).empty();
                           })
                           .has_value();
+    Game.Person().ReleaseKey(Key::Right);
     return scored && moved && thrown && calm ? Game.Tap(Key::Escape, PauseMenu(Resume)) : std::nullopt;
 }
 
@@ -104,7 +107,7 @@ TEST(Pause, MainMenuOffersToContinueTheRunWhereItStood) {
 
 TEST(Pause, NewGameBeginsAnewThoughThereIsARun) {
     PlayedGame game;
-    ASSERT_TRUE(game.Tap(Key::X, [](const Picture &Seen) {
+    ASSERT_TRUE(game.TapUntil(Key::X, [](const Picture &Seen) {
         return BombsShown(Seen) == 2;
     }));
     ASSERT_TRUE(game.Tap(Key::Escape, PauseMenu(Resume)));

@@ -29,11 +29,9 @@ TEST(Run, FiringEmptiesTheAmmoBarAndARestRefillsIt) {
 
 TEST(Run, ABombGoesFromThePanel) {
     PlayedGame game;
-    game.Person().PressKey(Key::X);
-    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+    EXPECT_TRUE(game.TapUntil(Key::X, [](const Picture &Seen) {
         return BombsShown(Seen) == 2;
     }));
-    game.Person().ReleaseKey(Key::X);
     EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
         return !SeesBlast(Seen);
     }));

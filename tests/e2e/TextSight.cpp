@@ -39,12 +39,12 @@ LitSquares SquaresOf(std::string_view Text) {
     return squares;
 }
 
-bool Stands(const Picture &Seen, const LitSquares &Squares, Area Place, int Scale, Pixel Colour) {
+bool Stands(const Picture &Seen, const LitSquares &Squares, Area Place, int Scale, Pixel Color) {
     for (int y = Place.Top; y < Place.Bottom; ++y) {
         for (int x = Place.Left - FreeColumns * Scale; x < Place.Right + FreeColumns * Scale; ++x) {
             // Shifted, so that what stands before the text rounds to columns before it.
             const int column = (x - Place.Left + FreeColumns * Scale) / Scale - FreeColumns;
-            const bool isLit = PixelAt(Seen, x, y) == Colour;
+            const bool isLit = PixelAt(Seen, x, y) == Color;
             if (isLit != Squares.At(column, (y - Place.Top) / Scale)) {
                 return false;
             }
@@ -56,13 +56,13 @@ bool Stands(const Picture &Seen, const LitSquares &Squares, Area Place, int Scal
 } // namespace
 
 bool ShowsText(
-    const Picture &Seen, std::string_view Text, int Top, int Scale, const std::vector<Pixel> &Colours) {
+    const Picture &Seen, std::string_view Text, int Top, int Scale, const std::vector<Pixel> &Colors) {
     const LitSquares squares = SquaresOf(Text);
     const int width = squares.Columns * Scale;
     for (int left = FreeColumns * Scale; left + width + FreeColumns * Scale <= Seen.Width; ++left) {
         const Area place{left, Top, left + width, Top + GlyphRows * Scale};
-        if (std::any_of(Colours.begin(), Colours.end(), [&](const Pixel &Colour) {
-                return Stands(Seen, squares, place, Scale, Colour);
+        if (std::any_of(Colors.begin(), Colors.end(), [&](const Pixel &Color) {
+                return Stands(Seen, squares, place, Scale, Color);
             })) {
             return true;
         }

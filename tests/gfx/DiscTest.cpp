@@ -58,7 +58,7 @@ TEST_F(Disc, WhoseRadiusRoundsUpHasARowMoreOfASinglePixel) {
     EXPECT_EQ(shown.At(641, 296), Backdrop);
 }
 
-TEST_F(Disc, BlendsByTheAlphaOfItsColourEachPixelOnce) {
+TEST_F(Disc, BlendsByTheAlphaOfItsColorEachPixelOnce) {
     FillDisc(Renderer(), 100.0F, 200.0F, 40.0F, 0x80FFFFFF);
     ExpectedPicture expected(ScreenWidth, ScreenHeight);
     expected.Disc(100, 200, 40.0, 0x80FFFFFF);

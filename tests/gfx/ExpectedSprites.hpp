@@ -15,7 +15,7 @@ struct ExpectedSprite {
 };
 
 // clang-format off
-constexpr std::array<ExpectedSprite, 21> ExpectedSprites{{
+inline constexpr std::array<ExpectedSprite, 21> ExpectedSprites{{
     { 0, // Player
         "A=FFDCD6D2 B=FF6E605A C=FF965E2C D=FFBC8444 E=FF241E1C F=FFF5DCAA G=FFA56C30 H=FF3A588C I=FF5FAAFA",
         {{

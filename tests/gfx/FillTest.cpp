@@ -24,7 +24,7 @@ TEST_F(Fill, CoversExactlyTheRectangle) {
     EXPECT_TRUE(expected.IsShownBy(Shown()));
 }
 
-TEST_F(Fill, BlendsByTheAlphaOfTheColour) {
+TEST_F(Fill, BlendsByTheAlphaOfTheColor) {
     FillRect(Renderer(), 100.0F, 200.0F, 30.0F, 7.0F, 0x800A141E);
     ExpectedPicture expected(ScreenWidth, ScreenHeight);
     expected.BlendRect(100, 200, 30, 7, 0x800A141E);

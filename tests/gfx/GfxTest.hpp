@@ -42,5 +42,5 @@ private:
 GameState EmptyRoad(std::int32_t Stage = 1);
 
 /// The screen that the tests draw on where they do not choose another.
-constexpr int ScreenWidth = 1280;
-constexpr int ScreenHeight = 720;
+inline constexpr int ScreenWidth = 1280;
+inline constexpr int ScreenHeight = 720;

@@ -27,7 +27,7 @@ public:
 };
 
 /// The text that SDL_GetError gives after such a failure.
-constexpr const char *FailingCallError = "made to fail";
+inline constexpr const char *FailingCallError = "made to fail";
 
 /// How many surfaces and textures have been handed out and not been destroyed.
 int LivingSurfaces();

@@ -92,7 +92,7 @@ TEST_F(TextDraw, AdvancesEightSquaresOverTheCopyrightSign) {
     EXPECT_TRUE(expected.IsShownBy(Shown()));
 }
 
-TEST_F(TextDraw, BlendsEachSquareOnceByTheAlphaOfTheColour) {
+TEST_F(TextDraw, BlendsEachSquareOnceByTheAlphaOfTheColor) {
     constexpr std::uint32_t translucent = 0x64143CC8;
     DrawText(Renderer(), "H8", 10.0F, 20.0F, 3, translucent);
     ExpectedPicture expected(Width, Height);
@@ -105,7 +105,7 @@ TEST_F(TextDraw, BlendsEachSquareOnceByTheAlphaOfTheColour) {
     EXPECT_NEAR(static_cast<int>(shown >> 16U & 0xFFU), (0x14 * 100 + 0xFF * 155) / 255, 2);
 }
 
-TEST_F(TextDraw, InATransparentColourShowsNothing) {
+TEST_F(TextDraw, InATransparentColorShowsNothing) {
     DrawText(Renderer(), "H8", 10.0F, 20.0F, 3, 0x00143CC8);
     EXPECT_EQ(Shown().BoundsOfAllBut(Backdrop).w, 0);
 }

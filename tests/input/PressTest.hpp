@@ -7,7 +7,7 @@
 #include <array>
 #include <optional>
 
-constexpr std::array<enum Screen, 6> MenuScreens{
+inline constexpr std::array<enum Screen, 6> MenuScreens{
     ScreenMainMenu, ScreenOptions, ScreenHelp, ScreenPaused, ScreenCredits, ScreenGameOver};
 
 /// A test with an open gamepad and an open joystick, and events of theirs made by hand. What each gives is a

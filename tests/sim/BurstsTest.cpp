@@ -12,7 +12,7 @@ struct Row {
     Burst Occasion;
     float Life;
     float MaxRadius;
-    Color Colour;
+    struct Color Color;
 };
 
 constexpr std::array<Row, 15> Rows{{
@@ -40,7 +40,7 @@ TEST(Bursts, EveryOccasionHasItsOwnLook) {
         GameState state = QuietRun();
         AddBurst(state, row.Occasion, 12.5F, 34.5F);
         EXPECT_EQ(state.Explosions,
-            (std::vector<Explosion>{NewBurst(12.5F, 34.5F, row.Life, row.MaxRadius, row.Colour)}))
+            (std::vector<Explosion>{NewBurst(12.5F, 34.5F, row.Life, row.MaxRadius, row.Color)}))
             << "occasion " << static_cast<int>(row.Occasion);
     }
 }

@@ -8,12 +8,12 @@
 
 namespace {
 
-const Color RamColour{0xFF, 0xC8, 0x78, 0xDC};
-const Color EnemyShotColour{0xFF, 0xA5, 0x5F, 0xD7};
-const Color CrashColour{0xE6, 0xBE, 0x78, 0xDC};
-const Color DamageColour{0xFF, 0xAA, 0x6E, 0xE6};
+const Color RamColor{0xFF, 0xC8, 0x78, 0xDC};
+const Color EnemyShotColor{0xFF, 0xA5, 0x5F, 0xD7};
+const Color CrashColor{0xE6, 0xBE, 0x78, 0xDC};
+const Color DamageColor{0xFF, 0xAA, 0x6E, 0xE6};
 
-const Explosion HurtBurst = NewBurst(640.0F, 670.0F, 0.5F, 22.0F, DamageColour);
+const Explosion HurtBurst = NewBurst(640.0F, 670.0F, 0.5F, 22.0F, DamageColor);
 
 /// The player's points after a crash into an obstacle of a type.
 std::int32_t HpAfterCrash(std::int32_t Type) {
@@ -35,7 +35,7 @@ TEST(Ram, AnEnemyThatTouchesThePlayerIsUsedUpAndHurts) {
     EXPECT_EQ(state.Player.Hp, 66);
     EXPECT_EQ(state.Score, 0);
     EXPECT_EQ(state.Explosions,
-        (std::vector<Explosion>{NewBurst(640.0F, 650.0F, 0.35F, 21.0F, RamColour), HurtBurst}));
+        (std::vector<Explosion>{NewBurst(640.0F, 650.0F, 0.35F, 21.0F, RamColor), HurtBurst}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::PlayerHit});
 }
 
@@ -63,8 +63,8 @@ TEST(Ram, OfTwoInAFrameTheSecondIsUsedUpAndDealsNothing) {
     EXPECT_TRUE(state.Enemies.empty());
     EXPECT_EQ(state.Player.Hp, 66);
     EXPECT_EQ(state.InvulnerabilityTimer, 1.0F);
-    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 660.0F, 0.35F, 21.0F, RamColour),
-                                    HurtBurst, NewBurst(640.0F, 680.0F, 0.35F, 21.0F, RamColour)}));
+    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 660.0F, 0.35F, 21.0F, RamColor),
+                                    HurtBurst, NewBurst(640.0F, 680.0F, 0.35F, 21.0F, RamColor)}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::PlayerHit});
 }
 
@@ -76,7 +76,7 @@ TEST(Ram, WhileInvulnerableTheEnemyIsUsedUpWithItsBurstAndNoSound) {
     EXPECT_TRUE(state.Enemies.empty());
     EXPECT_EQ(state.Player.Hp, 100);
     EXPECT_EQ(state.InvulnerabilityTimer, 0.5F);
-    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 660.0F, 0.35F, 21.0F, RamColour)}));
+    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 660.0F, 0.35F, 21.0F, RamColor)}));
     EXPECT_EQ(state.PendingSounds.Count, 0U);
 }
 
@@ -119,7 +119,7 @@ TEST(EnemyShots, HurtByTheirOwnDamageAndAreUsedUp) {
     EXPECT_TRUE(state.EnemyBullets.empty());
     EXPECT_EQ(state.Player.Hp, 88);
     EXPECT_EQ(state.Explosions,
-        (std::vector<Explosion>{NewBurst(640.0F, 656.0F, 0.22F, 12.0F, EnemyShotColour), HurtBurst}));
+        (std::vector<Explosion>{NewBurst(640.0F, 656.0F, 0.22F, 12.0F, EnemyShotColor), HurtBurst}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::PlayerHit});
 }
 
@@ -148,7 +148,7 @@ TEST(EnemyShots, WhileInvincibleAreUsedUpWithTheirBurst) {
     EXPECT_TRUE(state.EnemyBullets.empty());
     EXPECT_EQ(state.Player.Hp, 100);
     EXPECT_EQ(
-        state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 670.0F, 0.22F, 12.0F, EnemyShotColour)}));
+        state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 670.0F, 0.22F, 12.0F, EnemyShotColor)}));
 }
 
 TEST(EnemyShots, LeaveBelowTheScreen) {
@@ -182,7 +182,7 @@ TEST(Crash, AnObstacleThatTouchesThePlayerIsUsedUpAndHurts) {
     EXPECT_EQ(state.Player.Hp, 76);
     EXPECT_EQ(state.Score, 0);
     EXPECT_EQ(state.Explosions,
-        (std::vector<Explosion>{NewBurst(640.0F, 651.0F, 0.4F, 20.0F, CrashColour), HurtBurst}));
+        (std::vector<Explosion>{NewBurst(640.0F, 651.0F, 0.4F, 20.0F, CrashColor), HurtBurst}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::PlayerHit});
 }
 
@@ -221,7 +221,7 @@ TEST(Crash, WhileInvincibleTheObstacleIsUsedUpWithItsBurst) {
     MeetObstacles(state);
     EXPECT_TRUE(state.Obstacles.empty());
     EXPECT_EQ(state.Player.Hp, 100);
-    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 670.0F, 0.4F, 20.0F, CrashColour)}));
+    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 670.0F, 0.4F, 20.0F, CrashColor)}));
     EXPECT_EQ(state.PendingSounds.Count, 0U);
 }
 

@@ -7,10 +7,10 @@
 
 namespace {
 
-const Color DamageColour{0xFF, 0xAA, 0x6E, 0xE6};
-const Color RespawnColour{0xFF, 0xE6, 0x78, 0xE6};
-const Color DyingFirstColour{0xFF, 0xB9, 0x5F, 0xE6};
-const Color DyingSecondColour{0xFF, 0xE6, 0x8C, 0xD2};
+const Color DamageColor{0xFF, 0xAA, 0x6E, 0xE6};
+const Color RespawnColor{0xFF, 0xE6, 0x78, 0xE6};
+const Color DyingFirstColor{0xFF, 0xB9, 0x5F, 0xE6};
+const Color DyingSecondColor{0xFF, 0xE6, 0x8C, 0xD2};
 
 /// A quiet run with the player elsewhere and in need of everything that a lost life resets.
 GameState RunBeforeTheBlow(std::int32_t Hp, std::int32_t Stocks) {
@@ -37,8 +37,7 @@ TEST(Damage, TakesPointsAndMakesInvulnerableForASecond) {
     DamagePlayer(state, 24);
     EXPECT_EQ(state.Player.Hp, 76);
     EXPECT_EQ(state.InvulnerabilityTimer, 1.0F);
-    EXPECT_EQ(
-        state.Explosions, (std::vector<Explosion>{NewBurst(738.0F, 670.0F, 0.5F, 22.0F, DamageColour)}));
+    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(738.0F, 670.0F, 0.5F, 22.0F, DamageColor)}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::PlayerHit});
     EXPECT_EQ(state.Player.Stocks, 2);
     EXPECT_EQ(state.PlayerLane, 7);
@@ -104,8 +103,8 @@ TEST(Damage, ALostLifePutsThePlayerBackInTheMiddleWithFullHealth) {
     EXPECT_EQ(state.InvulnerabilityTimer, 2.0F);
     EXPECT_EQ(state.LaneMoveCooldown, 0.0F);
     EXPECT_FALSE(state.PlayerDying);
-    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(738.0F, 600.0F, 0.5F, 22.0F, DamageColour),
-                                    NewBurst(640.0F, 670.0F, 0.8F, 35.0F, RespawnColour)}));
+    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(738.0F, 600.0F, 0.5F, 22.0F, DamageColor),
+                                    NewBurst(640.0F, 670.0F, 0.8F, 35.0F, RespawnColor)}));
     EXPECT_EQ(SoundsOf(state), (Sounds{SfxId::PlayerHit, SfxId::PlayerDeath}));
 }
 
@@ -157,9 +156,9 @@ TEST(Damage, WithoutASpareLifeTheRunBeginsToEnd) {
     EXPECT_EQ(state.Enemies.size(), 1U);
     EXPECT_EQ(state.Obstacles.size(), 1U);
     EXPECT_EQ(state.Items.size(), 1U);
-    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(738.0F, 670.0F, 0.5F, 22.0F, DamageColour),
-                                    NewBurst(738.0F, 670.0F, 0.65F, 64.0F, DyingFirstColour),
-                                    NewBurst(738.0F, 670.0F, 0.85F, 44.0F, DyingSecondColour)}));
+    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(738.0F, 670.0F, 0.5F, 22.0F, DamageColor),
+                                    NewBurst(738.0F, 670.0F, 0.65F, 64.0F, DyingFirstColor),
+                                    NewBurst(738.0F, 670.0F, 0.85F, 44.0F, DyingSecondColor)}));
     EXPECT_EQ(SoundsOf(state), (Sounds{SfxId::PlayerHit, SfxId::PlayerDeath}));
     EXPECT_EQ(state.Screen, ScreenPlaying);
     EXPECT_TRUE(state.HasRunState);

@@ -60,12 +60,12 @@ inline std::vector<SfxId> SoundsOf(const GameState &State) {
 
 using Sounds = std::vector<SfxId>;
 
-constexpr StepInput HeldNothing{false, false, false, false};
-constexpr StepInput HeldLeft{true, false, false, false};
-constexpr StepInput HeldRight{false, true, false, false};
-constexpr StepInput HeldBothWays{true, true, false, false};
-constexpr StepInput HeldFire{false, false, true, false};
-constexpr StepInput HeldBomb{false, false, false, true};
+inline constexpr StepInput HeldNothing{false, false, false, false};
+inline constexpr StepInput HeldLeft{true, false, false, false};
+inline constexpr StepInput HeldRight{false, true, false, false};
+inline constexpr StepInput HeldBothWays{true, true, false, false};
+inline constexpr StepInput HeldFire{false, false, true, false};
+inline constexpr StepInput HeldBomb{false, false, false, true};
 
 /// The length of a frame at about 60 frames a second, exact in binary.
-constexpr float Frame = 0.015625F;
+inline constexpr float Frame = 0.015625F;

@@ -7,10 +7,10 @@
 
 namespace {
 
-const Color ShotOnObstacleColour{0xE6, 0xDC, 0xAA, 0xDC};
-const Color DestroyedObstacleColour{0xD7, 0xAA, 0x6E, 0xE1};
-const Color ShotOnEnemyColour{0xFA, 0xF0, 0xB4, 0xDC};
-const Color DestroyedEnemyColour{0xFF, 0xC8, 0x64, 0xE6};
+const Color ShotOnObstacleColor{0xE6, 0xDC, 0xAA, 0xDC};
+const Color DestroyedObstacleColor{0xD7, 0xAA, 0x6E, 0xE1};
+const Color ShotOnEnemyColor{0xFA, 0xF0, 0xB4, 0xDC};
+const Color DestroyedEnemyColor{0xFF, 0xC8, 0x64, 0xE6};
 
 bool Drops(Draws Of) {
     return Of.Unit() < 0.08F;
@@ -42,7 +42,7 @@ TEST(ShotsOnObstacles, TakeOnePointAndLetItFlash) {
     EXPECT_EQ(state.Obstacles[0].HitFlash, 0.12F);
     EXPECT_TRUE(state.Bullets.empty());
     EXPECT_EQ(state.Explosions,
-        (std::vector<Explosion>{NewBurst(645.0F, 105.0F, 0.2F, 10.0F, ShotOnObstacleColour)}));
+        (std::vector<Explosion>{NewBurst(645.0F, 105.0F, 0.2F, 10.0F, ShotOnObstacleColor)}));
     EXPECT_EQ(state.Score, 0);
     EXPECT_EQ(state.PendingSounds.Count, 0U);
 }
@@ -59,8 +59,8 @@ TEST(ShotsOnObstacles, TheLastPointPaysByTheStageAndDrawsNothing) {
     EXPECT_TRUE(state.Bullets.empty());
     EXPECT_EQ(state.Score, 159); // 150 x 1.06
     EXPECT_EQ(
-        state.Explosions, (std::vector<Explosion>{NewBurst(645.0F, 105.0F, 0.2F, 10.0F, ShotOnObstacleColour),
-                              NewBurst(640.0F, 100.0F, 0.45F, 20.0F, DestroyedObstacleColour)}));
+        state.Explosions, (std::vector<Explosion>{NewBurst(645.0F, 105.0F, 0.2F, 10.0F, ShotOnObstacleColor),
+                              NewBurst(640.0F, 100.0F, 0.45F, 20.0F, DestroyedObstacleColor)}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::ObstacleDown});
     EXPECT_EQ(state.Rng, FreshRng(3));
 }
@@ -122,7 +122,7 @@ TEST(ShotsOnEnemies, TakeOnePointFromAHeavyOneAndLetItFlash) {
     EXPECT_EQ(state.Enemies[0].HitFlash, 0.12F);
     EXPECT_TRUE(state.Bullets.empty());
     EXPECT_EQ(
-        state.Explosions, (std::vector<Explosion>{NewBurst(643.0F, 104.0F, 0.2F, 12.0F, ShotOnEnemyColour)}));
+        state.Explosions, (std::vector<Explosion>{NewBurst(643.0F, 104.0F, 0.2F, 12.0F, ShotOnEnemyColor)}));
     EXPECT_EQ(state.Score, 0);
     EXPECT_EQ(state.PendingSounds.Count, 0U);
     EXPECT_EQ(state.Rng, FreshRng(3));
@@ -138,8 +138,8 @@ TEST(ShotsOnEnemies, TheLastPointPaysByTheStage) {
     EXPECT_TRUE(state.Bullets.empty());
     EXPECT_EQ(state.Score, 212); // 200 x 1.06
     EXPECT_EQ(
-        state.Explosions, (std::vector<Explosion>{NewBurst(643.0F, 104.0F, 0.2F, 12.0F, ShotOnEnemyColour),
-                              NewBurst(640.0F, 100.0F, 0.45F, 24.0F, DestroyedEnemyColour)}));
+        state.Explosions, (std::vector<Explosion>{NewBurst(643.0F, 104.0F, 0.2F, 12.0F, ShotOnEnemyColor),
+                              NewBurst(640.0F, 100.0F, 0.45F, 24.0F, DestroyedEnemyColor)}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::EnemyDown});
 }
 

@@ -50,8 +50,8 @@ inline EnemyBullet EnemyBulletAt(float X, float Y, std::int32_t Damage = 10) {
 }
 
 /// A burst as it is born.
-inline Explosion NewBurst(float X, float Y, float Life, float MaxRadius, Color Colour) {
-    return {X, Y, 0.0F, Life, MaxRadius, Colour};
+inline Explosion NewBurst(float X, float Y, float Life, float MaxRadius, struct Color Color) {
+    return {X, Y, 0.0F, Life, MaxRadius, Color};
 }
 
 /// A generator that has given no number yet.

@@ -150,7 +150,7 @@ TEST(Defaults, AnItemThatIsBeingBuilt) {
     EXPECT_EQ(item.Type, 0);
 }
 
-TEST(Defaults, AColourIsRedGreenBlueAlphaInMemory) {
+TEST(Defaults, AColorIsRedGreenBlueAlphaInMemory) {
     const Color color{1, 2, 3, 4};
     EXPECT_EQ(color.R, 1);
     EXPECT_EQ(color.G, 2);

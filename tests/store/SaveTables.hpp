@@ -19,7 +19,7 @@ enum class SaveKind : std::uint8_t {
     Flag,  ///< Bool
 };
 
-constexpr double Anything = std::numeric_limits<double>::infinity();
+inline constexpr double Anything = std::numeric_limits<double>::infinity();
 
 /// One key of a record. Sample is a value that is no default and within the range.
 template <typename Record> struct SaveRow {
@@ -228,7 +228,7 @@ inline std::vector<StreamEntry> SampleRun() {
     return run;
 }
 
-constexpr std::int64_t SampleHighScore = 987654321098;
+inline constexpr std::int64_t SampleHighScore = 987654321098;
 
 /// A whole file around a run.
 inline std::string SaveBytes(const std::vector<StreamEntry> &Run) {

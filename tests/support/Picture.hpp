@@ -8,7 +8,7 @@
 // Real frames in memory, and their pixels. Colours are packed 0xAABBGGRR, red in the lowest byte.
 
 /// A colour that no picture of the game holds: what shows through is known by it.
-constexpr std::uint32_t Backdrop = 0xFFFF00FF;
+inline constexpr std::uint32_t Backdrop = 0xFFFF00FF;
 
 /// The pixels of a frame at one moment.
 class Picture {

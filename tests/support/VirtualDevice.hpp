@@ -31,9 +31,9 @@ private:
 };
 
 /// A gamepad with every axis and button, and a joystick with two axes, four buttons and a hat.
-constexpr DeviceShape GamepadShape{
+inline constexpr DeviceShape GamepadShape{
     SDL_JOYSTICK_TYPE_GAMEPAD, SDL_GAMEPAD_AXIS_COUNT, SDL_GAMEPAD_BUTTON_COUNT, 0};
-constexpr DeviceShape JoystickShape{};
+inline constexpr DeviceShape JoystickShape{};
 
 /// Whether this machine has a pad or joystick of its own, which would get in the way of the virtual ones.
 bool HasRealDevices();

@@ -14,7 +14,7 @@ struct ExpectedText {
     std::string_view Default;
 };
 
-constexpr std::array<ExpectedText, 98> ExpectedTexts{{
+inline constexpr std::array<ExpectedText, 98> ExpectedTexts{{
     {TextKey::MainMenuContinueGame, "MainMenu.ContinueGame", "CONTINUE GAME"},
     {TextKey::MainMenuNewGame, "MainMenu.NewGame", "NEW GAME"},
     {TextKey::MainMenuOptions, "MainMenu.Options", "OPTIONS"},

@@ -53,15 +53,16 @@ GameSession::GameSession(const std::filesystem::path &Program, ScreenSize Screen
       Game(Program, {}, Joined(PrivateEnvironment(UsedHome.Path(), Display.Name()), Settings)) {}
 
 std::optional<DesktopWindow> GameSession::WaitForWindow() {
+    // While the renderer is made, SDL may put another window in the place of the first one.
+    constexpr std::chrono::milliseconds attempt{200};
     std::optional<DesktopWindow> window;
+    bool hasFocus = false;
     WaitUntil([&] {
         window = Client.FindWindow(TitlePrefix);
-        return window || !Game.IsRunning();
+        hasFocus = window && Client.GiveFocus(*window, attempt);
+        return hasFocus || !Game.IsRunning();
     });
-    if (!window || !Client.GiveFocus(*window)) {
-        return std::nullopt;
-    }
-    return window;
+    return hasFocus ? window : std::nullopt;
 }
 
 std::optional<int> GameSession::Close() {

@@ -12,8 +12,8 @@ constexpr int CellColumns = 7;
 constexpr int CellRows = 8;
 
 constexpr Pixel Black{};
-constexpr Pixel SelectedColour{0xF5, 0xF5, 0xF5};
-constexpr Pixel NameColour{0xB9, 0xB9, 0xB9};
+constexpr Pixel SelectedColor{0xF5, 0xF5, 0xF5};
+constexpr Pixel NameColor{0xB9, 0xB9, 0xB9};
 
 constexpr int MarkerScale = 3;
 
@@ -24,7 +24,7 @@ struct Title {
     int Scale;
     int Left;
     int Top;
-    Pixel Colour;
+    Pixel Color;
 };
 
 constexpr int CentredLeft(int Letters, int Scale) {
@@ -36,7 +36,7 @@ constexpr std::array Titles{
     Title{SeenScreen::MainMenu, 7, 10, -362, 107, {0x37, 0x82, 0xFF}},             // KESTREL over 6 rows
     Title{SeenScreen::Options, 7, 6, CentredLeft(7, 6), 42, {0xF0, 0xF0, 0xF0}},   // OPTIONS
     Title{SeenScreen::Help, 4, 6, CentredLeft(4, 6), 42, {0xF0, 0xF0, 0xF0}},      // HELP
-    Title{SeenScreen::Paused, 6, 6, CentredLeft(6, 6), 195, SelectedColour},       // PAUSED
+    Title{SeenScreen::Paused, 6, 6, CentredLeft(6, 6), 195, SelectedColor},        // PAUSED
     Title{SeenScreen::GameOver, 9, 6, CentredLeft(9, 6), 304, {0xFF, 0x78, 0x78}}, // GAME OVER
 };
 
@@ -69,14 +69,14 @@ bool Stands(const Picture &Seen, const Title &Word) {
     const int cell = CellColumns * Word.Scale;
     const Area cells = CellsAt(Seen.Width / 2 + Word.Left, Word.Top, Word.Letters, Word.Scale);
     const Area around{cells.Left - cell, cells.Top - 1, cells.Right + cell, cells.Bottom + 1};
-    const Area ink = BoundsOfColour(Seen, around, Word.Colour);
+    const Area ink = BoundsOfColor(Seen, around, Word.Color);
     const int blank = 2 * Word.Scale;
     return ink.Left >= cells.Left && ink.Left <= cells.Left + blank && ink.Right <= cells.Right &&
            ink.Right >= cells.Right - blank && ink.Top == cells.Top && ink.Bottom <= cells.Bottom;
 }
 
 bool IsLit(const Picture &Seen, const Area &Cells) {
-    return BoundsOfColour(Seen, Cells, SelectedColour) != Area{};
+    return BoundsOfColor(Seen, Cells, SelectedColor) != Area{};
 }
 
 // The one row of the menu that is bright and marked; nothing unless that is exactly one, and all others are
@@ -117,7 +117,7 @@ const Title *FindTitle(const Picture &Seen) {
 
 bool IsCredits(const Picture &Seen) {
     return CountPixels(Seen, {0, 0, Seen.Width, Seen.Height}, [](const Pixel &Dot) {
-        return Dot != Black && Dot != SelectedColour && Dot != NameColour;
+        return Dot != Black && Dot != SelectedColor && Dot != NameColor;
     }) == 0;
 }
 
@@ -145,8 +145,8 @@ std::optional<Area> FindCreditsText(const Picture &Seen) {
         return std::nullopt;
     }
     const Area screen{0, 0, Seen.Width, Seen.Height};
-    const Area headings = BoundsOfColour(Seen, screen, SelectedColour);
-    const Area names = BoundsOfColour(Seen, screen, NameColour);
+    const Area headings = BoundsOfColor(Seen, screen, SelectedColor);
+    const Area names = BoundsOfColor(Seen, screen, NameColor);
     if (headings == Area{} || names == Area{}) {
         const Area &only = headings == Area{} ? names : headings;
         return only == Area{} ? std::nullopt : std::optional(only);

@@ -7,11 +7,11 @@ Area Overlap(const Picture &Seen, Area Wanted) {
         std::min(Wanted.Bottom, Seen.Height)};
 }
 
-Area BoundsOfColour(const Picture &Seen, Area Inside, Pixel Colour) {
+Area BoundsOfColor(const Picture &Seen, Area Inside, Pixel Color) {
     Area bounds;
     bool found = false;
     ForEachPixel(Seen, Inside, [&](int X, int Y, const Pixel &Dot) {
-        if (Dot != Colour) {
+        if (Dot != Color) {
             return;
         }
         bounds = found ? Area{std::min(bounds.Left, X), bounds.Top, std::max(bounds.Right, X + 1), Y + 1}

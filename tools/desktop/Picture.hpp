@@ -62,4 +62,4 @@ template <typename Predicate> int CountPixels(const Picture &Seen, Area Inside, 
 }
 
 // The smallest area around all pixels of Inside that have this colour; all 0 if there are none.
-Area BoundsOfColour(const Picture &Seen, Area Inside, Pixel Colour);
+Area BoundsOfColor(const Picture &Seen, Area Inside, Pixel Color);

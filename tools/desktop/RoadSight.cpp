@@ -8,12 +8,12 @@
 
 namespace {
 
-constexpr Pixel EdgeLineColour{0xB4, 0xB9, 0xBE};
-constexpr Pixel DashColour{0xEB, 0xEB, 0xEB};
-constexpr Pixel CarBodyColour{0x2C, 0x5E, 0x96};
-constexpr Pixel EnemyColour{0x8E, 0x76, 0x62};
-constexpr Pixel ToughEnemyColour{0x80, 0x6C, 0x58};
-constexpr Pixel ShotColour{0xF0, 0xD0, 0x48};
+constexpr Pixel EdgeLineColor{0xB4, 0xB9, 0xBE};
+constexpr Pixel DashColor{0xEB, 0xEB, 0xEB};
+constexpr Pixel CarBodyColor{0x2C, 0x5E, 0x96};
+constexpr Pixel EnemyColor{0x8E, 0x76, 0x62};
+constexpr Pixel ToughEnemyColor{0x80, 0x6C, 0x58};
+constexpr Pixel ShotColor{0xF0, 0xD0, 0x48};
 
 constexpr int RoadWidth = 320;
 constexpr int EdgeLineWidth = 4;
@@ -28,7 +28,7 @@ constexpr int CarTop = 640;
 constexpr int CarBottom = 700;
 
 // The numbers in the left column, of the HUD's text size.
-constexpr Pixel TextColour{0xEB, 0xEB, 0xEB};
+constexpr Pixel TextColor{0xEB, 0xEB, 0xEB};
 constexpr int TextLeft = 24;
 constexpr int TextHeight = 24;
 constexpr int DigitAdvance = 21;
@@ -47,10 +47,10 @@ constexpr int PanelMargin = 24;
 constexpr int BarHeight = 10;
 constexpr int HealthBarTop = 34;
 constexpr int AmmoBarTop = 68;
-constexpr Pixel HealthColour{0x5F, 0xE6, 0x82};
-constexpr Pixel AmmoColour{0xF0, 0xDC, 0x50};
-constexpr Pixel BombColour{0xCD, 0xD7, 0xEB};
-constexpr Pixel KitColour{0x5A, 0xE1, 0x87};
+constexpr Pixel HealthColor{0x5F, 0xE6, 0x82};
+constexpr Pixel AmmoColor{0xF0, 0xDC, 0x50};
+constexpr Pixel BombColor{0xCD, 0xD7, 0xEB};
+constexpr Pixel KitColor{0x5A, 0xE1, 0x87};
 constexpr int BombRowTop = 137;
 constexpr int KitRowTop = 167;
 constexpr int IconSize = 26;
@@ -73,7 +73,7 @@ bool IsEdgeLine(const Picture &Seen, int X) {
     const Area column{X, 0, X + 1, Seen.Height};
     return CountPixels(Seen, column,
                [](const Pixel &Dot) {
-                   return Dot == EdgeLineColour;
+                   return Dot == EdgeLineColor;
                }) *
                2 >
            Seen.Height;
@@ -84,7 +84,7 @@ bool IsWholeDash(const Picture &Seen, int X, int Top) {
         return false;
     }
     const auto isDash = [&](int Y) {
-        return PixelAt(Seen, X, Y) == DashColour;
+        return PixelAt(Seen, X, Y) == DashColor;
     };
     for (int y = Top; y < Top + DashHeight; ++y) {
         if (!isDash(y)) {
@@ -100,22 +100,22 @@ bool Touches(const Area &Shot, int X, int Y) {
 }
 
 // How wide a bar's fill is: the run of its colour in the middle row of the bar.
-int BarShown(const Picture &Seen, int Top, Pixel Colour) {
+int BarShown(const Picture &Seen, int Top, Pixel Color) {
     const Area row{PanelLeft(Seen), Top + BarHeight / 2, Seen.Width, Top + BarHeight / 2 + 1};
-    return CountPixels(Seen, row, [Colour](const Pixel &Dot) {
-        return Dot == Colour;
+    return CountPixels(Seen, row, [Color](const Pixel &Dot) {
+        return Dot == Color;
     });
 }
 
 // The lane in which a thing of one of these colours is lowest on the road, but not below the car.
-std::optional<int> LaneOfLowest(const Picture &Seen, std::initializer_list<Pixel> Colours) {
+std::optional<int> LaneOfLowest(const Picture &Seen, std::initializer_list<Pixel> Colors) {
     constexpr int halfBody = 8;
     std::optional<int> lane;
     int lowest = 0;
     for (int i = 0; i < LaneCount; ++i) {
         const int x = RoadArea(Seen, 0, 0).Left + LaneOffsets[static_cast<std::size_t>(i)];
-        for (const Pixel &colour : Colours) {
-            const Area thing = BoundsOfColour(Seen, {x - halfBody, 0, x + halfBody, CarBottom}, colour);
+        for (const Pixel &color : Colors) {
+            const Area thing = BoundsOfColor(Seen, {x - halfBody, 0, x + halfBody, CarBottom}, color);
             lane = thing.Bottom > lowest ? i : lane;
             lowest = std::max(lowest, thing.Bottom);
         }
@@ -124,10 +124,10 @@ std::optional<int> LaneOfLowest(const Picture &Seen, std::initializer_list<Pixel
 }
 
 // How many icons with this colour stand in the row of the panel.
-int IconsShown(const Picture &Seen, int Top, Pixel Colour) {
+int IconsShown(const Picture &Seen, int Top, Pixel Color) {
     return static_cast<int>(std::count_if(IconLefts.begin(), IconLefts.end(), [&](int Left) {
         const int x = PanelLeft(Seen) + Left;
-        return BoundsOfColour(Seen, {x, Top, x + IconSize, Top + IconSize}, Colour) != Area{};
+        return BoundsOfColor(Seen, {x, Top, x + IconSize, Top + IconSize}, Color) != Area{};
     }));
 }
 
@@ -136,7 +136,7 @@ std::vector<bool> DigitsAt(const Picture &Seen, int Top) {
     std::vector<bool> lit;
     ForEachPixel(
         Seen, {TextLeft, Top, TextLeft + ScoreWidth, Top + TextHeight}, [&lit](int, int, const Pixel &Dot) {
-            lit.push_back(Dot == TextColour);
+            lit.push_back(Dot == TextColor);
         });
     return lit;
 }
@@ -159,7 +159,7 @@ std::optional<RoadPlace> FindRoad(const Picture &Seen) {
 }
 
 std::optional<Area> FindCar(const Picture &Seen) {
-    const Area body = BoundsOfColour(Seen, RoadArea(Seen, CarTop, CarBottom), CarBodyColour);
+    const Area body = BoundsOfColor(Seen, RoadArea(Seen, CarTop, CarBottom), CarBodyColor);
     return body == Area{} ? std::nullopt : std::optional(body);
 }
 
@@ -179,7 +179,7 @@ std::optional<int> FindCarLane(const Picture &Seen) {
 std::vector<Area> FindShots(const Picture &Seen) {
     std::vector<Area> shots;
     ForEachPixel(Seen, RoadArea(Seen, 0, CarBottom), [&](int X, int Y, const Pixel &Dot) {
-        if (Dot != ShotColour) {
+        if (Dot != ShotColor) {
             return;
         }
         const auto shot = std::find_if(shots.begin(), shots.end(), [&](const Area &Known) {
@@ -196,16 +196,16 @@ std::vector<Area> FindShots(const Picture &Seen) {
 
 bool SeesEnemy(const Picture &Seen) {
     return CountPixels(Seen, RoadArea(Seen, 0, CarTop), [](const Pixel &Dot) {
-        return Dot == EnemyColour || Dot == ToughEnemyColour;
+        return Dot == EnemyColor || Dot == ToughEnemyColor;
     }) > 0;
 }
 
 std::optional<int> FindEnemyLane(const Picture &Seen) {
-    return LaneOfLowest(Seen, {EnemyColour, ToughEnemyColour});
+    return LaneOfLowest(Seen, {EnemyColor, ToughEnemyColor});
 }
 
 std::optional<int> FindKitLane(const Picture &Seen) {
-    return LaneOfLowest(Seen, {KitColour});
+    return LaneOfLowest(Seen, {KitColor});
 }
 
 std::optional<int> FindDashPhase(const Picture &Seen) {
@@ -228,19 +228,19 @@ bool SeesBlast(const Picture &Seen) {
 }
 
 int HealthShown(const Picture &Seen) {
-    return BarShown(Seen, HealthBarTop, HealthColour);
+    return BarShown(Seen, HealthBarTop, HealthColor);
 }
 
 int AmmoShown(const Picture &Seen) {
-    return BarShown(Seen, AmmoBarTop, AmmoColour);
+    return BarShown(Seen, AmmoBarTop, AmmoColor);
 }
 
 int BombsShown(const Picture &Seen) {
-    return IconsShown(Seen, BombRowTop, BombColour);
+    return IconsShown(Seen, BombRowTop, BombColor);
 }
 
 int KitsShown(const Picture &Seen) {
-    return IconsShown(Seen, KitRowTop, KitColour);
+    return IconsShown(Seen, KitRowTop, KitColor);
 }
 
 bool ScoreEqualsHighScore(const Picture &Seen) {
@@ -257,7 +257,7 @@ bool ScoreIsZero(const Picture &Seen) {
         const int left = TextLeft + digit * DigitAdvance;
         for (int row = 0; row < GlyphRows; ++row) {
             for (int column = 0; column < GlyphColumns; ++column) {
-                const bool lit = PixelAt(Seen, left + column * scale, ScoreTop + row * scale) == TextColour;
+                const bool lit = PixelAt(Seen, left + column * scale, ScoreTop + row * scale) == TextColor;
                 if (lit !=
                     ((ZeroRows[static_cast<std::size_t>(row)] >> (GlyphColumns - 1 - column) & 1) != 0)) {
                     return false;
