@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <type_traits>
 
 namespace {
@@ -24,11 +25,13 @@ struct SavedGame {
 
 // A value of the wrong kind leaves what was there.
 
-/// A number that is none, or beyond all numbers, can only come from a damaged file and leaves what was there.
+/// Only a damaged file holds more: a number that is none leaves what was there, and one beyond all floats
+/// becomes the largest.
 void ReadValue(ValueStreamReader & /*Reader*/, const ValueToken &Token, float &Out) {
+    constexpr float largest = std::numeric_limits<float>::max();
     float number = 0.0F;
-    if (TokenToFloat(Token, number) && std::isfinite(number)) {
-        Out = number;
+    if (TokenToFloat(Token, number) && !std::isnan(number)) {
+        Out = std::clamp(number, -largest, largest);
     }
 }
 

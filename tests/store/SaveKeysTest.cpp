@@ -1,6 +1,8 @@
 #include "tests/store/SaveSpots.hpp"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -83,25 +85,23 @@ TEST_F(SaveKeysTest, KeepAGoodValueWhenAWrongOneFollows) {
 }
 
 TEST_F(SaveKeysTest, TakeNoNumberThatIsNone) {
-    for (const double number : {std::numeric_limits<double>::quiet_NaN(), Anything, -Anything}) {
-        ForEveryKey(
-            [number](const Entries &Sample, const auto &Row) {
-                return With(Sample, Row.Key, DoubleToken(number));
-            },
-            [](const auto &Row) {
-                return Row.Default;
-            });
-    }
+    ForEveryKey(
+        [](const Entries &Sample, const auto &Row) {
+            return With(Sample, Row.Key, DoubleToken(std::numeric_limits<double>::quiet_NaN()));
+        },
+        [](const auto &Row) {
+            return Row.Default;
+        });
 }
 
-TEST_F(SaveKeysTest, TakeNoNumberBeyondTheFloats) {
-    for (const double number : {1e39, -1e39, 1e300}) {
+TEST_F(SaveKeysTest, TakeNoInfinityForAWholeNumber) {
+    for (const double number : {Anything, -Anything}) {
         ForEveryKey(
             [number](const Entries &Sample, const auto &Row) {
-                return Row.Kind == SaveKind::Real ? With(Sample, Row.Key, DoubleToken(number)) : Sample;
+                return Row.Kind == SaveKind::Real ? Sample : With(Sample, Row.Key, DoubleToken(number));
             },
             [](const auto &Row) {
-                return Row.Kind == SaveKind::Real ? Row.Default : Row.Sample;
+                return Row.Kind == SaveKind::Real ? Row.Sample : Row.Default;
             });
     }
 }
@@ -116,6 +116,20 @@ template <typename Row> double InRange(const Row &Key, double Value) {
         return Value < 0 ? -1 : 1;
     }
     return Clamped(Value, Key.Least, Key.Most);
+}
+
+TEST_F(SaveKeysTest, BeyondAllFloatsBecomeTheLargestAndAreBroughtIntoTheirRange) {
+    constexpr double largest = std::numeric_limits<float>::max();
+    for (const double number : {1e39, -1e39, 1e300, Anything, -Anything}) {
+        ForEveryKey(
+            [number](const Entries &Sample, const auto &Row) {
+                return Row.Kind == SaveKind::Real ? With(Sample, Row.Key, DoubleToken(number)) : Sample;
+            },
+            [number](const auto &Row) {
+                return Row.Kind == SaveKind::Real ? InRange(Row, number < 0 ? -largest : largest)
+                                                  : Row.Sample;
+            });
+    }
 }
 
 TEST_F(SaveKeysTest, AreBroughtIntoTheirRange) {
