@@ -1,11 +1,10 @@
-#include "tests/app/ProgramTest.hpp"
+#include "tests/app/FilesTest.hpp"
 
 #include "state/LogicalScreen.hpp"
 #include "state/Resolutions.hpp"
+#include "tests/support/watch/FakeDisplays.hpp"
 #include "text/Localization.hpp"
 
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 namespace {
@@ -13,26 +12,8 @@ namespace {
 using Lines = std::vector<std::string>;
 
 /// Start-up with the real files of the user's storage.
-class StartUpFiles : public ProgramTest {
+class StartUpFiles : public FilesTest {
 protected:
-    StartUpFiles() {
-        Program.Writers = SaveWriters{SaveOptions, WriteSaveState};
-    }
-
-    void Put(const char *Name, const std::string &Contents) {
-        std::filesystem::create_directories(Home.FilePath(Name).parent_path());
-        std::ofstream(Home.FilePath(Name), std::ios::binary) << Contents;
-    }
-
-    std::string Contents(const char *Name) const {
-        std::ifstream file(Home.FilePath(Name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
-    bool Exists(const char *Name) const {
-        return std::filesystem::exists(Home.FilePath(Name));
-    }
-
     /// Starts, runs one frame and ends, as a person who only looks.
     void Visit() {
         Start();
@@ -138,6 +119,46 @@ TEST_F(StartUpFiles, AQuitWithinTheDelayLeavesTheOldSave) {
     State.SaveDelay = 0.5F;
     Stop();
     EXPECT_EQ(Contents("SaveState.bin"), before);
+}
+
+/// Start-up with a rate of 144 in the options, at 1920x1080.
+class StartUpRates : public StartUpFiles {
+protected:
+    /// Expects what is left of the rate, in the record and in the options when they are next written, on a
+    /// display with these modes.
+    void ExpectRate(std::int32_t Rate, bool Fullscreen, const std::vector<SDL_DisplayMode> &Modes) {
+        FakeDisplays displays;
+        displays.OfWindow = 7;
+        displays.Add(7, 1920, 1080).Modes = Modes;
+        Put("Config.ini",
+            std::string("[Graphics]\r\nResolutionWidth=\"1920\"\r\nResolutionHeight=\"1080\"\r\n"
+                        "RefreshRate=\"144\"\r\nFullscreen=\"") +
+                (Fullscreen ? "1\"" : "0\""));
+        Start();
+        EXPECT_EQ(State.Fullscreen, Fullscreen);
+        EXPECT_EQ(CurrentResolution(State), (Resolution{1920, 1080}));
+        EXPECT_EQ(State.RefreshRate, Rate);
+        State.OptionsDirty = true;
+        RunFrame(Program);
+        const std::string line = "\r\nRefreshRate=\"" + std::to_string(Rate) + "\"\r\n";
+        EXPECT_NE(Contents("Config.ini").find(line), std::string::npos);
+    }
+};
+
+TEST_F(StartUpRates, SurviveInFullscreenIfTheDisplayOffersThemAtTheChosenSize) {
+    ExpectRate(144, true, {Mode(1920, 1080, 60.0F), Mode(1920, 1080, 144.0F)});
+}
+
+TEST_F(StartUpRates, ThatTheDisplayDoesNotOfferBecomeAutomatic) {
+    ExpectRate(0, true, {Mode(1920, 1080, 60.0F), Mode(1920, 1080, 120.0F)});
+}
+
+TEST_F(StartUpRates, OfferedAtAnotherSizeOnlyBecomeAutomatic) {
+    ExpectRate(0, true, {Mode(1920, 1080, 60.0F), Mode(1280, 720, 144.0F)});
+}
+
+TEST_F(StartUpRates, BecomeAutomaticInAWindow) {
+    ExpectRate(0, false, {Mode(1920, 1080, 60.0F), Mode(1920, 1080, 144.0F)});
 }
 
 } // namespace

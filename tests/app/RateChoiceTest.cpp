@@ -1,0 +1,96 @@
+#include "tests/app/FilesTest.hpp"
+#include "tests/app/PushEvents.hpp"
+#include "tests/support/watch/FakeDisplays.hpp"
+
+#include <utility>
+
+namespace {
+
+using Calls = std::vector<SdlCall>;
+
+/// The Graphics page in fullscreen, reached by keys, on a display that offers two rates at its size.
+class RateChoice : public FilesTest {
+protected:
+    RateChoice() {
+        Displays.Primary = 7;
+        Displays.OfWindow = 7;
+        Displays.Add(7, 1920, 1080).Modes = {Mode(1920, 1080, 60.0F), Mode(1920, 1080, 144.0F)};
+    }
+
+    void SetUp() override {
+        Start();
+        ForgetEvents();
+        ShowWithoutWaiting(ScreenMainMenu);
+        Frame({SDL_SCANCODE_DOWN, SDL_SCANCODE_RETURN}); // OPTIONS
+        Frame({SDL_SCANCODE_DOWN, SDL_SCANCODE_RETURN}); // GRAPHICS
+        ASSERT_EQ(State.OptionsPage, OptionsPageGraphics);
+        ASSERT_EQ(State.RefreshRates, (std::vector<std::int32_t>{0, 60, 144}));
+    }
+
+    /// One frame with these presses in it.
+    void Frame(std::initializer_list<SDL_Scancode> Keys) {
+        for (const SDL_Scancode key : Keys) {
+            PushKey(key);
+        }
+        RunFrame(Program);
+    }
+
+    void ChooseTheHighestRate() {
+        Frame({SDL_SCANCODE_DOWN, SDL_SCANCODE_DOWN, SDL_SCANCODE_RIGHT, SDL_SCANCODE_RIGHT});
+        ASSERT_EQ(State.RefreshRate, 144);
+    }
+
+    /// From the row of the rates down to APPLY.
+    void ApplyIt() {
+        Frame({SDL_SCANCODE_DOWN, SDL_SCANCODE_DOWN, SDL_SCANCODE_DOWN, SDL_SCANCODE_DOWN,
+            SDL_SCANCODE_RETURN});
+    }
+
+    std::pair<int, int> WindowSize() const {
+        std::pair<int, int> size;
+        SDL_GetWindowSize(Program.Window, &size.first, &size.second);
+        return size;
+    }
+
+    FakeDisplays Displays;
+};
+
+TEST_F(RateChoice, ReachesTheFileInTheFrameOfApplyAndChangesNothingElseInIt) {
+    const std::string before = Contents("Config.ini");
+    const std::string automatic = "RefreshRate=\"0\"\r\n";
+    const std::size_t place = before.find(automatic);
+    ASSERT_NE(place, std::string::npos);
+    ChooseTheHighestRate();
+    EXPECT_EQ(Contents("Config.ini"), before);
+    ApplyIt();
+    std::string after = before;
+    after.replace(place, automatic.size(), "RefreshRate=\"144\"\r\n");
+    EXPECT_EQ(Contents("Config.ini"), after);
+}
+
+TEST_F(RateChoice, IsNeverHandedToTheDisplay) {
+    const std::pair<int, int> size = WindowSize();
+    const SdlWatch watch;
+    ChooseTheHighestRate();
+    EXPECT_EQ(watch.Count("SDL_SetWindowFullscreenMode"), 0);
+    ApplyIt();
+    EXPECT_EQ(watch.CallsOf("SDL_SetWindowFullscreenMode"),
+        (Calls{{"SDL_SetWindowFullscreenMode", {1, 0}}})); // no mode: borderless on the desktop
+    EXPECT_EQ(watch.NamesAmong({"SDL_SetWindowFullscreen", "SDL_SetWindowSize", "SDL_SetWindowPosition"}),
+        std::vector<std::string>{});
+    EXPECT_EQ(SDL_GetWindowFullscreenMode(Program.Window), nullptr);
+    EXPECT_NE(SDL_GetWindowFlags(Program.Window) & SDL_WINDOW_FULLSCREEN, 0U);
+    EXPECT_EQ(WindowSize(), size);
+}
+
+TEST_F(RateChoice, IsStillChosenAtTheNextLaunch) {
+    ChooseTheHighestRate();
+    ApplyIt();
+    Stop();
+    const SdlWatch watch;
+    Start();
+    EXPECT_EQ(State.RefreshRate, 144);
+    EXPECT_EQ(watch.CallsOf("SDL_SetWindowFullscreenMode"), (Calls{{"SDL_SetWindowFullscreenMode", {1, 0}}}));
+}
+
+} // namespace
