@@ -18,9 +18,11 @@
 
 namespace {
 
+constexpr const char *GameName = "Kestrel Volley";
 constexpr const char *WindowTitle = "Kestrel Volley v" KESTREL_VERSION;
 
 bool InitSdl() {
+    SDL_SetAppMetadata(GameName, KESTREL_VERSION, nullptr); // for the system's list of what plays sound
     // No audio here: the mixer brings it up by itself.
     if (!SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD)) {
         SDL_Log("SDL_Init failed: %s", SDL_GetError());
