@@ -190,9 +190,7 @@ void TakeRun(GameState &State, GameState &Run) {
     for (const SaveField<GameState> &field : RunFields) {
         std::visit(
             [&](auto Member) {
-                if constexpr (!std::is_same_v<decltype(Member), struct Color GameState::*>) {
-                    State.*Member = Run.*Member;
-                }
+                State.*Member = Run.*Member;
             },
             field.Member);
     }
