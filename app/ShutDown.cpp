@@ -1,6 +1,7 @@
 #include "app/ShutDown.hpp"
 
 #include "app/Program.hpp"
+#include "app/TakeDown.hpp"
 #include "audio/Runtime.hpp"
 #include "gfx/Atlas.hpp"
 
@@ -10,13 +11,5 @@ void ShutDown(Program &Program) {
     CloseInputDevices(Program.Devices);
     ShutdownMusicRuntime(Program.Music, true);
     DestroyTextureAtlas();
-    SDL_DestroyRenderer(Program.Renderer);
-    Program.Renderer = nullptr;
-    // Hidden before it is destroyed: on X11 SDL would first take a fullscreen window back to its size, and a
-    // window manager that moves it and drops its frame in the same moment ends the program by a BadWindow
-    // error.
-    SDL_HideWindow(Program.Window);
-    SDL_DestroyWindow(Program.Window);
-    Program.Window = nullptr;
-    SDL_Quit();
+    TakeDownRenderer(Program);
 }

@@ -1,6 +1,7 @@
 #include "app/StartUp.hpp"
 
 #include "app/Program.hpp"
+#include "app/TakeDown.hpp"
 #include "audio/Runtime.hpp"
 #include "audio/Transport.hpp"
 #include "gfx/Atlas.hpp"
@@ -50,17 +51,11 @@ bool CreateWindow(Program &Program) {
     return true;
 }
 
-void DestroyWindow(Program &Program) {
-    SDL_DestroyWindow(Program.Window);
-    Program.Window = nullptr;
-    SDL_Quit();
-}
-
 bool CreateRenderer(Program &Program) {
     Program.Renderer = SDL_CreateRenderer(Program.Window, nullptr);
     if (Program.Renderer == nullptr) {
         SDL_Log("SDL_CreateRenderer failed: %s", SDL_GetError());
-        DestroyWindow(Program);
+        TakeDownWindow(Program);
         return false;
     }
     SDL_SetRenderDrawBlendMode(Program.Renderer, SDL_BLENDMODE_BLEND);
@@ -72,9 +67,7 @@ bool CreateRenderer(Program &Program) {
 bool CreateAtlas(Program &Program) {
     if (!BuildTextureAtlas(Program.Renderer)) {
         SDL_Log("BuildTextureAtlas failed: %s", SDL_GetError());
-        SDL_DestroyRenderer(Program.Renderer);
-        Program.Renderer = nullptr;
-        DestroyWindow(Program);
+        TakeDownRenderer(Program);
         return false;
     }
     return true;

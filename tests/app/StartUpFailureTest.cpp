@@ -21,8 +21,8 @@ protected:
         Line = log.Lines.empty() ? "" : log.Lines.front();
         Error = SDL_GetError();
         ChooseSoftwareDrivers(); // the end of SDL forgets what was chosen
-        return Watch.NamesAmong({"SDL_DestroyTexture", "SDL_DestroyRenderer", "SDL_DestroyWindow", "SDL_Quit",
-            "SDL_CloseGamepad", "SDL_CloseJoystick"});
+        return Watch.NamesAmong({"SDL_DestroyTexture", "SDL_DestroyRenderer", "SDL_HideWindow",
+            "SDL_DestroyWindow", "SDL_Quit", "SDL_CloseGamepad", "SDL_CloseJoystick"});
     }
 
     std::string Line;
@@ -45,22 +45,22 @@ TEST_F(StartUpFailure, OfTheWindowQuitsSdl) {
 }
 
 TEST_F(StartUpFailure, OfTheRendererTakesTheWindowDown) {
-    EXPECT_EQ(CleanUpAfter("SDL_CreateRenderer"), (Names{"SDL_DestroyWindow", "SDL_Quit"}));
+    EXPECT_EQ(CleanUpAfter("SDL_CreateRenderer"), (Names{"SDL_HideWindow", "SDL_DestroyWindow", "SDL_Quit"}));
     EXPECT_EQ(Line, "SDL_CreateRenderer failed: refused for the test");
     EXPECT_EQ(SDL_WasInit(0), 0U);
 }
 
 TEST_F(StartUpFailure, OfTheAtlasTextureTakesRendererAndWindowDown) {
-    EXPECT_EQ(
-        CleanUpAfter("SDL_CreateTexture"), (Names{"SDL_DestroyRenderer", "SDL_DestroyWindow", "SDL_Quit"}));
+    EXPECT_EQ(CleanUpAfter("SDL_CreateTexture"),
+        (Names{"SDL_DestroyRenderer", "SDL_HideWindow", "SDL_DestroyWindow", "SDL_Quit"}));
     EXPECT_EQ(Line, "BuildTextureAtlas failed: refused for the test");
     EXPECT_EQ(SpriteAtlas.Texture, nullptr);
     EXPECT_EQ(SDL_WasInit(0), 0U);
 }
 
 TEST_F(StartUpFailure, OfDrawingToTheAtlasTakesItsTextureDownFirst) {
-    EXPECT_EQ(CleanUpAfter("SDL_SetRenderTarget"),
-        (Names{"SDL_DestroyTexture", "SDL_DestroyRenderer", "SDL_DestroyWindow", "SDL_Quit"}));
+    EXPECT_EQ(CleanUpAfter("SDL_SetRenderTarget"), (Names{"SDL_DestroyTexture", "SDL_DestroyRenderer",
+                                                       "SDL_HideWindow", "SDL_DestroyWindow", "SDL_Quit"}));
     EXPECT_EQ(Line, "BuildTextureAtlas failed: refused for the test");
     EXPECT_EQ(SpriteAtlas.Texture, nullptr);
     EXPECT_EQ(SDL_WasInit(0), 0U);
