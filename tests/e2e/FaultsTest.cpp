@@ -74,11 +74,10 @@ TEST(Faults, OptionsThatCannotBeWrittenAreTriedInEveryFrame) {
     ASSERT_NO_FATAL_FAILURE(OpenPageFromMainMenu(game, Page::Audio));
     ASSERT_TRUE(game.Tap(Key::Left, RowShows(Master, "95%")));
     ASSERT_NO_FATAL_FAILURE(ActivateRow(game, Page::Audio, Apply, PageIs(Page::Audio, Apply)));
-    // More than any slower pace would give, once a second for one, and less than the slowest machine draws.
-    const int before = CountLines(game, OptionsFailed);
+    // At 15 frames a second, the least that any machine of today gives when it is not busy elsewhere.
     EXPECT_TRUE(WaitUntil(
-        [&] {
-            return CountLines(game, OptionsFailed) >= before + 30;
+        [&game] {
+            return LinesIn(game, OptionsFailed, milliseconds{2000}) >= 30;
         },
         milliseconds{10000}));
     EXPECT_TRUE(RowShows(Master, "95%")(game.Person().Screenshot()));
