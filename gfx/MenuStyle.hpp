@@ -11,10 +11,9 @@
 
 // What the screens around a run have in common. Colours are 0xAABBGGRR.
 
-inline constexpr std::uint32_t SelectedColor = 0xFFF5F5F5; ///< the selected row and its marker
-inline constexpr std::uint32_t OtherRowColor = 0xFFB4B4B4; ///< rows of the options and the pause panel
-inline constexpr std::uint32_t OtherNameColor =
-    0xFFB9B9B9; ///< rows of the main menu, names of credits and help
+inline constexpr std::uint32_t SelectedColor = 0xFFF5F5F5;  ///< the selected row and its marker
+inline constexpr std::uint32_t OtherRowColor = 0xFFB4B4B4;  ///< rows of the options and the pause panel
+inline constexpr std::uint32_t OtherNameColor = 0xFFB9B9B9; ///< rows of the main menu, names elsewhere
 inline constexpr std::uint32_t PageTitleColor = 0xFFF0F0F0; ///< options and help
 inline constexpr std::uint32_t SectionColor = 0xFFFFAF69;   ///< section headings of the options
 inline constexpr std::uint32_t BodyColor = 0xFFDCDCDC;      ///< text of the help page

@@ -10,8 +10,7 @@ namespace {
 constexpr float SalvoCost = 3.0F;
 constexpr float DualSalvoCost = 4.5F;
 constexpr float FireSeconds = 0.1F;
-constexpr float RefillPauseSeconds =
-    0.24F; ///< longer than FireSeconds: between two shots of held fire nothing refills
+constexpr float RefillPauseSeconds = 0.24F; ///< longer than FireSeconds: nothing refills between held shots
 constexpr float RefillPerSecond = 26.0F;
 constexpr float MuzzleDistance = 14.0F;
 constexpr float DualMuzzleOffset = 6.0F;
