@@ -28,11 +28,15 @@ else()
     endif()
 endif()
 
-if(KESTREL_SANITIZE)
+if(KESTREL_SANITIZE OR KESTREL_BUILD_FUZZ)
     # The sanitizers' own checks make the optimiser see null dereferences that cannot happen.
     target_compile_options(compile_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -Wno-null-dereference)
     target_link_options(compile_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(KESTREL_BUILD_FUZZ)
+    # libFuzzer, which the targets of fuzz/ link, learns by this which code an input reaches.
+    target_compile_options(compile_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 if(CMAKE_BUILD_TYPE STREQUAL "Debug" AND NOT MSVC)
     target_compile_options(compile_options INTERFACE -Og)
