@@ -7,8 +7,8 @@ template <typename Record> struct SaveSpot {
     std::string Name;
     std::vector<SaveRow<Record>> Rows;
     std::vector<StreamEntry> Sample;
-    std::function<std::vector<StreamEntry>(std::vector<StreamEntry>)>
-        RunWith; ///< the run with these entries here
+    /// The run with these entries here.
+    std::function<std::vector<StreamEntry>(std::vector<StreamEntry>)> RunWith;
     std::function<const Record &(const GameState &)> Get;
 };
 
