@@ -193,17 +193,17 @@ protected:
         return TextOf(state);
     }
 
-    static std::size_t WindowCalls(const SdlWatch &Watch) {
+    std::size_t WindowCalls() const {
         return Watch
-            .NamesAmong({"SDL_SetWindowFullscreenMode", "SDL_SetWindowFullscreen", "SDL_SetWindowSize",
-                "SDL_SetWindowPosition", "SDL_SetRenderVSync", "SDL_SetRenderLogicalPresentation"})
+            .OrderOf({Watch.SetWindowFullscreenMode, Watch.SetWindowFullscreen, Watch.SetWindowSize,
+                Watch.SetWindowPosition, Watch.SetRenderVSync, Watch.SetRenderLogicalPresentation})
             .size();
     }
 
     void ExpectSoundRecord();
     void ExpectSoundEdits();
 
-    FakeDisplays Displays;
+    FakeDisplays Displays{Watch};
     std::mt19937 Random;
 };
 
@@ -240,7 +240,7 @@ TEST_F(OptionsWalk, LeavingWithoutApplyChangesNoAppliedValue) {
     const AppliedOptions applied = AppliedOf(State);
     const std::vector<Resolution> resolutions = State.Resolutions;
     const std::int32_t width = LogicalWidth;
-    const SdlWatch watch;
+    Watch.Forget();
     int edits = 0;
     for (int walk = 0; walk < 150; ++walk) {
         for (int i = 0; i < 80; ++i) {
@@ -253,7 +253,7 @@ TEST_F(OptionsWalk, LeavingWithoutApplyChangesNoAppliedValue) {
         ASSERT_EQ(State.Resolutions, resolutions) << walk;
     }
     EXPECT_FALSE(State.OptionsDirty);
-    EXPECT_EQ(WindowCalls(watch), 0U);
+    EXPECT_EQ(WindowCalls(), 0U);
     EXPECT_EQ(LogicalWidth, width);
     EXPECT_GT(edits, 1000); // the walks do change things
 }
@@ -274,11 +274,11 @@ TEST_F(OptionsWalk, DefaultSettingsAloneChangeNothingThatIsApplied) {
         const enum OptionsPage page = EditPages.at(Random() % EditPages.size());
         const AppliedOptions applied = AppliedOf(State);
         const std::int32_t width = LogicalWidth;
-        const SdlWatch watch;
+        Watch.Forget();
         EditAtRandom(page, 20);
         PressOn(DefaultsRowOf(page));
         ASSERT_EQ(WithoutGraphics(AppliedOf(State)), WithoutGraphics(applied)) << walk;
-        ASSERT_EQ(WindowCalls(watch), 0U) << walk;
+        ASSERT_EQ(WindowCalls(), 0U) << walk;
         ASSERT_EQ(LogicalWidth, width) << walk;
         PressOn(DefaultsRowOf(page) + 3);
         ASSERT_EQ(State.OptionsPage, OptionsPageMain) << walk;
@@ -302,11 +302,11 @@ TEST_F(OptionsWalk, ApplyMarksTheOptionsExactlyIfSomethingDiffers) {
         const AppliedOptions edited = EditedOf(State);
         const bool differs = edited != before;
         ASSERT_EQ(IsDirty(), differs) << walk << " page " << page;
-        const SdlWatch watch;
+        Watch.Forget();
         PressOn(DefaultsRowOf(page) + 1);
         ASSERT_EQ(State.OptionsDirty, differs) << walk << " page " << page;
         ASSERT_EQ(AppliedOf(State), edited) << walk << " page " << page;
-        ASSERT_EQ(WindowCalls(watch) > 0, differs && page == OptionsPageGraphics) << walk;
+        ASSERT_EQ(WindowCalls() > 0, differs && page == OptionsPageGraphics) << walk;
         ASSERT_FALSE(IsDirty()) << walk << " page " << page;
         State.OptionsDirty = false;
         (differs ? changed : unchanged) += 1;

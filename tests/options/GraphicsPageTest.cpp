@@ -124,19 +124,16 @@ protected:
         for (const std::int32_t key : Pressed) {
             GameState state = State;
             GameState expected = State;
-            const SdlWatch watch;
+            Watch.Forget();
             HandleGraphicsPageKey(state, Window, Renderer, key);
-            ExpectWindowUntouched(watch);
+            ExpectWindowUntouched();
             Effect(expected);
             EXPECT_EQ(RecordOf(state), RecordOf(expected)) << "scancode " << key << " on row " << Row;
         }
     }
 
-    static void ExpectWindowUntouched(const SdlWatch &Watch) {
-        EXPECT_EQ(Watch.NamesAmong({"SDL_SetWindowFullscreenMode", "SDL_SetWindowFullscreen",
-                      "SDL_SetWindowSize", "SDL_SetWindowPosition", "SDL_SetRenderVSync",
-                      "SDL_GetRenderVSync", "SDL_SetRenderLogicalPresentation"}),
-            std::vector<std::string>{});
+    void ExpectWindowUntouched() const {
+        EXPECT_EQ(DisplayCalls(), CallNames{});
         EXPECT_EQ(LogicalWidth, 1280);
     }
 
@@ -149,7 +146,7 @@ protected:
         ASSERT_EQ(State.RefreshRate, 0);
     }
 
-    FakeDisplays Displays;
+    FakeDisplays Displays{Watch};
 };
 
 TEST_F(GraphicsPage, BeginsWithASnapshotOfWhatIsInForce) {
@@ -548,11 +545,11 @@ TEST_F(GraphicsPage, DefaultSettingsFromTheBuiltIn4x3TableAre1280x720) {
 
 TEST_F(GraphicsPage, DefaultSettingsThenBackRestoreTheSnapshot) {
     const GraphicsRecord before = RecordOf(State);
-    const SdlWatch watch;
+    Watch.Forget();
     PressOn(DefaultsRow, EnterKey);
     ASSERT_TRUE(GraphicsEditDirty(State));
     PressOn(BackRow, EnterKey);
-    ExpectWindowUntouched(watch);
+    ExpectWindowUntouched();
     GraphicsRecord expected = before;
     expected.Selection = BackRow;
     expected.Page = OptionsPageMain;
@@ -566,10 +563,10 @@ TEST_F(GraphicsPage, ApplyBringsTheWindowInLineAndMarksTheOptions) {
         State.ResetFrameClock = false;
         Adjust(ModeRow, 1);
         const bool fullscreen = State.Fullscreen;
-        const SdlWatch watch;
+        Watch.Forget();
         PressOn(ApplyRow, key);
         EXPECT_EQ(IsFullscreen(), fullscreen) << key;
-        EXPECT_EQ(watch.Count("SDL_SetRenderLogicalPresentation"), 1) << key;
+        EXPECT_EQ(Watch.SetRenderLogicalPresentation.Count(), 1) << key;
         EXPECT_TRUE(State.OptionsDirty) << key;
         EXPECT_TRUE(State.ResetFrameClock) << key;
         EXPECT_EQ(State.GraphicsSnapshot.Fullscreen, fullscreen) << key; // the new snapshot
@@ -605,8 +602,7 @@ TEST_F(GraphicsPage, ApplyWithNothingChangedLeavesWindowAndMarkAlone) {
 
 TEST_F(GraphicsPage, ApplyWithFailingStepsMarksTheOptionsAllTheSame) {
     Adjust(ModeRow, 1);
-    SdlWatch watch;
-    watch.Refuse("SDL_SetWindowSize");
+    Watch.SetWindowSize.Refuse();
     const LogCatcher log;
     PressOn(ApplyRow, EnterKey);
     EXPECT_EQ(
@@ -654,9 +650,9 @@ TEST_F(GraphicsPage, EscapeLeavesFromEveryRow) {
 TEST_F(GraphicsPage, WorksWithoutAWindow) {
     ChangeEverything();
     State.GraphicsSelection = ApplyRow;
-    const SdlWatch watch;
+    Watch.Forget();
     HandleGraphicsPageKey(State, nullptr, nullptr, EnterKey);
-    ExpectWindowUntouched(watch);
+    ExpectWindowUntouched();
     EXPECT_TRUE(State.OptionsDirty);
     EXPECT_FALSE(GraphicsEditDirty(State));
 }

@@ -1,11 +1,13 @@
 #include "state/LogicalScreen.hpp"
 #include "state/Resolutions.hpp"
+#include "tests/support/LogicalWidthScope.hpp"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 std::int32_t WidthFor(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height) {
+    const LogicalWidthScope oldWidth(LogicalWidth);
     ComputeLogicalWidth(AspectMode, Width, Height);
     return LogicalWidth;
 }
