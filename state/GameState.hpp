@@ -120,4 +120,6 @@ struct GameState {
 
     SoundQueue PendingSounds;
     std::mt19937 Rng; ///< seeded once at start-up
+
+    bool operator==(const GameState &) const = default;
 };

@@ -20,4 +20,6 @@ struct GraphicsSnapshot {
     std::int32_t RefreshRate = 0;
     bool Fullscreen = true;
     bool VSync = true;
+
+    bool operator==(const GraphicsSnapshot &) const = default;
 };

@@ -33,6 +33,8 @@ struct SoundQueue {
 
     std::array<SfxId, Capacity> Ids{};
     std::size_t Count = 0;
+
+    bool operator==(const SoundQueue &) const = default;
 };
 
 /// Asks for a sound in this frame. A 65th request of a frame is dropped without a word.

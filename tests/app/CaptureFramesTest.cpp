@@ -4,14 +4,12 @@
 #include "sim/NewRun.hpp"
 #include "tests/app/ProgramTest.hpp"
 #include "tests/app/PushEvents.hpp"
+#include "tests/support/Sounds.hpp"
 #include "tests/support/VirtualDevice.hpp"
 
 #include <optional>
-#include <vector>
 
 namespace {
-
-using Sounds = std::vector<SfxId>;
 
 constexpr BindingTable PendingKeys{201, 202, 203, 204, 205};
 constexpr BindingTable PendingPad{21, 22, 23, 24, 25};
@@ -99,11 +97,6 @@ protected:
         State.PendingSounds.Count = 0;
     }
 
-    Sounds Heard() const {
-        const auto first = State.PendingSounds.Ids.begin();
-        return {first, first + static_cast<std::ptrdiff_t>(State.PendingSounds.Count)};
-    }
-
     /// The capture has ended, this page is still open, and the pending tables are these.
     void ExpectEnded(const BindingTable &Keys, const BindingTable &PadTable, const BindingTable &StickTable,
         const Sounds &ExpectedSounds) {
@@ -138,7 +131,7 @@ private:
         EXPECT_EQ(State.PendingKeyboard, Keys);
         EXPECT_EQ(State.PendingGamepad, PadTable);
         EXPECT_EQ(State.PendingJoystick, StickTable);
-        EXPECT_EQ(Heard(), ExpectedSounds);
+        EXPECT_EQ(SoundsOf(State), ExpectedSounds);
         EXPECT_EQ(State.Screen, ScreenOptions);
         EXPECT_EQ(State.OptionsPage, OptionsPageControls);
         EXPECT_EQ(State.ControlsSelection, 2);
@@ -415,7 +408,7 @@ TEST_F(CaptureFrames, EndedItLeavesTheNextButtonItsMeaning) {
     DrainEvents(Program);
     EXPECT_EQ(State.PendingGamepad[1], SDL_GAMEPAD_BUTTON_DPAD_DOWN);
     EXPECT_EQ(State.ControlsSelection, 3);
-    EXPECT_EQ(Heard(), Sounds{SfxId::UiMove});
+    EXPECT_EQ(SoundsOf(State), Sounds{SfxId::UiMove});
 }
 
 TEST_F(CaptureFrames, AfterApplyTheNewBindingActsAtOnce) {

@@ -1,29 +1,13 @@
 #pragma once
 
 #include "state/GameState.hpp"
+#include "tests/support/Keys.hpp"
+#include "tests/support/Sounds.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
-#include <vector>
-
-using Scancodes = std::vector<std::int32_t>;
-using Sounds = std::vector<SfxId>;
-
-// The keys that mean something, as SDL's numbers.
-inline const Scancodes UpKeys{82, 26};
-inline const Scancodes DownKeys{81, 22};
-inline const Scancodes LeftKeys{80, 4};
-inline const Scancodes RightKeys{79, 7};
-inline const Scancodes ActivateKeys{40, 44, 88};
-inline const Scancodes EnterKeys{40, 88};
-inline constexpr std::int32_t UpKey = 82;
-inline constexpr std::int32_t DownKey = 81;
-inline constexpr std::int32_t EnterKey = 40;
-inline constexpr std::int32_t SpaceBar = 44;
-inline constexpr std::int32_t EscapeKey = 41;
 
 /// What a key does to the record, done to a copy by hand.
 using Change = std::function<void(GameState &Expected)>;
@@ -31,9 +15,6 @@ using Change = std::function<void(GameState &Expected)>;
 /// A game on a screen, in the middle of a run, in which no field stands at what a key would make it: a field
 /// that a key sets or resets by mistake is seen. A sound of the run is already waiting.
 GameState BusyGame(enum Screen Screen);
-
-/// The sounds that wait.
-Sounds SoundsOf(const GameState &State);
 
 /// Appends a sound to those that wait, as every expected sound is.
 void Hear(GameState &State, SfxId Id);

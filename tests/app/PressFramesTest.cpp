@@ -1,7 +1,7 @@
 #include "app/Events.hpp"
 #include "tests/app/ProgramTest.hpp"
 #include "tests/app/PushEvents.hpp"
-#include "tests/app/StateText.hpp"
+#include "tests/support/SameState.hpp"
 #include "tests/support/VirtualDevice.hpp"
 
 #include <optional>
@@ -226,10 +226,10 @@ TEST_F(PressFrames, InPlaySouthFiresAndItsReturnIsIgnored) {
 TEST_F(PressFrames, InPlayOnlyStartPausesAGamepadsGame) {
     PlugInPad();
     Show(ScreenPlaying);
-    const std::string before = TextOf(State);
+    const GameState before = State;
     Tap(*Pad, SDL_GAMEPAD_BUTTON_EAST);
     Tap(*Pad, SDL_GAMEPAD_BUTTON_BACK);
-    EXPECT_EQ(TextOf(State), before);
+    EXPECT_TRUE(SameState(State, before));
     Tap(*Pad, SDL_GAMEPAD_BUTTON_START);
     EXPECT_EQ(State.Screen, ScreenPaused);
     EXPECT_EQ(State.PendingSounds.Count, 1U);
@@ -270,9 +270,9 @@ TEST_F(PressFrames, HealDependsOnTheKeyboardsRow) {
     State.FirstAidKits = 1;
     State.Player.Hp = 20;
     State.KeyboardBindings[4] = 0; // unbound
-    const std::string before = TextOf(State);
+    const GameState before = State;
     Tap(*Pad, SDL_GAMEPAD_BUTTON_NORTH);
-    EXPECT_EQ(TextOf(State), before);
+    EXPECT_TRUE(SameState(State, before));
     State.KeyboardBindings[4] = SDL_SCANCODE_H;
     Tap(*Pad, SDL_GAMEPAD_BUTTON_NORTH);
     EXPECT_EQ(State.Player.Hp, 55);
@@ -286,10 +286,10 @@ TEST_F(PressFrames, HealIsSilentInMenus) {
     for (const enum Screen screen :
         {ScreenMainMenu, ScreenOptions, ScreenHelp, ScreenPaused, ScreenCredits, ScreenGameOver}) {
         Show(screen);
-        const std::string before = TextOf(State);
+        const GameState before = State;
         Tap(*Pad, SDL_GAMEPAD_BUTTON_NORTH);
         Tap(*Stick, 2);
-        EXPECT_EQ(TextOf(State), before);
+        EXPECT_TRUE(SameState(State, before));
     }
 }
 
@@ -297,9 +297,9 @@ TEST_F(PressFrames, AButtonThatFiresAndGoesBackFiresInPlayAndDoesNothingInMenus)
     PlugInPad();
     State.GamepadBindings = {SDL_GAMEPAD_BUTTON_EAST, 2, 3, 0, SDL_GAMEPAD_BUTTON_EAST};
     Show(ScreenPaused);
-    const std::string before = TextOf(State);
+    const GameState before = State;
     Tap(*Pad, SDL_GAMEPAD_BUTTON_EAST);
-    EXPECT_EQ(TextOf(State), before);
+    EXPECT_TRUE(SameState(State, before));
     Show(ScreenPlaying);
     Pad->SetButton(SDL_GAMEPAD_BUTTON_EAST, true);
     RunFrame(Program);
@@ -317,11 +317,11 @@ TEST_F(PressFrames, SticksAndHatsPressNothingInPlay) {
     State.KeyboardBindings[4] = SDL_SCANCODE_DOWN; // what such a press would do is seen
     State.FirstAidKits = 3;
     State.Player.Hp = 20;
-    const std::string before = TextOf(State);
+    const GameState before = State;
     MoveAxis(*Pad, SDL_GAMEPAD_AXIS_LEFTY, 32767);
     MoveAxis(*Stick, 1, 32767);
     MoveHat(*Stick, SDL_HAT_DOWN);
-    EXPECT_EQ(TextOf(State), before);
+    EXPECT_TRUE(SameState(State, before));
     EXPECT_FALSE(Program.Devices.GamepadDownLatch);
     EXPECT_FALSE(Program.Devices.JoystickDownLatch);
 }
@@ -344,11 +344,11 @@ TEST_F(PressFrames, ALatchKeepsItsStateThroughPlay) {
 TEST_F(PressFrames, ASecondGamepadIsUnheard) {
     PlugInPad();
     PlugInOtherPad();
-    const std::string before = TextOf(State);
+    const GameState before = State;
     Tap(*OtherPad, SDL_GAMEPAD_BUTTON_DPAD_DOWN);
     Tap(*OtherPad, SDL_GAMEPAD_BUTTON_SOUTH);
     MoveAxis(*OtherPad, SDL_GAMEPAD_AXIS_LEFTY, 32767);
-    EXPECT_EQ(TextOf(State), before);
+    EXPECT_TRUE(SameState(State, before));
     EXPECT_FALSE(Program.Devices.GamepadDownLatch);
     EXPECT_EQ(Program.Devices.GamepadId, Pad->Id);
     Tap(*Pad, SDL_GAMEPAD_BUTTON_DPAD_DOWN);
@@ -359,11 +359,11 @@ TEST_F(PressFrames, ASecondJoystickIsUnheard) {
     PlugInStick();
     VirtualDevice other(JoystickShape);
     DrainEvents(Program);
-    const std::string before = TextOf(State);
+    const GameState before = State;
     Tap(other, 0);
     MoveAxis(other, 1, 32767);
     MoveHat(other, SDL_HAT_DOWN);
-    EXPECT_EQ(TextOf(State), before);
+    EXPECT_TRUE(SameState(State, before));
     EXPECT_EQ(Program.Devices.JoystickId, Stick->Id);
 }
 

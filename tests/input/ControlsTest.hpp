@@ -1,53 +1,8 @@
 #pragma once
 
-#include "input/Devices.hpp"
 #include "state/GameState.hpp"
-
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cstdint>
-#include <ostream>
-#include <vector>
-
-/// All that the Controls page and its captures may touch, to compare two records by.
-struct ControlsRecord {
-    enum Screen Screen;
-    enum OptionsPage Page;
-    std::int32_t Selection;
-    bool CaptureActive;
-    std::int32_t CaptureKind;
-    std::array<std::int32_t, 3> CaptureRows; ///< keyboard, gamepad, joystick
-    std::array<BindingTable, 3> Applied;
-    std::int32_t AppliedDevice;
-    std::array<BindingTable, 3> Pending;
-    std::int32_t PendingDevice;
-    bool PendingValid;
-    bool OptionsDirty;
-    std::vector<SfxId> Sounds;
-
-    bool operator==(const ControlsRecord &) const = default;
-};
-
-inline ControlsRecord ControlsOf(const GameState &State) {
-    const auto first = State.PendingSounds.Ids.begin();
-    return {State.Screen, State.OptionsPage, State.ControlsSelection, State.CaptureActive, State.CaptureKind,
-        {State.CaptureKeyboardRow, State.CaptureGamepadRow, State.CaptureJoystickRow},
-        {State.KeyboardBindings, State.GamepadBindings, State.JoystickBindings}, State.ControlsDevice,
-        {State.PendingKeyboard, State.PendingGamepad, State.PendingJoystick}, State.PendingControlsDevice,
-        State.PendingControlsValid, State.OptionsDirty,
-        {first, first + static_cast<std::ptrdiff_t>(State.PendingSounds.Count)}};
-}
-
-/// Makes a failed comparison readable.
-inline void PrintTo(const ControlsRecord &Record, std::ostream *Out) {
-    *Out << "screen " << Record.Screen << ", page " << Record.Page << ", row " << Record.Selection
-         << ", capture " << Record.CaptureActive << " of kind " << Record.CaptureKind << " for rows "
-         << ::testing::PrintToString(Record.CaptureRows) << "\napplied "
-         << ::testing::PrintToString(Record.Applied) << " device " << Record.AppliedDevice << "\npending "
-         << ::testing::PrintToString(Record.Pending) << " device " << Record.PendingDevice << " valid "
-         << Record.PendingValid << "\ndirty " << Record.OptionsDirty << ", sounds " << Record.Sounds.size();
-}
+#include "tests/support/Keys.hpp"
+#include "tests/support/SameState.hpp"
 
 /// The page in edit, every table and both devices at values of their own, so that a mix-up is seen.
 inline GameState EditedControls() {

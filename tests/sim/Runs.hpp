@@ -2,8 +2,7 @@
 
 #include "sim/StepInput.hpp"
 #include "state/GameState.hpp"
-
-#include <vector>
+#include "tests/support/Sounds.hpp"
 
 // Runs to start a test from, and what a player may hold.
 
@@ -51,14 +50,6 @@ inline Item ItemAt(float X, float Y) {
     item.Y = Y;
     return item;
 }
-
-/// The sounds asked for, in order.
-inline std::vector<SfxId> SoundsOf(const GameState &State) {
-    const SoundQueue &queue = State.PendingSounds;
-    return {queue.Ids.begin(), queue.Ids.begin() + static_cast<std::ptrdiff_t>(queue.Count)};
-}
-
-using Sounds = std::vector<SfxId>;
 
 inline constexpr StepInput HeldNothing{false, false, false, false};
 inline constexpr StepInput HeldLeft{true, false, false, false};

@@ -21,10 +21,9 @@ protected:
         return loaded;
     }
 
-    template <typename Record>
-    static void ExpectRows(const std::vector<SaveRow<Record>> &Rows, const Record &Found) {
-        for (const SaveRow<Record> &row : Rows) {
-            const double value = row.Get(Found);
+    void ExpectRows(std::span<const SaveRow> Rows, std::size_t Index = 0) const {
+        for (const SaveRow &row : Rows) {
+            const double value = row.Get(State, Index);
             EXPECT_TRUE(std::isfinite(value)) << row.Key;
             EXPECT_GE(value, row.Least) << row.Key;
             if (std::string(row.Key) != "Hp") {
@@ -39,16 +38,16 @@ protected:
         if (!State.HasRunState) {
             return;
         }
-        ExpectRows(RunRows, State);
-        ExpectRows(PlayerRows, State.Player);
+        ExpectRows(RunRows);
+        ExpectRows(PlayerRows);
         EXPECT_LE(State.Player.Hp, State.Player.MaxHp);
         EXPECT_NE(State.WaterFlowDirection, 0);
         EXPECT_NE(State.PreviousWaterFlowDirection, 0);
-        VisitLists([this](const auto &List) {
-            for (const auto &entry : State.*List.List) {
-                ExpectRows(List.Rows, entry);
+        for (const SaveList &list : SaveLists) {
+            for (std::size_t i = 0; i < list.Size(State); ++i) {
+                ExpectRows(list.Rows, i);
             }
-        });
+        }
     }
 
     static std::string Sample() {
@@ -76,14 +75,15 @@ TEST_F(DamagedSaveTest, KeepsWhatStandsBeforeACut) {
             continue;
         }
         std::size_t end = runBegin;
-        for (const SaveRow<GameState> &row : RunRows) {
+        for (const SaveRow &row : RunRows) {
             end += EntryBytes({row.Key, TokenOf(row.Kind, row.Sample)}).size();
-            EXPECT_EQ(row.Get(State), AsHeld(row.Kind, length >= end ? row.Sample : row.Default)) << row.Key;
+            EXPECT_EQ(row.Get(State, 0), AsHeld(row.Kind, length >= end ? row.Sample : row.Default))
+                << row.Key;
         }
-        VisitLists([&](const auto &List) {
-            const std::size_t begin = endOf(EntryBytes({List.Key, ArrayToken + ObjectToken}));
-            EXPECT_EQ((State.*List.List).size(), length >= begin ? 1U : 0U) << List.Key;
-        });
+        for (const SaveList &list : SaveLists) {
+            const std::size_t begin = endOf(EntryBytes({list.Key, ArrayToken + ObjectToken}));
+            EXPECT_EQ(list.Size(State), length >= begin ? 1U : 0U) << list.Key;
+        }
     }
     ExpectSampleRun();
 }

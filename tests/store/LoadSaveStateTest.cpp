@@ -1,6 +1,6 @@
-#include "tests/store/SaveSpots.hpp"
-
 #include "sim/Step.hpp"
+#include "tests/store/SaveTest.hpp"
+#include "tests/support/watch/SdlWatch.hpp"
 
 namespace {
 
@@ -125,15 +125,15 @@ TEST_F(LoadSaveStateTest, LeavesTheRestOfTheRecordAlone) {
 TEST_F(LoadSaveStateTest, TakesAllOfARunFromTheDefaultsThatTheFileLacks) {
     EXPECT_TRUE(LoadOver({HighScore, WithRun, {"RunState", ObjectBytes({})}}));
     EXPECT_TRUE(State.HasRunState);
-    for (const SaveRow<GameState> &row : RunRows) {
-        EXPECT_EQ(row.Get(State), AsHeld(row.Kind, row.Default)) << row.Key;
+    for (const SaveRow &row : RunRows) {
+        EXPECT_EQ(row.Get(State, 0), AsHeld(row.Kind, row.Default)) << row.Key;
     }
-    for (const SaveRow<Player> &row : PlayerRows) {
-        EXPECT_EQ(row.Get(State.Player), row.Default) << row.Key;
+    for (const SaveRow &row : PlayerRows) {
+        EXPECT_EQ(row.Get(State, 0), row.Default) << row.Key;
     }
-    VisitLists([this](const auto &List) {
-        EXPECT_TRUE((State.*List.List).empty()) << List.Key;
-    });
+    for (const SaveList &list : SaveLists) {
+        EXPECT_EQ(list.Size(State), 0U) << list.Key;
+    }
 }
 
 TEST_F(LoadSaveStateTest, KeepsTheHighScoreOfAFileWithoutARun) {

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <initializer_list>
+
+// The keys that menus listen to, as SDL's numbers: written down apart from the game's own table of them.
+
+using Scancodes = std::initializer_list<std::int32_t>;
+
+inline constexpr std::int32_t UpKey = 82;
+inline constexpr std::int32_t DownKey = 81;
+inline constexpr std::int32_t LeftKey = 80;
+inline constexpr std::int32_t RightKey = 79;
+inline constexpr std::int32_t EnterKey = 40;
+inline constexpr std::int32_t SpaceBar = 44;
+inline constexpr std::int32_t KeypadEnterKey = 88;
+inline constexpr std::int32_t EscapeKey = 41;
+inline constexpr std::int32_t DeleteKey = 76;
+inline constexpr std::int32_t BackspaceKey = 42;
+
+// Keys that mean the same, letters among them.
+
+inline constexpr Scancodes UpKeys{UpKey, 26};
+inline constexpr Scancodes DownKeys{DownKey, 22};
+inline constexpr Scancodes LeftKeys{LeftKey, 4};
+inline constexpr Scancodes RightKeys{RightKey, 7};
+inline constexpr Scancodes ActivateKeys{EnterKey, SpaceBar, KeypadEnterKey};
+inline constexpr Scancodes EnterKeys{EnterKey, KeypadEnterKey};
+inline constexpr Scancodes ClearKeys{DeleteKey, BackspaceKey};
+
+/// All that move, change or activate a row.
+inline constexpr Scancodes RowKeys{
+    UpKey, 26, DownKey, 22, LeftKey, 4, RightKey, 7, EnterKey, SpaceBar, KeypadEnterKey};
+
+/// Whether a menu listens to a key.
+constexpr bool IsMenuKey(std::int32_t Scancode) {
+    return Scancode == EscapeKey || std::ranges::find(RowKeys, Scancode) != RowKeys.end();
+}
