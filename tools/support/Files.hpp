@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <ios>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -16,7 +16,9 @@ inline std::string ReadBytes(const std::filesystem::path &Path) {
     if (!file) {
         throw std::runtime_error(Path.string() + " cannot be read");
     }
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
 }
 
 /// Puts a file in place of what was there, and makes the folders that it lies in. Throws std::runtime_error

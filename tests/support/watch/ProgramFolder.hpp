@@ -18,7 +18,7 @@ public:
     /// A new folder with nothing in it, which goes at the end.
     explicit ProgramFolder(SdlWatch &Answering);
 
-    /// A folder that there is, as SHIPPED_DATA, where the files lie that ship with the game.
+    /// A folder that there is, as the source tree, where the files lie that ship with the game.
     ProgramFolder(SdlWatch &Answering, const std::filesystem::path &Existing);
 
     ~ProgramFolder();
