@@ -179,7 +179,7 @@ protected:
 
 private:
     SdlWatch Watch;
-    const ProgramFolder Shipped{Watch, SHIPPED_DATA};
+    const ProgramFolder Shipped{Watch, ShippedData()};
     LocalizationTable OldLocalization;
 };
 
