@@ -38,7 +38,7 @@ protected:
     void ShowWithoutWaiting(enum Screen Screen);
 
     TemporaryHome Home;
-    LogicalWidthScope Width{1280};
+    LogicalWidthScope ScreenWidth{1280};
     SdlWatch Watch;
     struct Program Program;
     GameState &State = Program.State;

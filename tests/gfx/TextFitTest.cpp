@@ -179,7 +179,7 @@ protected:
 
 private:
     SdlWatch Watch;
-    const ProgramFolder Shipped{Watch, SOURCE_TREE};
+    const ProgramFolder Shipped{Watch, ShippedData()};
     LocalizationTable OldLocalization;
 };
 

@@ -34,7 +34,7 @@ protected:
         EXPECT_EQ(LogicalWidth, 1152);
     }
 
-    LogicalWidthScope Width{1280};
+    LogicalWidthScope ScreenWidth{1280};
     GameState State;
     SdlWatch Watch;
     FakeDisplays Displays{Watch};

@@ -42,7 +42,7 @@ protected:
             Watch.SetRenderLogicalPresentation});
     }
 
-    LogicalWidthScope Width{1280};
+    LogicalWidthScope ScreenWidth{1280};
     SdlWatch Watch;
     GameState State;
     SDL_Window *Window = nullptr;

@@ -5,13 +5,13 @@
 #include <cstdio>
 
 /// The functions of the C library that are watched, in the form of WATCHED_SDL_FUNCTIONS.
-#define WATCHED_FILE_FUNCTIONS(NOTED)                                                                        \
+#define WATCHED_FILE_FUNCTIONS(NOTED, STEERED)                                                               \
     NOTED(2, fopen, OpenFile)                                                                                \
-    NOTED(1, ftell, TellPosition)
+    STEERED(1, ftell, TellPosition)
 
-/// Watches the calls that the code under test makes for its files. Of those to fopen only the staging files'
-/// are seen, as the test framework opens files as well.
+/// Watches the calls that the code under test makes for its files. The test framework opens files as well: of
+/// the calls to fopen only those for staging files are seen, and none to ftell is noted.
 class StoreWatch : public SdlWatch {
 public:
-    WATCHED_FILE_FUNCTIONS(NOTED_FIELD)
+    WATCHED_FILE_FUNCTIONS(NOTED_FIELD, STEERED_FIELD)
 };

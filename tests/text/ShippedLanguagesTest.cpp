@@ -38,7 +38,7 @@ bool IsPrompt(const std::string &Key) {
 }
 
 std::filesystem::path ShippedPath(const std::string &Name) {
-    return std::filesystem::path(SOURCE_TREE) / Name;
+    return ShippedData() / Name;
 }
 
 /// A shipped file, read without a word of the reader's.
@@ -116,7 +116,7 @@ std::size_t Count(const std::string &Text, const std::string &Piece) {
 TEST(ShippedLanguages, AreFourWithEnglishAsDefaultAndFallback) {
     const LocalizationTable old = std::exchange(Localization, {});
     SdlWatch watch;
-    const ProgramFolder folder(watch, SOURCE_TREE);
+    const ProgramFolder folder(watch, ShippedData());
     GameState state;
     LoadLanguage(state);
     Lines codes;
@@ -138,7 +138,7 @@ TEST(ShippedLanguages, AreFourWithEnglishAsDefaultAndFallback) {
 TEST(ShippedLanguages, LoadWithoutAWord) {
     const LocalizationTable old = std::exchange(Localization, {});
     SdlWatch watch;
-    const ProgramFolder folder(watch, SOURCE_TREE);
+    const ProgramFolder folder(watch, ShippedData());
     for (std::size_t i = 0; i < Codes.size(); ++i) {
         const LogCatcher log;
         watch.Forget();

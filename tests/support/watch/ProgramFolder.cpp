@@ -5,6 +5,10 @@
 #include <stdexcept>
 #include <tuple>
 
+std::filesystem::path ShippedData() {
+    return SOURCE_TREE;
+}
+
 ProgramFolder::ProgramFolder(SdlWatch &Answering)
     : Watch(Answering), Path(Home.FilePath("program/").string()) {
     std::filesystem::create_directories(Path);

@@ -8,6 +8,9 @@
 #include <string_view>
 #include <vector>
 
+/// The folder in which the files lie that ship with the game.
+std::filesystem::path ShippedData();
+
 /// While it lives, a watch answers that the program finds its data in this folder, by title storage and by
 /// path. The user's files are in a new folder as well.
 class ProgramFolder {
@@ -18,7 +21,7 @@ public:
     /// A new folder with nothing in it, which goes at the end.
     explicit ProgramFolder(SdlWatch &Answering);
 
-    /// A folder that there is, as the source tree, where the files lie that ship with the game.
+    /// A folder that there is, as ShippedData().
     ProgramFolder(SdlWatch &Answering, const std::filesystem::path &Existing);
 
     ~ProgramFolder();
