@@ -1,15 +1,18 @@
 # The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
 .POSIX:
-.PHONY: help run test bench asan fuzz music install clean format
+.PHONY: help check run test bench fuzz music install clean format
 
 PREFIX = /usr/local
 FUZZ_SECONDS = 600
+MAIN_BRANCH = main
+# A job is a quarter of a core: most tests in the window wait most of the time (cmake/Tests.cmake).
+CTEST = ctest -j $$(( $$(getconf _NPROCESSORS_ONLN) * 4 ))
 
 help:
+	@echo 'make check    the daily loop: build the game, run all tests outside the window, lint what is new on this branch'
 	@echo 'make run      set up what is missing, build the game and play it (without a display: a short tour of it)'
-	@echo 'make test     set up what is missing and run all tests, plainly and under the sanitizers'
+	@echo 'make test     set up what is missing and run everything: the game in its window, its rooms under sanitizers'
 	@echo 'make bench    measure drawing, the simulation step, the start-up and saving'
-	@echo 'make asan     the tests under AddressSanitizer and UndefinedBehaviorSanitizer only'
 	@echo 'make fuzz     feed damaged files to each fuzz target for FUZZ_SECONDS ($(FUZZ_SECONDS))'
 	@echo 'make music    play the scores of tools/music into Music/ (the results are kept in the repository)'
 	@echo 'make install  install the game below PREFIX ($(PREFIX)); DESTDIR is honoured'
@@ -28,17 +31,22 @@ run:
 	    build/play/tools/tour/tour build/play/kestrel-volley build/tour; \
 	fi
 
+# Where there is no branch of that name the linter looks at every file that it has not seen.
+check:
+	@scripts/setup test
+	cmake --preset release
+	cmake --build --preset release
+	$(CTEST) --preset check
+	tests/tree/lint build/release --since '$(MAIN_BRANCH)'
+
 test:
 	@scripts/setup test
-	cmake --preset development
-	cmake --build --preset development
-	ctest --preset development
 	cmake --preset sanitizers
 	cmake --build --preset sanitizers
-	ctest --preset sanitizers
-	cmake --preset fuzz
-	cmake --build --preset fuzz
-	ctest --preset fuzz
+	cmake --preset release
+	cmake --build --preset release --target game_tests
+	$(CTEST) --preset sanitizers
+	$(CTEST) --preset game
 
 bench:
 	@scripts/setup test
@@ -46,17 +54,11 @@ bench:
 	cmake --build --preset release --target kestrel-bench
 	build/release/kestrel-bench
 
-asan:
-	@scripts/setup test
-	cmake --preset sanitizers
-	cmake --build --preset sanitizers
-	ctest --preset sanitizers
-
 fuzz:
 	@scripts/setup test
-	cmake --preset fuzz
-	cmake --build --preset fuzz
-	fuzz/run long build/fuzz/fuzz '$(FUZZ_SECONDS)'
+	cmake --preset sanitizers
+	cmake --build --preset sanitizers --target fuzz_targets
+	fuzz/run long build/sanitizers/fuzz '$(FUZZ_SECONDS)'
 
 music:
 	@scripts/setup music

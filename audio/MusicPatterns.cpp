@@ -3,6 +3,8 @@
 #include "store/Paths.hpp"
 #include "store/Words.hpp"
 
+#include <SDL3/SDL.h>
+
 #include <algorithm>
 #include <array>
 

@@ -6,6 +6,8 @@
 #include "audio/Synthesis.hpp"
 #include "store/TitleIni.hpp"
 
+#include <SDL3/SDL.h>
+
 #include <algorithm>
 
 namespace {

@@ -2,6 +2,8 @@
 
 #include "state/GameState.hpp"
 
+#include <SDL3/SDL.h>
+
 namespace {
 
 constexpr int VoiceCount = 12;

@@ -2,6 +2,8 @@
 
 #include "audio/Gains.hpp"
 
+#include <SDL3/SDL.h>
+
 #include <algorithm>
 
 namespace {

@@ -1,5 +1,7 @@
 #include "audio/Synthesis.hpp"
 
+#include <SDL3/SDL.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>

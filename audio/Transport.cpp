@@ -6,6 +6,8 @@
 #include "sim/Stages.hpp"
 #include "state/GameState.hpp"
 
+#include <SDL3/SDL.h>
+
 #include <algorithm>
 #include <stdexcept>
 

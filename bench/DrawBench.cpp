@@ -5,58 +5,60 @@
 #include "gfx/World.hpp"
 #include "sim/Lanes.hpp"
 #include "state/LogicalScreen.hpp"
+#include "tests/support/LogicalWidthScope.hpp"
 
 #include <benchmark/benchmark.h>
 
 namespace {
 
 /// A software renderer on a picture of the logical screen's size, with the sprites painted.
-class Canvas {
+class MemoryScreen {
 public:
-    explicit Canvas(std::int32_t Width)
+    explicit MemoryScreen(std::int32_t Width)
         : Surface(SDL_CreateSurface(Width, LogicalHeight, SDL_PIXELFORMAT_XRGB8888)),
-          Renderer(SDL_CreateSoftwareRenderer(Surface)) {
-        LogicalWidth = Width;
+          Renderer(SDL_CreateSoftwareRenderer(Surface)), ScreenWidth(Width) {
         SDL_SetRenderDrawBlendMode(Renderer, SDL_BLENDMODE_BLEND);
         BuildTextureAtlas(Renderer);
     }
 
-    ~Canvas() {
+    ~MemoryScreen() {
         DestroyTextureAtlas();
         SDL_DestroyRenderer(Renderer);
         SDL_DestroySurface(Surface);
-        LogicalWidth = 1280;
     }
 
-    Canvas(const Canvas &) = delete;
-    Canvas &operator=(const Canvas &) = delete;
+    MemoryScreen(const MemoryScreen &) = delete;
+    MemoryScreen &operator=(const MemoryScreen &) = delete;
 
     SDL_Surface *Surface;
     SDL_Renderer *Renderer;
+
+private:
+    LogicalWidthScope ScreenWidth;
 };
 
 using DrawFunction = void (*)(SDL_Renderer *Renderer, const GameState &State);
 
 void DrawWith(benchmark::State &Bench, DrawFunction Draw) {
-    const Canvas canvas(static_cast<std::int32_t>(Bench.range(0)));
+    const MemoryScreen screen(static_cast<std::int32_t>(Bench.range(0)));
     const GameState state = BusyRoad();
     for (auto iteration : Bench) {
-        Draw(canvas.Renderer, state);
-        SDL_FlushRenderer(canvas.Renderer);
+        Draw(screen.Renderer, state);
+        SDL_FlushRenderer(screen.Renderer);
     }
 }
 
 void PlayBackCallsOf(benchmark::State &Bench, DrawFunction Draw) {
-    const Canvas canvas(static_cast<std::int32_t>(Bench.range(0)));
+    const MemoryScreen screen(static_cast<std::int32_t>(Bench.range(0)));
     const GameState state = BusyRoad();
-    const DrawCalls calls = RecordDrawCalls([&canvas, &state, Draw] {
-        Draw(canvas.Renderer, state);
+    const DrawCalls calls = RecordDrawCalls([&screen, &state, Draw] {
+        Draw(screen.Renderer, state);
     });
     for (auto iteration : Bench) {
         for (const auto &call : calls) {
-            call(canvas.Renderer);
+            call(screen.Renderer);
         }
-        SDL_FlushRenderer(canvas.Renderer);
+        SDL_FlushRenderer(screen.Renderer);
     }
 }
 

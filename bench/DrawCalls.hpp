@@ -10,6 +10,3 @@ using DrawCalls = std::vector<std::function<void(SDL_Renderer *)>>;
 
 /// What a drawing function asks of SDL, call by call.
 DrawCalls RecordDrawCalls(const std::function<void()> &Draw);
-
-/// SDL_GetPerformanceCounter at the end of the last SDL_RenderPresent; 0 before the first.
-extern Uint64 LastPresent;

@@ -1,7 +1,7 @@
 #include "bench/BusyRoad.hpp"
-#include "bench/PrivateHome.hpp"
 #include "state/GameState.hpp"
 #include "store/SaveState.hpp"
+#include "tests/support/TemporaryHome.hpp"
 
 #include <SDL3/SDL.h>
 #include <benchmark/benchmark.h>
@@ -12,12 +12,8 @@
 
 namespace {
 
-std::string SavePath(const PrivateHome &Home) {
-    return (Home.Folder.Path() / "Orrin" / "KestrelVolley" / SaveStateFileName).string();
-}
-
 void SaveBusyRun(benchmark::State &Bench) {
-    const PrivateHome home;
+    const TemporaryHome home;
     const GameState state = BusyRoad();
     for (auto iteration : Bench) {
         if (!WriteSaveState(state)) {
@@ -28,16 +24,17 @@ void SaveBusyRun(benchmark::State &Bench) {
 }
 
 void WriteSameBytes(benchmark::State &Bench) {
-    const PrivateHome home;
+    const TemporaryHome home;
     WriteSaveState(BusyRoad());
+    const std::string path = home.FilePath(SaveStateFileName).string();
     std::size_t size = 0;
-    void *const bytes = SDL_LoadFile(SavePath(home).c_str(), &size);
+    void *const bytes = SDL_LoadFile(path.c_str(), &size);
     if (bytes == nullptr) {
         Bench.SkipWithError("the save state was not written");
         return;
     }
     for (auto iteration : Bench) {
-        SDL_SaveFile(SavePath(home).c_str(), bytes, size);
+        SDL_SaveFile(path.c_str(), bytes, size);
     }
     Bench.counters["bytes"] = static_cast<double>(size);
     SDL_free(bytes);

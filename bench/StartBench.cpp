@@ -2,8 +2,8 @@
 #include "app/Program.hpp"
 #include "app/ShutDown.hpp"
 #include "app/StartUp.hpp"
-#include "bench/DrawCalls.hpp"
-#include "bench/PrivateHome.hpp"
+#include "tests/support/TemporaryHome.hpp"
+#include "tests/support/watch/SdlWatch.hpp"
 #include "tools/desktop/VirtualDisplay.hpp"
 
 #include <SDL3_mixer/SDL_mixer.h>
@@ -41,13 +41,31 @@ private:
     std::optional<VirtualDisplay> Virtual;
 };
 
-double SecondsSince(Uint64 Start) {
-    return static_cast<double>(LastPresent - Start) / static_cast<double>(SDL_GetPerformanceFrequency());
-}
+/// Notes when a frame is on screen.
+class PresentClock {
+public:
+    PresentClock() {
+        Watch.RenderPresent.Answer = [this](SDL_Renderer *Renderer) {
+            const bool presented = SDL_RenderPresent(Renderer);
+            LastPresent = SDL_GetPerformanceCounter();
+            return presented;
+        };
+    }
+
+    double SecondsSince(Uint64 Start) const {
+        return static_cast<double>(LastPresent - Start) / static_cast<double>(SDL_GetPerformanceFrequency());
+    }
+
+private:
+    SdlWatch Watch;
+    Uint64 LastPresent = 0;
+};
 
 void StartGame(benchmark::State &Bench) {
     const Desktop desktop;
-    const PrivateHome home;
+    const TemporaryHome home;
+    const EnvironmentScope silence("SDL_AUDIO_DRIVER", "dummy");
+    const PresentClock clock;
     const auto program = std::make_unique<Program>();
     for (auto iteration : Bench) {
         const Uint64 start = SDL_GetPerformanceCounter();
@@ -56,7 +74,7 @@ void StartGame(benchmark::State &Bench) {
             return;
         }
         RunFrame(*program);
-        Bench.SetIterationTime(SecondsSince(start));
+        Bench.SetIterationTime(clock.SecondsSince(start));
         program->Music.FadeOutMs = 0; // nobody listens
         ShutDown(*program);
     }
@@ -64,7 +82,9 @@ void StartGame(benchmark::State &Bench) {
 
 void StartBareProgram(benchmark::State &Bench) {
     const Desktop desktop;
-    const PrivateHome home;
+    const TemporaryHome home;
+    const EnvironmentScope silence("SDL_AUDIO_DRIVER", "dummy");
+    const PresentClock clock;
     for (auto iteration : Bench) {
         const Uint64 start = SDL_GetPerformanceCounter();
         SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD);
@@ -83,7 +103,7 @@ void StartBareProgram(benchmark::State &Bench) {
         }
         SDL_RenderClear(renderer);
         SDL_RenderPresent(renderer);
-        Bench.SetIterationTime(SecondsSince(start));
+        Bench.SetIterationTime(clock.SecondsSince(start));
         MIX_DestroyMixer(mixer);
         MIX_Quit();
         SDL_DestroyRenderer(renderer);

@@ -40,16 +40,42 @@ constexpr std::array Ratios{
     Ratio{"saving a busy run", "SaveBusyRun", "WriteSameBytes", 10.0},
 };
 
-void PrintRatios(const std::map<std::string, double> &Times) {
+/// Whether no filter leaves out benchmarks.
+bool AreAllWanted() {
+    const std::string filter = benchmark::GetBenchmarkFilter();
+    return filter.empty() || filter == "all" || filter == ".";
+}
+
+/// A benchmark's time; 0 if it failed, and if there is none of that name.
+double TimeOf(const std::map<std::string, double> &Times, const char *Name) {
+    const auto found = Times.find(Name);
+    return found != Times.end() ? found->second : 0.0;
+}
+
+/// Prints a ratio. False if it is above its target or could not be measured.
+bool CheckRatio(const Ratio &Ratio, const std::map<std::string, double> &Times) {
+    const double ours = TimeOf(Times, Ratio.Ours);
+    const double bare = TimeOf(Times, Ratio.Bare);
+    if (ours <= 0.0 || bare <= 0.0) {
+        std::printf("  %-20s not measured: it takes %s and %s\n", Ratio.Words, Ratio.Ours, Ratio.Bare);
+        return false;
+    }
+    const bool isKept = ours / bare <= Ratio.Target;
+    std::printf("  %-20s %.3f of the bare calls (target: at most %.2f%s)\n", Ratio.Words, ours / bare,
+        Ratio.Target, isKept ? "" : ", which is missed");
+    return isKept;
+}
+
+/// Prints the ratios whose benchmarks were wanted, and tells whether all are within their targets.
+bool CheckRatios(const std::map<std::string, double> &Times) {
     std::printf("\nOur share:\n");
+    bool areKept = true;
     for (const Ratio &ratio : Ratios) {
-        const auto ours = Times.find(ratio.Ours);
-        const auto bare = Times.find(ratio.Bare);
-        if (ours != Times.end() && bare != Times.end()) {
-            std::printf("  %-20s %.3f of the bare calls (target: at most %.2f)\n", ratio.Words,
-                ours->second / bare->second, ratio.Target);
+        if (AreAllWanted() || (Times.contains(ratio.Ours) && Times.contains(ratio.Bare))) {
+            areKept = CheckRatio(ratio, Times) && areKept;
         }
     }
+    return areKept;
 }
 
 } // namespace
@@ -60,7 +86,7 @@ int main(int ArgumentCount, char **Arguments) {
         return 1;
     }
     RememberingReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    PrintRatios(reporter.Times);
-    return 0;
+    const bool areAny = benchmark::RunSpecifiedBenchmarks(&reporter) > 0;
+    const bool wereOnlyListed = areAny && reporter.Times.empty();
+    return wereOnlyListed || (areAny && CheckRatios(reporter.Times)) ? 0 : 1;
 }

@@ -71,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *Data, std::size_t Size
     const std::string_view text = TextOf({Data, Size});
     const std::string path = Home().FilePath("Input.ini").string();
     const std::string copyPath = Home().FilePath("Copy.ini").string();
-    WriteFile(path, text);
+    WriteBytes(path, text);
     Succeeds([&] {
         ReadAndWrite(path, copyPath, Size);
     });

@@ -1,7 +1,7 @@
 #include "fuzz/support/ExpectedFailure.hpp"
-#include "fuzz/support/ProgramFolder.hpp"
 #include "fuzz/support/Target.hpp"
 #include "state/GameState.hpp"
+#include "tests/support/watch/ProgramFolder.hpp"
 #include "text/Languages.hpp"
 #include "text/Utf8.hpp"
 
@@ -25,11 +25,17 @@ std::string_view TakePart(std::string_view &Text) {
     return part;
 }
 
+/// Where the game finds what ships with it.
+struct ShippedFiles {
+    SdlWatch Watch;
+    const ProgramFolder Folder{Watch};
+};
+
 void WriteFiles(std::string_view Input) {
-    static const std::filesystem::path folder = ProgramFolder() / "Localization";
-    std::filesystem::create_directories(folder);
+    static ShippedFiles shipped;
+    shipped.Watch.Forget(); // what it has noted of the last input
     for (const char *const name : Files) {
-        WriteFile(folder / name, TakePart(Input));
+        shipped.Folder.Write(std::string("Localization/") + name, TakePart(Input));
     }
 }
 

@@ -72,7 +72,7 @@ void LoadSaveLoad(bool HasDisplay) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *Data, std::size_t Size) {
-    WriteFile(Home().FilePath(OptionsFileName), TextOf({Data, Size}));
+    WriteBytes(Home().FilePath(OptionsFileName), TextOf({Data, Size}));
     Succeeds([Size] {
         LoadSaveLoad(Size % 2 == 1);
     });

@@ -54,11 +54,11 @@ void DemandRanges(const GameState &State) {
 /// What is loaded is saved and loaded without a change.
 void DemandRoundTrip(const GameState &State, const std::filesystem::path &Path) {
     Demand(WriteSaveState(State), "the loaded state was not saved");
-    const std::string saved = ReadFile(Path);
+    const std::string saved = ReadBytes(Path);
     GameState again;
     Demand(LoadSaveState(again), "the saved state was not loaded");
     Demand(WriteSaveState(again), "the state loaded again was not saved");
-    Demand(ReadFile(Path) == saved, "the state changed on its way through the file");
+    Demand(ReadBytes(Path) == saved, "the state changed on its way through the file");
 }
 
 /// One frame with the controls held that the length of the input picks.
@@ -75,7 +75,7 @@ void DriveOn(GameState &State, std::size_t Length) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *Data, std::size_t Size) {
     const std::filesystem::path path = Home().FilePath(SaveStateFileName);
-    WriteFile(path, TextOf({Data, Size}));
+    WriteBytes(path, TextOf({Data, Size}));
     WalkTokens(path.string());
     GameState state;
     if (!LoadSaveState(state)) {

@@ -14,7 +14,8 @@ namespace {
 // Sizes in logical pixels.
 constexpr float EntitySize = 26.0F; ///< of enemies and items
 constexpr float ObstacleScale = 1.3F;
-constexpr float PlayerSize = 31.2F;
+
+constexpr float EndingFlashAlpha = 120.0F; ///< a fresh flash has twice as much
 
 constexpr float BlinksPerSecond = 15.0F;
 
@@ -63,7 +64,7 @@ void DrawHittable(
     DrawSprite(Renderer, Id, std::round(X), std::round(Y), Width, Height);
     if (HitFlash > 0.0F) {
         const float strength = std::min(HitFlash / HitFlashSeconds, 1.0F);
-        const auto alpha = static_cast<std::uint32_t>(strength * 120.0F + 120.0F);
+        const auto alpha = static_cast<std::uint32_t>(strength * EndingFlashAlpha + EndingFlashAlpha);
         const std::uint32_t tint = alpha << 24U | 0x003C3CFFU;
         DrawSpriteTinted(Renderer, Id, std::round(X), std::round(Y), Width, Height, tint);
     }
@@ -136,7 +137,7 @@ void DrawPlayer(SDL_Renderer *Renderer, const GameState &State) {
         FillDisc(Renderer, x, y, HaloRadius, HaloColor);
     }
     const SpriteId sprite = PlayerSprite(invincible, State.DualWeaponPowerTimer > 0.0F);
-    DrawSprite(Renderer, sprite, x, y, PlayerSize, PlayerSize);
+    DrawSprite(Renderer, sprite, x, y, CarSize, CarSize);
 }
 
 } // namespace

@@ -6,6 +6,9 @@
 
 struct GameState;
 
+/// Width and height of the player's car in logical pixels, on the road and as the icon of the spare lives.
+inline constexpr float CarSize = 31.2F;
+
 /// Draws one shot in units of the snap step, so that it keeps its shape in a small window. A tall shot
 /// extends up from (X, Y), another down from it.
 void DrawBullet(SDL_Renderer *Renderer, float X, float Y, int SnapStep, bool Tall, std::uint32_t OuterColor,

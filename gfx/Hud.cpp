@@ -1,6 +1,7 @@
 #include "gfx/Hud.hpp"
 
 #include "gfx/Draw.hpp"
+#include "gfx/Entities.hpp"
 #include "gfx/Text.hpp"
 #include "sim/Bomb.hpp"
 #include "sim/Lanes.hpp"
@@ -28,7 +29,6 @@ constexpr float BarWidth = 110.0F;
 constexpr float BarHeight = 10.0F;
 constexpr float IconSize = 26.0F;
 constexpr float IconDistance = 30.0F;
-constexpr float CarSize = 31.2F;
 
 constexpr int BannerScale = 5;
 constexpr float BannerY = 340.0F;

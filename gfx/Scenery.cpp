@@ -152,8 +152,8 @@ void DrawGround(SDL_Renderer *Renderer, const GameState &State, std::int32_t The
         return;
     }
     const SceneryTheme &theme = ThemeRow(Theme);
-    const float offsetY =
-        State.RoadScroll - Y0; // the tiling follows the road alone, so bands join without a jump
+    // The tiling follows the road alone, so bands join without a jump.
+    const float offsetY = State.RoadScroll - Y0;
     WaterOffsets offsetX{0.0F, 0.0F};
     if (theme.IsWater) {
         offsetX = WaterOffsetsAt(State.GameTime, Y0, FlowDirection);

@@ -28,12 +28,12 @@ enum class IniEntryKind : std::uint8_t {
 struct IniEntry {
     IniEntryKind Kind = IniEntryKind::EmptyLine;
     std::string Key; ///< of a comment or blank line a reserved key, of an element its index as text
-    std::string
-        Value; ///< value or comment text without escapes and quotes; empty for a blank line or an array
+    /// Value or comment text without escapes and quotes; empty for a blank line or an array.
+    std::string Value;
     std::optional<std::string> Comment; ///< behind the value, on its line
     bool Quoted = false;
-    bool RawComment =
-        false; ///< of a comment: quotes and backslashes are written without a backslash before them
+    /// Of a comment: quotes and backslashes are written without a backslash before them.
+    bool RawComment = false;
     std::int32_t NextIndex = 0; ///< of an array: the index of the latest element that was added without one
     bool WriteIndexes = false;  ///< of an array: the writer spells the indexes out; nothing here sets it
     std::vector<IniEntry> Elements;

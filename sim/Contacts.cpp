@@ -3,6 +3,7 @@
 #include "sim/Bursts.hpp"
 #include "sim/Damage.hpp"
 #include "sim/Geometry.hpp"
+#include "sim/UsedUp.hpp"
 #include "state/GameState.hpp"
 #include "state/Limits.hpp"
 
@@ -27,41 +28,33 @@ bool TouchesPlayer(const Player &Player, const Obstacle &Other) {
 
 /// Removes what touches the player, each with its burst and then its damage, and what has left the screen.
 template <typename Thing, typename DamageOf>
-void MeetAll(
-    GameState &State, std::vector<Thing> GameState::*List, float LeaveY, Burst Occasion, DamageOf Damage) {
-    std::vector<Thing> &things = State.*List;
-    for (std::size_t i = 0; i < things.size();) {
-        const Thing thing = things[i];
-        const bool touches = TouchesPlayer(State.Player, thing);
-        if (!touches && !(thing.Y > LeaveY)) {
-            ++i;
-            continue;
+void MeetAll(GameState &State, std::vector<Thing> &Things, float LeaveY, Burst Occasion, DamageOf Damage) {
+    RemoveUsedUp(Things, [&](const Thing &Met) {
+        if (!TouchesPlayer(State.Player, Met)) {
+            return Met.Y > LeaveY;
         }
-        things.erase(things.begin() + static_cast<std::ptrdiff_t>(i));
-        if (touches) {
-            AddBurst(State, Occasion, thing.X, thing.Y);
-            DamagePlayer(State, Damage(thing)); // the last life lost empties the list of shots
-        }
-    }
+        AddBurst(State, Occasion, Met.X, Met.Y);
+        DamagePlayer(State, Damage(Met)); // the last life lost empties the list of shots
+        return true;
+    });
 }
 
 } // namespace
 
 void MeetEnemies(GameState &State) {
-    MeetAll(State, &GameState::Enemies, EnemyLeaveY, Burst::Ram, [](const Enemy &) {
+    MeetAll(State, State.Enemies, EnemyLeaveY, Burst::Ram, [](const Enemy &) {
         return RamDamage;
     });
 }
 
 void MeetEnemyBullets(GameState &State) {
-    MeetAll(
-        State, &GameState::EnemyBullets, EnemyBulletLeaveY, Burst::EnemyShot, [](const EnemyBullet &Shot) {
-            return Shot.Damage;
-        });
+    MeetAll(State, State.EnemyBullets, EnemyBulletLeaveY, Burst::EnemyShot, [](const EnemyBullet &Shot) {
+        return Shot.Damage;
+    });
 }
 
 void MeetObstacles(GameState &State) {
-    MeetAll(State, &GameState::Obstacles, ObstacleLeaveY, Burst::ObstacleCrash, [](const Obstacle &Obstacle) {
+    MeetAll(State, State.Obstacles, ObstacleLeaveY, Burst::ObstacleCrash, [](const Obstacle &Obstacle) {
         return CrashDamageOf(Obstacle.Type);
     });
 }

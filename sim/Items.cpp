@@ -5,6 +5,7 @@
 #include "sim/Lanes.hpp"
 #include "sim/Road.hpp"
 #include "sim/Score.hpp"
+#include "sim/UsedUp.hpp"
 #include "state/GameState.hpp"
 #include "state/Limits.hpp"
 
@@ -65,11 +66,7 @@ void MoveItems(GameState &State, float dt) {
 }
 
 void PickUpItems(GameState &State) {
-    for (std::size_t i = 0; i < State.Items.size();) {
-        if (PickUp(State, State.Items[i]) || State.Items[i].Y > ItemLeaveY) {
-            State.Items.erase(State.Items.begin() + static_cast<std::ptrdiff_t>(i));
-        } else {
-            ++i;
-        }
-    }
+    RemoveUsedUp(State.Items, [&State](const Item &Item) {
+        return PickUp(State, Item) || Item.Y > ItemLeaveY;
+    });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 
 #include <algorithm>
 
@@ -10,8 +11,7 @@ void MoveRoad(GameState &State, float dt);
 
 /// How much faster than in stage 1 the road is now: what the traffic and the spawn timers are scaled by.
 inline float SpeedScale(const GameState &State) {
-    constexpr float scaledSpeed = 120.0F; // the road speed at which the scale is 1
-    return State.CurrentScrollSpeed / scaledSpeed;
+    return State.CurrentScrollSpeed / FirstStageSpeed;
 }
 
 /// How far a thing of a speed rolls in dt seconds, in logical pixels: it is always faster than the road by at

@@ -4,6 +4,7 @@
 #include "sim/Geometry.hpp"
 #include "sim/ItemSpawn.hpp"
 #include "sim/Score.hpp"
+#include "sim/UsedUp.hpp"
 #include "state/GameState.hpp"
 #include "state/Limits.hpp"
 
@@ -71,12 +72,7 @@ bool HitEnemy(GameState &State, const Bullet &Bullet) {
 } // namespace
 
 void HitTargets(GameState &State) {
-    std::vector<Bullet> &bullets = State.Bullets;
-    for (std::size_t i = 0; i < bullets.size();) {
-        if (HitObstacle(State, bullets[i]) || HitEnemy(State, bullets[i])) {
-            bullets.erase(bullets.begin() + static_cast<std::ptrdiff_t>(i));
-        } else {
-            ++i;
-        }
-    }
+    RemoveUsedUp(State.Bullets, [&State](const Bullet &Shot) {
+        return HitObstacle(State, Shot) || HitEnemy(State, Shot);
+    });
 }

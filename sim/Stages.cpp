@@ -17,7 +17,7 @@ struct StageRow {
 };
 
 constexpr std::array<StageRow, 9> StageTable{{
-    {120.0F, false, 0},
+    {FirstStageSpeed, false, 0},
     {120.0F, true, 1},
     {136.0F, true, 1},
     {122.0F, false, 2},
@@ -66,8 +66,8 @@ void StartStage(GameState &State, std::int32_t NewStage) {
     State.StageTransition = 0.0F;
     State.PreviousWaterFlowDirection = State.WaterFlowDirection;
     AddSpareLives(State, NewStage, oldStage);
-    if (IsWaterStage(NewStage) &&
-        !IsWaterStage(oldStage)) { // from one water stage to the next the flow stays
+    // From one water stage to the next the flow stays.
+    if (IsWaterStage(NewStage) && !IsWaterStage(oldStage)) {
         State.WaterFlowDirection = RandomFlowDirection(State);
     }
 }

@@ -28,8 +28,8 @@ constexpr float SaveDelaySeconds = 0.8F;
 
 void ChangeStage(GameState &State) {
     const std::int32_t newStage = StageAt(State.GameTime);
-    if (newStage !=
-        State.Stage) { // also backwards: a loaded run whose stage does not fit its time is corrected
+    // Also backwards: a loaded run whose stage does not fit its time is corrected.
+    if (newStage != State.Stage) {
         StartStage(State, newStage);
     }
 }

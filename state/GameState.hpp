@@ -34,7 +34,7 @@ struct GameState {
     std::int32_t PreviousWaterFlowDirection = 1; ///< before the last stage change
     float GameTime = 0.0F;                       ///< time driven in this run
     float RoadScroll = 0.0F;                     ///< distance scrolled; grows without wrapping
-    float CurrentScrollSpeed = 120.0F;           ///< pixels a second, smoothed
+    float CurrentScrollSpeed = FirstStageSpeed;  ///< pixels a second, smoothed
     float StageTransition = 1.0F;                ///< share of the screen scrolled since the last stage change
     float SpawnTimer = 0.0F; ///< until the next enemy, in seconds scaled by the road speed
     float ObstacleSpawnTimer = FirstObstacleSeconds;

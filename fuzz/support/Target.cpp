@@ -8,9 +8,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <stdexcept>
 #include <streambuf>
 
@@ -67,18 +65,6 @@ extern "C" int LLVMFuzzerInitialize(int * /*ArgumentCount*/, char *** /*Argument
 
 std::string_view TextOf(std::span<const std::uint8_t> Input) {
     return {reinterpret_cast<const char *>(Input.data()), Input.size()};
-}
-
-void WriteFile(const std::filesystem::path &Path, std::string_view Bytes) {
-    std::ofstream file(Path, std::ios::binary);
-    file.write(Bytes.data(), static_cast<std::streamsize>(Bytes.size()));
-    file.close();
-    Demand(file.good(), "the target cannot write its own file");
-}
-
-std::string ReadFile(const std::filesystem::path &Path) {
-    std::ifstream file(Path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 void Demand(bool Holds, const char *Words) {

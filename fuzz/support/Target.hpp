@@ -1,9 +1,9 @@
 #pragma once
 
 #include "tests/support/TemporaryHome.hpp"
+#include "tools/support/Files.hpp"
 
 #include <cstdint>
-#include <filesystem>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,11 +13,6 @@
 
 /// The bytes of an input as text.
 std::string_view TextOf(std::span<const std::uint8_t> Input);
-
-/// Puts a file in place of what was there; its folder has to be there.
-void WriteFile(const std::filesystem::path &Path, std::string_view Bytes);
-
-std::string ReadFile(const std::filesystem::path &Path);
 
 /// Ends the program, with these words for the report, unless the condition holds.
 void Demand(bool Holds, const char *Words);

@@ -3,9 +3,9 @@
 #include "store/OptionsFile.hpp"
 #include "store/SaveState.hpp"
 #include "tests/app/ProgramTest.hpp"
+#include "tools/support/Files.hpp"
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 /// A test of the whole program with the real files of the user's storage, in a home of its own.
@@ -16,13 +16,11 @@ protected:
     }
 
     void Put(const char *Name, const std::string &Contents) {
-        std::filesystem::create_directories(Home.FilePath(Name).parent_path());
-        std::ofstream(Home.FilePath(Name), std::ios::binary) << Contents;
+        WriteBytes(Home.FilePath(Name), Contents);
     }
 
     std::string Contents(const char *Name) const {
-        std::ifstream file(Home.FilePath(Name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        return ReadBytes(Home.FilePath(Name));
     }
 
     bool Exists(const char *Name) const {

@@ -9,7 +9,7 @@ class FirstLaunch : public ProgramTest {
 protected:
     /// Starts on one made-up display whose desktop mode is also the only one that it offers.
     void StartOnDesktop(int Width, int Height) {
-        FakeDisplays displays;
+        FakeDisplays displays(Watch);
         displays.Primary = 7;
         displays.OfWindow = 7;
         displays.Add(7, Width, Height).Modes = {Mode(Width, Height, 60.0F)};
@@ -18,31 +18,25 @@ protected:
     }
 
     /// Starts while SDL can tell nothing at all about displays.
-    void StartWithoutDisplays(SdlWatch &Watch) {
-        for (const char *function : {"SDL_GetPrimaryDisplay", "SDL_GetDisplays", "SDL_GetDesktopDisplayMode",
-                 "SDL_GetCurrentDisplayMode", "SDL_GetDisplayForWindow", "SDL_GetFullscreenDisplayModes"}) {
-            Watch.Refuse(function);
-        }
-        Start();
-        NoteSize(Watch);
+    void StartWithoutDisplays() {
+        Watch.GetPrimaryDisplay.Refuse();
+        Watch.GetDisplays.Refuse();
+        Watch.GetDesktopDisplayMode.Refuse();
+        Watch.GetCurrentDisplayMode.Refuse();
+        Watch.GetDisplayForWindow.Refuse();
+        Watch.GetFullscreenDisplayModes.Refuse();
+        StartAndNoteSize();
     }
 
     void StartAndNoteSize() {
-        const SdlWatch watch;
         Start();
-        NoteSize(watch);
-    }
-
-    void NoteSize(const SdlWatch &Watch) {
-        const std::vector<SdlCall> calls = Watch.CallsOf("SDL_CreateWindow");
-        ASSERT_EQ(calls.size(), 1U);
-        CreatedSize = {static_cast<std::int32_t>(calls[0].Arguments[1]),
-            static_cast<std::int32_t>(calls[0].Arguments[2])};
-        CreatedFlags = calls[0].Arguments[3];
+        const auto &[title, width, height, flags] = Watch.CreateWindow.OnlyCall();
+        CreatedSize = {width, height};
+        CreatedFlags = flags;
     }
 
     Resolution CreatedSize; ///< what the window was created with
-    std::int64_t CreatedFlags = 0;
+    SDL_WindowFlags CreatedFlags = 0;
 };
 
 TEST_F(FirstLaunch, OnTheDummyDriversDesktopIsClassic) {
@@ -55,10 +49,10 @@ TEST_F(FirstLaunch, OnTheDummyDriversDesktopIsClassic) {
 }
 
 TEST_F(FirstLaunch, WithoutDisplayInformationIs720pWidescreenInFullscreen) {
-    SdlWatch watch;
-    StartWithoutDisplays(watch);
+    Watch.Forget();
+    StartWithoutDisplays();
     EXPECT_EQ(CreatedSize, (Resolution{1280, 720}));
-    EXPECT_EQ(CreatedFlags, static_cast<std::int64_t>(SDL_WINDOW_FULLSCREEN));
+    EXPECT_EQ(CreatedFlags, SDL_WINDOW_FULLSCREEN);
     EXPECT_EQ(State.AspectMode, AspectWidescreen);
     EXPECT_EQ(LogicalWidth, 1280);
     EXPECT_TRUE(State.Fullscreen);
@@ -116,7 +110,7 @@ TEST_F(FirstLaunch, OnAFiveToFourScreenEndsAtTheFallbackRow) {
 }
 
 TEST_F(FirstLaunch, TakesTheRatesOfTheDesktopsSize) {
-    FakeDisplays displays;
+    FakeDisplays displays(Watch);
     displays.Primary = 7;
     displays.OfWindow = 7;
     displays.Add(7, 1920, 1080).Modes = {

@@ -24,7 +24,7 @@ TEST_F(FrameCap, HoldsAFrameForEightMilliseconds) {
 }
 
 TEST_F(FrameCap, SleepsOneToEightMillisecondsWheneverItSleeps) {
-    const SdlWatch watch;
+    Watch.Forget();
     for (int i = 0; i < 30; ++i) {
         State.OptionsDirty = true; // a write that takes longer and longer
         Written.OnOptionsWrite = [i] {
@@ -32,11 +32,10 @@ TEST_F(FrameCap, SleepsOneToEightMillisecondsWheneverItSleeps) {
         };
         RunFrame(Program);
     }
-    const std::vector<SdlCall> sleeps = watch.CallsOf("SDL_Delay");
-    EXPECT_FALSE(sleeps.empty());
-    for (const SdlCall &sleep : sleeps) {
-        EXPECT_GE(sleep.Arguments[0], 1);
-        EXPECT_LE(sleep.Arguments[0], 8);
+    EXPECT_GT(Watch.Delay.Count(), 0);
+    for (const auto &[milliseconds] : Watch.Delay.Calls) {
+        EXPECT_GE(milliseconds, 1U);
+        EXPECT_LE(milliseconds, 8U);
     }
 }
 
@@ -44,15 +43,14 @@ TEST_F(FrameCap, CountsFromTheTopOfTheFrame) {
     Written.OnOptionsWrite = [] {
         SDL_DelayPrecise(SDL_MS_TO_NS(4));
     };
-    const SdlWatch watch;
+    Watch.Forget();
     for (int i = 0; i < 20; ++i) {
         State.OptionsDirty = true;
         RunFrame(Program);
     }
-    const std::vector<SdlCall> sleeps = watch.CallsOf("SDL_Delay");
-    EXPECT_FALSE(sleeps.empty());
-    for (const SdlCall &sleep : sleeps) {
-        EXPECT_LE(sleep.Arguments[0], 4); // the time of the write is part of the eight milliseconds
+    EXPECT_GT(Watch.Delay.Count(), 0);
+    for (const auto &[milliseconds] : Watch.Delay.Calls) {
+        EXPECT_LE(milliseconds, 4U); // the time of the write is part of the eight milliseconds
     }
 }
 
@@ -61,19 +59,19 @@ TEST_F(FrameCap, DoesNotSleepAfterALongFrame) {
     Written.OnOptionsWrite = [] {
         SDL_DelayPrecise(SDL_MS_TO_NS(10));
     };
-    const SdlWatch watch;
+    Watch.Forget();
     RunFrame(Program);
-    EXPECT_EQ(watch.Count("SDL_Delay"), 0);
+    EXPECT_EQ(Watch.Delay.Count(), 0);
 }
 
 TEST_F(FrameCap, DoesNotSleepWithActiveVSync) {
     State.VSyncActive = true;
-    const SdlWatch watch;
+    Watch.Forget();
     for (int i = 0; i < 10; ++i) {
         RunFrame(Program);
     }
-    EXPECT_EQ(watch.Count("SDL_Delay"), 0);
-    EXPECT_EQ(watch.Count("SDL_RenderPresent"), 10);
+    EXPECT_EQ(Watch.Delay.Count(), 0);
+    EXPECT_EQ(Watch.RenderPresent.Count(), 10);
 }
 
 TEST_F(FrameCap, GoesByWhatIsActiveNotByTheOption) {
@@ -88,8 +86,8 @@ TEST_F(FrameCap, GoesByWhatIsActiveNotByTheOption) {
 class RefusedVSync : public ProgramTest {};
 
 TEST_F(RefusedVSync, StillGivesAPacedLoop) {
-    SdlWatch watch;
-    watch.Refuse("SDL_SetRenderVSync");
+    Watch.Forget();
+    Watch.SetRenderVSync.Refuse();
     Start();
     ASSERT_TRUE(State.VSync);
     ASSERT_FALSE(State.VSyncActive);
@@ -99,7 +97,7 @@ TEST_F(RefusedVSync, StillGivesAPacedLoop) {
         RunFrame(Program);
     }
     EXPECT_GE(SDL_GetTicksNS() - before, SDL_MS_TO_NS(70));
-    EXPECT_GE(watch.Count("SDL_Delay"), 1);
+    EXPECT_GE(Watch.Delay.Count(), 1);
 }
 
 TEST_F(RefusedVSync, IsWhatTheOffscreenDriverReports) {

@@ -18,12 +18,12 @@ TEST_F(FrameEvents, AQuitRequestFinishesTheFrame) {
     LetTimePass(1000);
     const float timeBefore = State.GameTime;
     PushEvent(SDL_EVENT_QUIT);
-    const SdlWatch watch;
+    Watch.Forget();
     RunFrame(Program);
     EXPECT_FALSE(State.Running);
     EXPECT_FLOAT_EQ(State.GameTime, timeBefore + 0.033F); // simulated once
     EXPECT_EQ(Written.SaveWrites, 1);
-    EXPECT_EQ(watch.Count("SDL_RenderPresent"), 1);
+    EXPECT_EQ(Watch.RenderPresent.Count(), 1);
 }
 
 TEST_F(FrameEvents, AQuitRequestStopsTheDraining) {
@@ -78,11 +78,11 @@ TEST_F(FrameEvents, LeavingFromTheMainMenuFinishesTheFrame) {
     ShowWithoutWaiting(ScreenMainMenu);
     State.SaveDelay = 0.0F;
     PushKey(SDL_SCANCODE_ESCAPE);
-    const SdlWatch watch;
+    Watch.Forget();
     RunFrame(Program);
     EXPECT_FALSE(State.Running);
     EXPECT_EQ(Written.SaveWrites, 1);
-    EXPECT_EQ(watch.Count("SDL_RenderPresent"), 1);
+    EXPECT_EQ(Watch.RenderPresent.Count(), 1);
 }
 
 TEST_F(FrameEvents, KeyRepeatsAreIgnoredInPlay) {

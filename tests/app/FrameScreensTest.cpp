@@ -26,14 +26,14 @@ protected:
     /// The next frame, as it stands just before it is presented.
     Picture NextFrame() {
         std::optional<Picture> shown;
-        SdlWatch watch;
-        watch.Before("SDL_RenderPresent", [&] {
+        Watch.RenderPresent.Before = [&](SDL_Renderer *) {
             SDL_SetRenderViewport(Program.Renderer, nullptr); // the whole picture is read
             SDL_Surface *pixels = SDL_RenderReadPixels(Program.Renderer, nullptr);
             shown.emplace(pixels);
             SDL_DestroySurface(pixels);
-        });
+        };
         RunFrame(Program);
+        Watch.RenderPresent.Before = nullptr;
         return shown.value();
     }
 
@@ -178,12 +178,12 @@ TEST_F(FrameScreens, AChangeMadeByTheStepIsDrawnInTheSameFrame) {
 }
 
 TEST_F(FrameScreens, EveryFrameIsPresentedOnce) {
-    const SdlWatch watch;
+    Watch.Forget();
     for (const enum Screen screen : OtherScreens) {
         RunFrameOn(screen);
     }
     RunFrameOn(ScreenPlaying);
-    EXPECT_EQ(watch.Count("SDL_RenderPresent"), 7);
+    EXPECT_EQ(Watch.RenderPresent.Count(), 7);
 }
 
 } // namespace

@@ -70,15 +70,15 @@ TEST_F(HotPlugFrames, ADeviceThatDoesNotOpenIsSilent) {
     const VirtualDevice pad(GamepadShape);
     const VirtualDevice stick(JoystickShape);
     const LogCatcher log;
-    SdlWatch watch;
-    watch.Refuse("SDL_OpenGamepad");
-    watch.Refuse("SDL_OpenJoystick");
+    Watch.Forget();
+    Watch.OpenGamepad.Refuse();
+    Watch.OpenJoystick.Refuse();
     RunFrame(Program);
     EXPECT_EQ(Program.Devices.Gamepad, nullptr);
     EXPECT_EQ(Program.Devices.Joystick, nullptr);
     EXPECT_EQ(log.Lines, std::vector<std::string>{});
-    EXPECT_GE(watch.Count("SDL_OpenGamepad"), 1);
-    EXPECT_GE(watch.Count("SDL_OpenJoystick"), 1);
+    EXPECT_GE(Watch.OpenGamepad.Count(), 1);
+    EXPECT_GE(Watch.OpenJoystick.Count(), 1);
     Stop();
 }
 

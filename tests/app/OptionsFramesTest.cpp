@@ -58,7 +58,7 @@ protected:
         return found == Localization.Texts.end() ? std::string() : found->second;
     }
 
-    FakeDisplays Displays;
+    FakeDisplays Displays{Watch};
 };
 
 TEST_F(OptionsFrames, ApplyOfTheControlsIsWrittenWithinItsFrameAndOnlyIfSomethingChanged) {
@@ -75,14 +75,14 @@ TEST_F(OptionsFrames, ApplyOfTheControlsIsWrittenWithinItsFrameAndOnlyIfSomethin
 TEST_F(OptionsFrames, ApplyOfTheGraphicsIsWrittenWithinItsFrameAndOnlyIfSomethingChanged) {
     Open(OptionsPageGraphics);
     {
-        const SdlWatch watch;
+        Watch.Forget();
         ExpectWrites(&GameState::GraphicsSelection, 6, 0);
-        EXPECT_EQ(watch.Count("SDL_SetRenderVSync"), 0);
-        EXPECT_EQ(watch.Count("SDL_SetRenderLogicalPresentation"), 0);
+        EXPECT_EQ(Watch.SetRenderVSync.Count(), 0);
+        EXPECT_EQ(Watch.SetRenderLogicalPresentation.Count(), 0);
         State.GraphicsSelection = 1;
         Frame({SDL_SCANCODE_RIGHT});
         EXPECT_EQ(Written.OptionsWrites, 0);
-        EXPECT_EQ(watch.Count("SDL_SetRenderLogicalPresentation"), 0);
+        EXPECT_EQ(Watch.SetRenderLogicalPresentation.Count(), 0);
     }
     EXPECT_EQ(LogicalWidth, 1280);
     ExpectWrites(&GameState::GraphicsSelection, 6, 1);

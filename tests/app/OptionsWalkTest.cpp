@@ -195,17 +195,17 @@ protected:
         return state;
     }
 
-    static std::size_t WindowCalls(const SdlWatch &Watch) {
+    std::size_t WindowCalls() const {
         return Watch
-            .NamesAmong({"SDL_SetWindowFullscreenMode", "SDL_SetWindowFullscreen", "SDL_SetWindowSize",
-                "SDL_SetWindowPosition", "SDL_SetRenderVSync", "SDL_SetRenderLogicalPresentation"})
+            .OrderOf({Watch.SetWindowFullscreenMode, Watch.SetWindowFullscreen, Watch.SetWindowSize,
+                Watch.SetWindowPosition, Watch.SetRenderVSync, Watch.SetRenderLogicalPresentation})
             .size();
     }
 
     void ExpectSoundRecord();
     void ExpectSoundEdits();
 
-    FakeDisplays Displays;
+    FakeDisplays Displays{Watch};
     std::mt19937 Random;
 };
 
@@ -242,7 +242,7 @@ void OptionsWalk::ExpectSoundEdits() {
 TEST_F(OptionsWalk, LeavingWithoutApplyChangesNoAppliedValue) {
     const GameState applied = AppliedOf(State);
     const std::int32_t width = LogicalWidth;
-    const SdlWatch watch;
+    Watch.Forget();
     int edits = 0;
     for (int walk = 0; walk < 150; ++walk) {
         for (int i = 0; i < 80; ++i) {
@@ -254,7 +254,7 @@ TEST_F(OptionsWalk, LeavingWithoutApplyChangesNoAppliedValue) {
         ASSERT_TRUE(SameState(AppliedOf(State), applied)) << walk;
     }
     EXPECT_FALSE(State.OptionsDirty);
-    EXPECT_EQ(WindowCalls(watch), 0U);
+    EXPECT_EQ(WindowCalls(), 0U);
     EXPECT_EQ(LogicalWidth, width);
     EXPECT_GT(edits, 1000); // the walks do change things
 }
@@ -275,11 +275,11 @@ TEST_F(OptionsWalk, DefaultSettingsAloneChangeNothingThatIsApplied) {
         const enum OptionsPage page = EditPages.at(Random() % EditPages.size());
         const GameState applied = AppliedOf(State);
         const std::int32_t width = LogicalWidth;
-        const SdlWatch watch;
+        Watch.Forget();
         EditAtRandom(page, 20);
         PressOn(DefaultsRowOf(page));
         ASSERT_TRUE(SameState(WithoutGraphics(AppliedOf(State)), WithoutGraphics(applied))) << walk;
-        ASSERT_EQ(WindowCalls(watch), 0U) << walk;
+        ASSERT_EQ(WindowCalls(), 0U) << walk;
         ASSERT_EQ(LogicalWidth, width) << walk;
         PressOn(DefaultsRowOf(page) + 3);
         ASSERT_EQ(State.OptionsPage, OptionsPageMain) << walk;
@@ -303,13 +303,13 @@ TEST_F(OptionsWalk, ApplyMarksTheOptionsExactlyIfSomethingDiffers) {
         GameState edited = EditedOf(State);
         const bool differs = !(edited == before);
         ASSERT_EQ(IsDirty(), differs) << walk << " page " << page;
-        const SdlWatch watch;
+        Watch.Forget();
         PressOn(DefaultsRowOf(page) + 1);
         ASSERT_EQ(State.OptionsDirty, differs) << walk << " page " << page;
         edited.OptionsDirty = differs;
         edited.ResetFrameClock = differs && page == OptionsPageGraphics;
         ASSERT_TRUE(SameState(AppliedOf(State), edited)) << walk << " page " << page;
-        ASSERT_EQ(WindowCalls(watch) > 0, differs && page == OptionsPageGraphics) << walk;
+        ASSERT_EQ(WindowCalls() > 0, differs && page == OptionsPageGraphics) << walk;
         ASSERT_FALSE(IsDirty()) << walk << " page " << page;
         State.OptionsDirty = edited.OptionsDirty = false;
         State.ResetFrameClock = edited.ResetFrameClock = false;

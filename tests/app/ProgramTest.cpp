@@ -1,11 +1,9 @@
 #include "tests/app/ProgramTest.hpp"
 
 #include "sim/NewRun.hpp"
-#include "state/LogicalScreen.hpp"
 
 ProgramTest::ProgramTest() {
     ChooseSoftwareDrivers();
-    LogicalWidth = 1280;
     Program.Writers = CountingWriters();
 }
 

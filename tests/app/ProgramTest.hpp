@@ -5,6 +5,7 @@
 #include "app/ShutDown.hpp"
 #include "app/StartUp.hpp"
 #include "tests/app/CountingWriters.hpp"
+#include "tests/support/LogicalWidthScope.hpp"
 #include "tests/support/Sdl.hpp"
 #include "tests/support/TemporaryHome.hpp"
 #include "tests/support/watch/SdlWatch.hpp"
@@ -12,8 +13,11 @@
 /// What start-up says on the drivers that need no hardware, as their windows have no icons.
 inline const std::string NoIconsLine = "SetWindowIconFromAtlas failed: That operation is not supported";
 
-/// A test with the whole program, on drivers that need no hardware, and with counting writers. What a test
-/// has started is shut down at its end.
+/// The title of the game's window.
+inline constexpr const char *WindowTitle = "Kestrel Volley v0.1.0";
+
+/// A test with the whole program, on drivers that need no hardware, with counting writers and its calls into
+/// SDL watched. What a test has started is shut down at its end.
 class ProgramTest : public ::testing::Test {
 protected:
     ProgramTest();
@@ -34,6 +38,8 @@ protected:
     void ShowWithoutWaiting(enum Screen Screen);
 
     TemporaryHome Home;
+    LogicalWidthScope Width{1280};
+    SdlWatch Watch;
     struct Program Program;
     GameState &State = Program.State;
 

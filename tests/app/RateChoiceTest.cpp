@@ -6,8 +6,6 @@
 
 namespace {
 
-using Calls = std::vector<SdlCall>;
-
 /// The Graphics page in fullscreen, reached by keys, on a display that offers two rates at its size.
 class RateChoice : public FilesTest {
 protected:
@@ -52,7 +50,7 @@ protected:
         return size;
     }
 
-    FakeDisplays Displays;
+    FakeDisplays Displays{Watch};
 };
 
 TEST_F(RateChoice, ReachesTheFileInTheFrameOfApplyAndChangesNothingElseInIt) {
@@ -70,14 +68,14 @@ TEST_F(RateChoice, ReachesTheFileInTheFrameOfApplyAndChangesNothingElseInIt) {
 
 TEST_F(RateChoice, IsNeverHandedToTheDisplay) {
     const std::pair<int, int> size = WindowSize();
-    const SdlWatch watch;
+    Watch.Forget();
     ChooseTheHighestRate();
-    EXPECT_EQ(watch.Count("SDL_SetWindowFullscreenMode"), 0);
+    EXPECT_EQ(Watch.SetWindowFullscreenMode.Count(), 0);
     ApplyIt();
-    EXPECT_EQ(watch.CallsOf("SDL_SetWindowFullscreenMode"),
-        (Calls{{"SDL_SetWindowFullscreenMode", {1, 0}}})); // no mode: borderless on the desktop
-    EXPECT_EQ(watch.NamesAmong({"SDL_SetWindowFullscreen", "SDL_SetWindowSize", "SDL_SetWindowPosition"}),
-        std::vector<std::string>{});
+    EXPECT_EQ(Watch.SetWindowFullscreenMode.OnlyCall(),
+        std::tuple(Program.Window, nullptr)); // no mode: borderless on the desktop
+    EXPECT_EQ(Watch.OrderOf({Watch.SetWindowFullscreen, Watch.SetWindowSize, Watch.SetWindowPosition}),
+        CallNames{});
     EXPECT_EQ(SDL_GetWindowFullscreenMode(Program.Window), nullptr);
     EXPECT_NE(SDL_GetWindowFlags(Program.Window) & SDL_WINDOW_FULLSCREEN, 0U);
     EXPECT_EQ(WindowSize(), size);
@@ -87,10 +85,10 @@ TEST_F(RateChoice, IsStillChosenAtTheNextLaunch) {
     ChooseTheHighestRate();
     ApplyIt();
     Stop();
-    const SdlWatch watch;
+    Watch.Forget();
     Start();
     EXPECT_EQ(State.RefreshRate, 144);
-    EXPECT_EQ(watch.CallsOf("SDL_SetWindowFullscreenMode"), (Calls{{"SDL_SetWindowFullscreenMode", {1, 0}}}));
+    EXPECT_EQ(Watch.SetWindowFullscreenMode.OnlyCall(), std::tuple(Program.Window, nullptr));
 }
 
 } // namespace

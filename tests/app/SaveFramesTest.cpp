@@ -95,10 +95,9 @@ TEST_F(SaveFrames, OptionsAreWrittenBeforeTheStepAndTheSaveBetweenStepAndPicture
     Written.OnSaveWrite = [note] {
         note("save");
     };
-    SdlWatch watch;
-    watch.Before("SDL_RenderPresent", [note] {
+    Watch.RenderPresent.Before = [note](SDL_Renderer *) {
         note("picture");
-    });
+    };
     RunLongFrame();
     EXPECT_EQ(order, (Lines{"options before it", "save after the step", "picture after the step"}));
 }

@@ -14,6 +14,10 @@ protected:
         RunningTest::SetUp();
         State.SaveRequested = false;
     }
+
+    // The writers, to be noted among the calls.
+    WatchedCall<void()> WriteOptions{"the options' writer"};
+    WatchedCall<void()> WriteSave{"the save's writer"};
 };
 
 TEST_F(ShuttingDown, WritesMarkedOptions) {
@@ -52,11 +56,11 @@ TEST_F(ShuttingDown, TriesAFailingWriteOnceAndGoesOn) {
     Written.OptionsFailures = 9;
     Written.SaveFailures = 9;
     const LogCatcher log;
-    const SdlWatch watch;
+    Watch.Forget();
     Stop();
     EXPECT_EQ(log.Lines,
         (Names{"Failed to write options config: Config.ini", "Failed to write save state: SaveState.bin"}));
-    EXPECT_EQ(watch.Count("SDL_Quit"), 1);
+    EXPECT_EQ(Watch.Quit.Count(), 1);
 }
 
 TEST_F(ShuttingDown, GoesInItsOrder) {
@@ -71,26 +75,24 @@ TEST_F(ShuttingDown, GoesInItsOrder) {
     State.OptionsDirty = true;
     State.SaveRequested = true;
     State.SaveDelay = 0.0F;
-    SdlWatch watch;
-    Written.OnOptionsWrite = [] {
-        SdlWatch::Notice("options", {});
+    Watch.Forget();
+    Written.OnOptionsWrite = [this] {
+        Watch.Note(WriteOptions);
     };
-    Written.OnSaveWrite = [] {
-        SdlWatch::Notice("save", {});
+    Written.OnSaveWrite = [this] {
+        Watch.Note(WriteSave);
     };
     Stop();
-    EXPECT_EQ(
-        watch.NamesAmong({"options", "save", "SDL_CloseGamepad", "SDL_CloseJoystick", "SDL_DestroyTexture",
-            "SDL_DestroyRenderer", "SDL_HideWindow", "SDL_DestroyWindow", "SDL_Quit"}),
-        (Names{"options", "save", "SDL_CloseGamepad", "SDL_CloseJoystick", "SDL_DestroyTexture",
-            "SDL_DestroyRenderer", "SDL_HideWindow", "SDL_DestroyWindow", "SDL_Quit"}));
+    const CallNames order{WriteOptions, WriteSave, Watch.CloseGamepad, Watch.CloseJoystick,
+        Watch.DestroyTexture, Watch.DestroyRenderer, Watch.HideWindow, Watch.DestroyWindow, Watch.Quit};
+    EXPECT_EQ(Watch.OrderOf(order), order);
 }
 
 TEST_F(ShuttingDown, WithoutDevicesClosesNone) {
-    const SdlWatch watch;
+    Watch.Forget();
     Stop();
-    EXPECT_EQ(watch.Count("SDL_CloseGamepad"), 0);
-    EXPECT_EQ(watch.Count("SDL_CloseJoystick"), 0);
+    EXPECT_EQ(Watch.CloseGamepad.Count(), 0);
+    EXPECT_EQ(Watch.CloseJoystick.Count(), 0);
 }
 
 TEST_F(ShuttingDown, NullsTheAtlasAndEndsSdl) {

@@ -34,9 +34,9 @@ TEST_F(StartUpFiles, AFirstLaunchHasOptionsBeforeTheFirstFrameAndASaveAfterIt) {
 TEST_F(StartUpFiles, ASecondLaunchReadsTheOptionsAndLeavesTheDesktopAlone) {
     Visit();
     const std::string first = Contents("Config.ini");
-    const SdlWatch watch;
+    Watch.Forget();
     Start();
-    EXPECT_EQ(watch.Count("SDL_GetPrimaryDisplay"), 0);
+    EXPECT_EQ(Watch.GetPrimaryDisplay.Count(), 0);
     RunFrame(Program);
     EXPECT_EQ(Contents("Config.ini"), first);
     EXPECT_FALSE(State.SaveRequested);
@@ -45,10 +45,9 @@ TEST_F(StartUpFiles, ASecondLaunchReadsTheOptionsAndLeavesTheDesktopAlone) {
 TEST_F(StartUpFiles, TheWindowOpensAsTheOptionsSay) {
     Put("Config.ini",
         "[Graphics]\r\nResolutionWidth=\"1600\"\r\nResolutionHeight=\"900\"\r\nFullscreen=\"0\"");
-    const SdlWatch watch;
+    Watch.Forget();
     Start();
-    EXPECT_EQ(
-        watch.CallsOf("SDL_CreateWindow"), (std::vector<SdlCall>{{"SDL_CreateWindow", {1, 1600, 900, 0}}}));
+    EXPECT_EQ(Watch.CreateWindow.OnlyCall(), std::tuple(WindowTitle, 1600, 900, SDL_WindowFlags{0}));
     EXPECT_EQ(LogicalWidth, 1280);
     EXPECT_EQ(CurrentResolution(State), (Resolution{1600, 900}));
 }
@@ -127,7 +126,7 @@ protected:
     /// Expects what is left of the rate, in the record and in the options when they are next written, on a
     /// display with these modes.
     void ExpectRate(std::int32_t Rate, bool Fullscreen, const std::vector<SDL_DisplayMode> &Modes) {
-        FakeDisplays displays;
+        FakeDisplays displays(Watch);
         displays.OfWindow = 7;
         displays.Add(7, 1920, 1080).Modes = Modes;
         Put("Config.ini",

@@ -9,18 +9,19 @@ using StartingUp = ProgramTest;
 using Names = std::vector<std::string>;
 
 TEST_F(StartingUp, GoesInItsOrder) {
-    const SdlWatch watch;
+    Watch.Forget();
     Start();
-    EXPECT_TRUE(watch.SawInOrder({"SDL_Init", "SDL_GetPrimaryDisplay", "SDL_GetDesktopDisplayMode",
-        "SDL_CreateWindow", "SDL_CreateRenderer", "SDL_SetRenderDrawBlendMode", "SDL_SetWindowResizable",
-        "SDL_SetRenderLogicalPresentation", "SDL_CreateTexture", "SDL_SetWindowIcon", "SDL_HideCursor",
-        "SDL_GetDisplayForWindow", "SDL_GetFullscreenDisplayModes", "SDL_GetGamepads", "SDL_GetJoysticks",
-        "SDL_SetWindowFullscreenMode", "SDL_SetRenderVSync", "SDL_GetRenderVSync",
-        "SDL_SetRenderLogicalPresentation"}));
-    EXPECT_EQ(watch.NamesAmong({"SDL_Init", "SDL_CreateWindow", "SDL_CreateRenderer", "SDL_CreateTexture",
-                  "SDL_SetWindowIcon", "SDL_HideCursor", "SDL_GetGamepads", "SDL_SetRenderVSync"}),
-        (Names{"SDL_Init", "SDL_CreateWindow", "SDL_CreateRenderer", "SDL_CreateTexture", "SDL_SetWindowIcon",
-            "SDL_HideCursor", "SDL_GetGamepads", "SDL_SetRenderVSync", "SDL_Init"})); // the last by the mixer
+    EXPECT_TRUE(Watch.SawInOrder({Watch.Init, Watch.GetPrimaryDisplay, Watch.GetDesktopDisplayMode,
+        Watch.CreateWindow, Watch.CreateRenderer, Watch.SetRenderDrawBlendMode, Watch.SetWindowResizable,
+        Watch.SetRenderLogicalPresentation, Watch.CreateTexture, Watch.SetWindowIcon, Watch.HideCursor,
+        Watch.GetDisplayForWindow, Watch.GetFullscreenDisplayModes, Watch.GetGamepads, Watch.GetJoysticks,
+        Watch.SetWindowFullscreenMode, Watch.SetRenderVSync, Watch.GetRenderVSync,
+        Watch.SetRenderLogicalPresentation}));
+    EXPECT_EQ(Watch.OrderOf({Watch.Init, Watch.CreateWindow, Watch.CreateRenderer, Watch.CreateTexture,
+                  Watch.SetWindowIcon, Watch.HideCursor, Watch.GetGamepads, Watch.SetRenderVSync}),
+        (CallNames{Watch.Init, Watch.CreateWindow, Watch.CreateRenderer, Watch.CreateTexture,
+            Watch.SetWindowIcon, Watch.HideCursor, Watch.GetGamepads, Watch.SetRenderVSync,
+            Watch.Init})); // the last by the mixer
 }
 
 TEST_F(StartingUp, SaysNoMoreThanThatTheDriverHasNoIcons) {
@@ -30,19 +31,18 @@ TEST_F(StartingUp, SaysNoMoreThanThatTheDriverHasNoIcons) {
 }
 
 TEST_F(StartingUp, BringsUpVideoAndPadsAndLeavesAudioToTheMixer) {
-    const SdlWatch watch;
+    Watch.Forget();
     Start();
-    EXPECT_EQ(watch.CallsOf("SDL_Init"),
-        (std::vector<SdlCall>{{"SDL_Init", {SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD}},
-            {"SDL_Init", {SDL_INIT_AUDIO}}}));
+    EXPECT_EQ(
+        Watch.Init.Calls, (std::vector{std::tuple{SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD},
+                              std::tuple{SDL_INIT_AUDIO}}));
 }
 
 TEST_F(StartingUp, OpensAFullscreenWindowOfTheDesktopsSizeWithItsTitle) {
-    const SdlWatch watch;
+    Watch.Forget();
     Start();
-    EXPECT_EQ(watch.CallsOf("SDL_CreateWindow"),
-        (std::vector<SdlCall>{{"SDL_CreateWindow", {1, 1024, 768, SDL_WINDOW_FULLSCREEN}}}));
-    EXPECT_STREQ(SDL_GetWindowTitle(Program.Window), "Kestrel Volley v0.1.0");
+    EXPECT_EQ(Watch.CreateWindow.OnlyCall(), std::tuple(WindowTitle, 1024, 768, SDL_WINDOW_FULLSCREEN));
+    EXPECT_STREQ(SDL_GetWindowTitle(Program.Window), WindowTitle);
     int width = 0;
     int height = 0;
     SDL_GetWindowSize(Program.Window, &width, &height);
@@ -54,16 +54,15 @@ TEST_F(StartingUp, OpensAFullscreenWindowOfTheDesktopsSizeWithItsTitle) {
 }
 
 TEST_F(StartingUp, LetsSdlChooseTheRenderer) {
-    const SdlWatch watch;
+    Watch.Forget();
     Start();
-    EXPECT_EQ(watch.CallsOf("SDL_CreateRenderer"), (std::vector<SdlCall>{{"SDL_CreateRenderer", {1, 0}}}));
+    EXPECT_EQ(Watch.CreateRenderer.OnlyCall(), std::tuple(Program.Window, std::nullopt));
 }
 
 TEST_F(StartingUp, MakesTheWindowNotResizable) {
-    const SdlWatch watch;
+    Watch.Forget();
     Start();
-    EXPECT_EQ(
-        watch.CallsOf("SDL_SetWindowResizable"), (std::vector<SdlCall>{{"SDL_SetWindowResizable", {1, 0}}}));
+    EXPECT_EQ(Watch.SetWindowResizable.OnlyCall(), std::tuple(Program.Window, false));
 }
 
 TEST_F(StartingUp, DrawsWithBlending) {
@@ -90,12 +89,14 @@ TEST_F(StartingUp, HidesTheCursor) {
 }
 
 TEST_F(StartingUp, BuildsTheAtlasAndHandsTheWindowAnIcon) {
-    const SdlWatch watch;
+    Watch.Forget();
     Start();
     EXPECT_NE(SpriteAtlas.Texture, nullptr);
     EXPECT_EQ(SDL_GetRendererFromTexture(SpriteAtlas.Texture), Program.Renderer);
     EXPECT_EQ(SDL_GetRenderTarget(Program.Renderer), nullptr); // frames go straight to the window
-    EXPECT_EQ(watch.CallsOf("SDL_SetWindowIcon"), (std::vector<SdlCall>{{"SDL_SetWindowIcon", {1, 1}}}));
+    const auto &[window, icon] = Watch.SetWindowIcon.OnlyCall();
+    EXPECT_EQ(window, Program.Window);
+    EXPECT_NE(icon, nullptr);
 }
 
 TEST_F(StartingUp, OpensTheDevicesThatAreThere) {
@@ -187,8 +188,7 @@ TEST_F(StartingUp, ForTheFirstTimeWritesTheOptionsAndLeavesTheSaveToTheFirstFram
 }
 
 TEST_F(StartingUp, GoesOnWithoutTheIcon) {
-    SdlWatch watch;
-    watch.Refuse("SDL_SetWindowIcon");
+    Watch.SetWindowIcon.Refuse();
     const LogCatcher log;
     Start();
     EXPECT_EQ(log.Lines, (Names{"SetWindowIconFromAtlas failed: refused for the test"}));
@@ -197,8 +197,7 @@ TEST_F(StartingUp, GoesOnWithoutTheIcon) {
 }
 
 TEST_F(StartingUp, GoesOnWithoutVSync) {
-    SdlWatch watch;
-    watch.Refuse("SDL_SetRenderVSync");
+    Watch.SetRenderVSync.Refuse();
     const LogCatcher log;
     Start();
     EXPECT_EQ(log.Lines, (Names{NoIconsLine, "SDL_SetRenderVSync(1) failed: refused for the test"}));
@@ -206,8 +205,7 @@ TEST_F(StartingUp, GoesOnWithoutVSync) {
 }
 
 TEST_F(StartingUp, GoesOnWithoutLogicalPresentation) {
-    SdlWatch watch;
-    watch.Refuse("SDL_SetRenderLogicalPresentation");
+    Watch.SetRenderLogicalPresentation.Refuse();
     const LogCatcher log;
     Start();
     EXPECT_EQ(log.Lines, (Names{"SDL_SetRenderLogicalPresentation failed: refused for the test", NoIconsLine,

@@ -84,7 +84,7 @@ TEST(TrackGain, IsThePercentageFromZeroToOne) {
 }
 
 TEST(ApplyMusicGain, WithoutATrackIsTrueAndDoesNothing) {
-    const MixerWatch watch;
+    MixerWatch watch;
     const std::int32_t percent = 40;
     MusicPlayer player;
     player.GainPercent = &percent;

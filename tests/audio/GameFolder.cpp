@@ -1,8 +1,7 @@
 #include "tests/audio/GameFolder.hpp"
 
 #include "tests/audio/OggFile.hpp"
-
-#include <fstream>
+#include "tools/support/Files.hpp"
 
 MixerTest::MixerTest() {
     ChooseSoftwareDrivers();
@@ -31,11 +30,7 @@ void GameFolderTest::AddMusic(const std::string &Name, int Frames) const {
 }
 
 void GameFolderTest::AddText(const std::string &Name, std::string_view Text) const {
-    const std::filesystem::path path = PathOf(Name);
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream file(path, std::ios::binary);
-    file << Text;
-    EXPECT_TRUE(file.good()) << path;
+    WriteBytes(PathOf(Name), Text);
 }
 
 void GameFolderTest::AddTune() const {

@@ -488,7 +488,7 @@ TEST_F(MusicPatterns, AreLookedForBesideTheProgramWithOneSeparator) {
         {"/games/kestrel/", "/games/kestrel/Music/A.ogg"},
         {"C:\\games\\", "C:\\games\\Music/A.ogg"},
     }};
-    Watch.LoadAudio.Refuse(MixerWatch::Always);
+    Watch.LoadAudio.Refuse();
     for (const Row &row : rows) {
         MoveProgram(row.Base);
         EXPECT_FALSE(LoadMusicPatterns(document, Runtime));

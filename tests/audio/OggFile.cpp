@@ -1,11 +1,12 @@
 #include "tests/audio/OggFile.hpp"
 
+#include "tools/support/Files.hpp"
+
 #include <gtest/gtest.h>
 #include <vorbis/vorbisenc.h>
 
 #include <cmath>
 #include <cstddef>
-#include <fstream>
 #include <numbers>
 #include <string>
 
@@ -89,13 +90,6 @@ private:
     vorbis_block Block{};
     ogg_stream_state Stream{};
 };
-
-void WriteBytes(const std::filesystem::path &Path, const std::string &Bytes) {
-    std::filesystem::create_directories(Path.parent_path());
-    std::ofstream file(Path, std::ios::binary);
-    file << Bytes;
-    EXPECT_TRUE(file.good()) << Path;
-}
 
 } // namespace
 

@@ -20,8 +20,7 @@ protected:
         EXPECT_TRUE(InitMusicRuntime(State, Runtime));
         UpdateMusicRuntime(State, Runtime);
         EXPECT_TRUE(MIX_TrackPlaying(Runtime.MusicTrack));
-        Watch.Order.clear();
-        Watch.DestroyAudio.Calls.clear();
+        Watch.Forget();
     }
     ~AudioShutdown() override {
         ShutdownMusicRuntime(Runtime, false);
@@ -123,11 +122,13 @@ TEST_F(AudioShutdown, TakesEverythingDownInOrder) {
     Runtime.Player.RequestedPattern = &Runtime.Player.Patterns[0];
     MIX_Audio *const music = Runtime.Player.Patterns[0].Audio;
     ShutdownMusicRuntime(Runtime, true);
-    Lines order{"StopTrack", "DestroyAudio"};
-    order.insert(order.end(), 12, "DestroyTrack");
-    order.insert(order.end(), 11, "DestroyAudio");
-    order.insert(order.end(), {"DestroyMixer", "Quit"});
-    EXPECT_EQ(Watch.OrderOf({"StopTrack", "DestroyAudio", "DestroyTrack", "DestroyMixer", "Quit"}), order);
+    CallNames order{Watch.StopTrack, Watch.DestroyAudio};
+    order.insert(order.end(), 12, Watch.DestroyTrack);
+    order.insert(order.end(), 11, Watch.DestroyAudio);
+    order.insert(order.end(), {Watch.DestroyMixer, Watch.Quit});
+    EXPECT_EQ(Watch.OrderOf(
+                  {Watch.StopTrack, Watch.DestroyAudio, Watch.DestroyTrack, Watch.DestroyMixer, Watch.Quit}),
+        order);
     EXPECT_EQ(Watch.DestroyAudio.Calls[0], std::tuple(music));
     ExpectNothingLeft();
 }
@@ -160,7 +161,7 @@ TEST_F(AudioShutdown, WithoutALengthOfTheFadeStopsAtOnceAndDoesNotWait) {
         return true;
     };
     for (const int milliseconds : {0, -1}) {
-        Watch.StopTrack.Calls.clear();
+        Watch.Forget();
         Runtime.FadeOutMs = milliseconds;
         ShutdownMusicRuntime(Runtime, true);
         ASSERT_EQ(Watch.StopTrack.Count(), 1);
@@ -203,10 +204,10 @@ TEST_F(AudioShutdown, WithoutAFadeNeitherStopsNorWaits) {
 
 TEST_F(AudioShutdown, IsSafeTwice) {
     ShutdownMusicRuntime(Runtime, true);
-    Watch.Order.clear();
-    Watch.DestroyAudio.Calls.clear();
+    Watch.Forget();
     ShutdownMusicRuntime(Runtime, true);
-    EXPECT_EQ(Watch.OrderOf({"Quit", "DestroyMixer", "DestroyTrack", "StopTrack"}), Lines());
+    EXPECT_EQ(
+        Watch.OrderOf({Watch.Quit, Watch.DestroyMixer, Watch.DestroyTrack, Watch.StopTrack}), CallNames());
     ExpectNothingLeft();
 }
 
@@ -223,7 +224,9 @@ TEST_F(MixerTest, ShutdownOfAnEmptyRecordDoesNothing) {
     for (const bool fade : {true, false}) {
         ShutdownMusicRuntime(runtime, fade);
     }
-    EXPECT_EQ(Watch.OrderOf({"Quit", "DestroyMixer", "DestroyTrack", "StopTrack", "Delay"}), Lines());
+    EXPECT_EQ(
+        Watch.OrderOf({Watch.Quit, Watch.DestroyMixer, Watch.DestroyTrack, Watch.StopTrack, Watch.Delay}),
+        CallNames());
     EXPECT_EQ(Log.Lines, Lines());
 }
 

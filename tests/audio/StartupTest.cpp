@@ -55,15 +55,15 @@ protected:
     void ExpectDeafness() {
         State.MusicVolume = 13;
         State.Screen = ScreenCredits;
-        Watch.Order.clear();
         Log.Lines.clear();
+        const CallNames before = Watch.Order();
         for (int frame = 0; frame < 3; ++frame) {
             PushSound(State, SfxId::Item);
             UpdateMusicRuntime(State, Runtime);
             PlayQueuedSfx(State, Runtime);
             EXPECT_EQ(State.PendingSounds.Count, 0U);
         }
-        EXPECT_EQ(Watch.Order, Lines());
+        EXPECT_EQ(Watch.Order(), before);
         EXPECT_EQ(Log.Lines, Lines());
         EXPECT_EQ(Runtime.LastScreen, ScreenMainMenu);
     }
@@ -121,18 +121,19 @@ TEST_F(AudioStartup, MakesTheTrackTheSoundsTheVoicesAndTheMusic) {
 
 TEST_F(AudioStartup, GoesThroughItsStepsInOrder) {
     ASSERT_TRUE(Start());
-    Lines steps{"Init", "CreateMixerDevice", "CreateTrack", "TagTrack", "SetTrackGain"};
+    CallNames steps{
+        Watch.Init, Watch.CreateMixerDevice, Watch.CreateTrack, Watch.TagTrack, Watch.SetTrackGain};
     for (int sound = 0; sound < 11; ++sound) {
-        steps.insert(steps.end(), {"GetMixerFormat", "LoadRawAudio"});
+        steps.insert(steps.end(), {Watch.GetMixerFormat, Watch.LoadRawAudio});
     }
     for (int voice = 0; voice < 12; ++voice) {
-        steps.insert(steps.end(), {"CreateTrack", "TagTrack"});
+        steps.insert(steps.end(), {Watch.CreateTrack, Watch.TagTrack});
     }
-    steps.insert(steps.end(), 12, "SetTrackGain");
-    steps.emplace_back("LoadAudio");
-    EXPECT_EQ(Watch.OrderOf({"Init", "CreateMixerDevice", "CreateTrack", "TagTrack", "SetTrackGain",
-                  "GetMixerFormat", "LoadRawAudio", "CreateSineWaveAudio", "LoadAudio", "DestroyTrack",
-                  "DestroyMixer", "Quit"}),
+    steps.insert(steps.end(), 12, Watch.SetTrackGain);
+    steps.emplace_back(Watch.LoadAudio);
+    EXPECT_EQ(Watch.OrderOf({Watch.Init, Watch.CreateMixerDevice, Watch.CreateTrack, Watch.TagTrack,
+                  Watch.SetTrackGain, Watch.GetMixerFormat, Watch.LoadRawAudio, Watch.CreateSineWaveAudio,
+                  Watch.LoadAudio, Watch.DestroyTrack, Watch.DestroyMixer, Watch.Quit}),
         steps);
 }
 
@@ -309,9 +310,9 @@ TEST_F(AudioStartup, DestroysTheVoicesAndSoundsOfAnEarlierRunBeforeItMakesNewOne
     ASSERT_EQ(Watch.DestroyTrack.Count(), 1);
     EXPECT_EQ(Watch.DestroyTrack.Calls[0], std::tuple(oldVoice));
     EXPECT_EQ(std::ranges::count(Watch.DestroyAudio.Calls, std::tuple(oldSound)), 1);
-    const Lines order = Watch.OrderOf({"DestroyTrack", "DestroyAudio", "LoadRawAudio"});
-    EXPECT_TRUE(std::ranges::is_partitioned(order, [](const std::string &Name) {
-        return Name != "LoadRawAudio";
+    const CallNames order = Watch.OrderOf({Watch.DestroyTrack, Watch.DestroyAudio, Watch.LoadRawAudio});
+    EXPECT_TRUE(std::ranges::is_partitioned(order, [this](const CallName &Call) {
+        return Call != Watch.LoadRawAudio;
     }));
     EXPECT_EQ(Runtime.NextSfxTrack, 0U);
     EXPECT_EQ(Runtime.SfxTracks.size(), 12U);
@@ -349,7 +350,7 @@ TEST_F(AudioStartup, WithAPatternFileThatNamesNoMusicTakesTheBuiltInPatternsAndT
 
 TEST_F(AudioStartup, WithoutAnyMusicFileHasSoundsAllTheSame) {
     MoveProgram(PathOf("Elsewhere/"));
-    Watch.LoadAudio.Refuse(MixerWatch::Always);
+    Watch.LoadAudio.Refuse();
     EXPECT_TRUE(Start());
     Lines lines{Fallback};
     for (std::size_t i = 0; i < BuiltInNames.size(); ++i) {

@@ -269,7 +269,7 @@ TEST_F(Synthesis, FallsBackToASineOfTheMixersAtARateOfNothing) {
 }
 
 TEST_F(Synthesis, FallsBackToASineWhereTheFormatIsUnknown) {
-    Watch.GetMixerFormat.Refuse(MixerWatch::Always);
+    Watch.GetMixerFormat.Refuse();
     ExpectSine(RecipeOf(SfxId::PlayerBomb));
     EXPECT_EQ(Watch.LoadRawAudio.Count(), 0);
 }
@@ -296,8 +296,8 @@ TEST_F(Synthesis, FallsBackToASineWhereTheSamplesAreRefused) {
 }
 
 TEST_F(Synthesis, ThatFailsAltogetherIsLoggedWithTheSoundsName) {
-    Watch.LoadRawAudio.Refuse(MixerWatch::Always);
-    Watch.CreateSineWaveAudio.Refuse(MixerWatch::Always);
+    Watch.LoadRawAudio.Refuse();
+    Watch.CreateSineWaveAudio.Refuse();
     for (const SfxRecipe &recipe : SfxRecipes) {
         Log.Lines.clear();
         EXPECT_EQ(SynthesiseSfx(FakeMixer(), recipe), nullptr);

@@ -436,10 +436,9 @@ TEST_F(Transport, PrintsANameWithPercentSignsAsItIs) {
 }
 
 TEST_F(Transport, TriesAFailedPlayAgain) {
-    WatchedCall<bool(MIX_Track *, MIX_Audio *)> &setAudio = Watch.SetTrackAudio;
     const std::array<std::function<void()>, 3> failures{
         [&] {
-            setAudio.Refuse(2);
+            Watch.SetTrackAudio.Refuse(2);
         },
         [&] {
             Watch.CreateProperties.Refuse(2);
@@ -585,7 +584,7 @@ TEST_F(ScriptedMusic, WithoutPatternsOnlyTheGainsAreKeptUpToDate) {
     EXPECT_EQ(Gains, std::vector<float>{0.8F});
     EXPECT_EQ(Runtime.SfxGainPercent, 40);
     EXPECT_EQ(Runtime.LastScreen, ScreenPlaying);
-    EXPECT_EQ(Watch.Order, Lines{"SetTrackGain"});
+    EXPECT_EQ(Watch.Order(), CallNames{Watch.SetTrackGain});
     EXPECT_EQ(Log.Lines, Lines());
 }
 
@@ -596,7 +595,7 @@ TEST_F(Transport, WithoutATrackOnlyTheGainsAreKeptUpToDate) {
     Update();
     EXPECT_EQ(Runtime.MusicGainPercent, 80);
     EXPECT_EQ(Runtime.SfxGainPercent, 40);
-    EXPECT_EQ(Watch.Order, Lines());
+    EXPECT_EQ(Watch.Order(), CallNames());
     EXPECT_EQ(Log.Lines, Lines());
 }
 
@@ -607,7 +606,7 @@ TEST_F(Transport, DoesNothingBeforeTheStart) {
     Update();
     EXPECT_EQ(Runtime.MusicGainPercent, 50);
     EXPECT_EQ(Runtime.LastScreen, ScreenMainMenu);
-    EXPECT_EQ(Watch.Order, Lines());
+    EXPECT_EQ(Watch.Order(), CallNames());
 }
 
 // Its parts.
@@ -624,8 +623,9 @@ TEST_F(Transport, PlaysAPatternAsAnEndlessLoopAndRemembersIt) {
     EXPECT_EQ(Runtime.Player.LastPosition, -1);
     EXPECT_EQ(Runtime.Player.LoopBoundaryMs, 1000); // 4000 frames of the audio
     EXPECT_EQ(Watch.DestroyProperties.Count(), 1);
-    EXPECT_EQ(Watch.Order, (Lines{"SetTrackAudio", "CreateProperties", "SetNumberProperty", "PlayTrack",
-                               "DestroyProperties", "GetAudioDuration", "AudioFramesToMS"}));
+    EXPECT_EQ(Watch.Order(),
+        (CallNames{Watch.SetTrackAudio, Watch.CreateProperties, Watch.SetNumberProperty, Watch.PlayTrack,
+            Watch.DestroyProperties, Watch.GetAudioDuration, Watch.AudioFramesToMS}));
 }
 
 TEST_F(Transport, PlaysAPatternWithAFadeIfItHasALength) {
@@ -663,7 +663,7 @@ TEST_F(Transport, PlaysNothingWithoutAPatternOrATrack) {
     EXPECT_FALSE(PlayMusicPattern(Runtime.Player, nullptr, 0));
     Runtime.Player.Track = nullptr;
     EXPECT_FALSE(PlayMusicPattern(Runtime.Player, &Pattern("WATER"), 0));
-    EXPECT_EQ(Watch.Order, Lines());
+    EXPECT_EQ(Watch.Order(), CallNames());
 }
 
 TEST_F(Transport, LeavesThePlayerAsItWasWhereAPlayFails) {

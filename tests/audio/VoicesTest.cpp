@@ -27,8 +27,7 @@ protected:
         CreateSfxTracks(Runtime);
         AllVoices = Runtime.SfxTracks;
         Runtime.Initialised = true;
-        Watch.Order.clear();
-        Watch.CreateProperties.Calls.clear();
+        Watch.Forget();
     }
     ~Voices() override {
         Runtime.SfxTracks = AllVoices;
@@ -213,14 +212,14 @@ TEST_F(Voices, EachRequestIsOnePlayWithoutLoops) {
         EXPECT_EQ(SDL_GetNumberProperty(Options, "SDL_mixer.play.loops", 9), 0);
     };
     Play({SfxId::Item});
-    EXPECT_EQ(Watch.Order, (Lines{"TrackPlaying", "SetTrackAudio", "CreateProperties", "SetNumberProperty",
-                               "PlayTrack", "DestroyProperties"}));
+    EXPECT_EQ(Watch.Order(), (CallNames{Watch.TrackPlaying, Watch.SetTrackAudio, Watch.CreateProperties,
+                                 Watch.SetNumberProperty, Watch.PlayTrack, Watch.DestroyProperties}));
     EXPECT_EQ(std::get<0>(Watch.DestroyProperties.Calls[0]), std::get<1>(Watch.PlayTrack.Calls[0]));
 }
 
 TEST_F(Voices, AByteThatIsNoSoundIsPassedOver) {
     Play({static_cast<SfxId>(11), static_cast<SfxId>(255)});
-    EXPECT_EQ(Watch.Order, Lines());
+    EXPECT_EQ(Watch.Order(), CallNames());
     EXPECT_EQ(Log.Lines, Lines());
     EXPECT_EQ(Runtime.NextSfxTrack, 0U);
 }
@@ -237,7 +236,7 @@ TEST_F(Voices, ASoundThatCouldNotBeMadeIsSilentAndTheOthersPlay) {
 
 TEST_F(Voices, NothingIsDoneWhereNothingCanPlayAndTheQueueIsEmptied) {
     MIX_Mixer *const mixer = Runtime.Mixer;
-    Watch.Order.clear();
+    Watch.Forget();
     Runtime.Initialised = false;
     Play({SfxId::Item});
     Runtime.Initialised = true;
@@ -246,7 +245,7 @@ TEST_F(Voices, NothingIsDoneWhereNothingCanPlayAndTheQueueIsEmptied) {
     Runtime.Mixer = mixer;
     Runtime.SfxTracks.clear();
     Play({SfxId::Item, SfxId::Item});
-    EXPECT_EQ(Watch.Order, Lines());
+    EXPECT_EQ(Watch.Order(), CallNames());
     EXPECT_EQ(Log.Lines, Lines());
 }
 

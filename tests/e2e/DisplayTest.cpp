@@ -3,7 +3,8 @@
 #include "tests/e2e/StoredFiles.hpp"
 
 #include <array>
-#include <cstddef>
+#include <cstdint>
+#include <span>
 #include <string>
 
 // Windows, the whole screen, and how wide the game is on them.
@@ -18,24 +19,22 @@ constexpr ScreenSize Wall{2600, 720};
 enum GraphicsRow { Resolution, AspectMode, RefreshRate, DisplayMode, VSync, Defaults, Apply, Revert, Back };
 
 // The main menu in any size, told by the colour of its title: the game has opened its window for good.
-bool SomeMainMenu(const Picture &Seen) {
+bool SomeMainMenu(const Screenshot &Seen) {
     return BoundsOfColor(Seen, {0, 0, Seen.Width, Seen.Height}, {0x37, 0x82, 0xFF}) != Area{};
 }
 
-Picture Cut(const Picture &Seen, const Area &Part) {
-    Picture cut{Part.Right - Part.Left, Part.Bottom - Part.Top, {}};
+Screenshot Cut(const Screenshot &Seen, const Area &Part) {
+    Screenshot cut{Part.Right - Part.Left, Part.Bottom - Part.Top, {}};
     for (int y = Part.Top; y < Part.Bottom; ++y) {
-        for (int x = Part.Left; x < Part.Right; ++x) {
-            const auto row = static_cast<std::size_t>(y) * static_cast<std::size_t>(Seen.Width);
-            cut.Pixels.push_back(Seen.Pixels[row + static_cast<std::size_t>(x)]);
-        }
+        const std::span<const std::uint32_t> row = RowOf(Seen, y, Part.Left, Part.Right);
+        cut.Pixels.insert(cut.Pixels.end(), row.begin(), row.end());
     }
     return cut;
 }
 
 // The same of a part of the screen, for sights that go by the screen's edges.
 Sight Within(const Area &Part, const Sight &Shows) {
-    return [Part, Shows](const Picture &Seen) {
+    return [Part, Shows](const Screenshot &Seen) {
         return Shows(Cut(Seen, Part));
     };
 }
@@ -45,7 +44,7 @@ Area FilledBy(int LogicalWidth) {
     return {(Wall.Width - LogicalWidth) / 2, 0, (Wall.Width + LogicalWidth) / 2, Wall.Height};
 }
 
-bool IsBlackColumn(const Picture &Seen, int X) {
+bool IsBlackColumn(const Screenshot &Seen, int X) {
     return CountPixels(Seen, {X, 0, X + 1, Seen.Height}, [](const Pixel &Dot) {
         return Dot == Pixel{};
     }) == Seen.Height;
@@ -53,7 +52,7 @@ bool IsBlackColumn(const Picture &Seen, int X) {
 
 // Whether the run fills just that part of the screen: ground up to both of its edges, nothing beyond, and
 // the road in its middle.
-bool RunFills(const Picture &Seen, const Area &Part) {
+bool RunFills(const Screenshot &Seen, const Area &Part) {
     const int middle = (Part.Right - Part.Left) / 2;
     return !IsBlackColumn(Seen, Part.Left) && !IsBlackColumn(Seen, Part.Right - 1) &&
            (Part.Left == 0 || IsBlackColumn(Seen, Part.Left - 1)) &&
@@ -62,7 +61,7 @@ bool RunFills(const Picture &Seen, const Area &Part) {
 }
 
 Sight RunFillsPart(const Area &Part) {
-    return [Part](const Picture &Seen) {
+    return [Part](const Screenshot &Seen) {
         return RunFills(Seen, Part);
     };
 }
@@ -118,21 +117,30 @@ constexpr std::array Shapes{
     Shape{5120, 1440, false, 2560},                              // 32:9
 };
 
+void PrintTo(const Shape &Shown, std::ostream *Out) {
+    *Out << Shown.Width << " by " << Shown.Height;
+}
+
+class FullscreenShape : public testing::TestWithParam<Shape> {};
+
 } // namespace
 
 // In fullscreen a resolution shapes the game and nothing else.
-TEST(Display, FullscreenTheResolutionGivesTheGameItsWidth) {
-    for (const Shape &shape : Shapes) {
-        const PreparedHome home;
-        home.Put(OptionsFile, GraphicsOptions(shape.Width, shape.Height, shape.IsClassic, true));
-        const Area part = FilledBy(shape.LogicalWidth);
-        OpenedGame game(home, Within(part, FiveRowMenu(0)), Wall, Desk::Managed);
-        EXPECT_TRUE(WindowComesTo(game, {0, 0, Wall.Width, Wall.Height})) << shape.Width;
-        EXPECT_TRUE(game.Tap(Key::Return, RunFillsPart(part))) << shape.Width << " by " << shape.Height;
-        EXPECT_EQ(game.Close(), std::optional(0));
-        EXPECT_EQ(game.Program().Output(), "");
-    }
+TEST_P(FullscreenShape, GivesTheGameItsWidth) {
+    const PreparedHome home;
+    home.Put(OptionsFile, GraphicsOptions(GetParam().Width, GetParam().Height, GetParam().IsClassic, true));
+    const Area part = FilledBy(GetParam().LogicalWidth);
+    OpenedGame game(home, Within(part, FiveRowMenu(0)), Wall, Desk::Managed);
+    EXPECT_TRUE(WindowComesTo(game, {0, 0, Wall.Width, Wall.Height}));
+    EXPECT_TRUE(game.Tap(Key::Return, RunFillsPart(part)));
+    EXPECT_EQ(game.Close(), std::optional(0));
+    EXPECT_EQ(game.Program().Output(), "");
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Display, FullscreenShape, testing::ValuesIn(Shapes), [](const testing::TestParamInfo<Shape> &Info) {
+        return std::to_string(Info.param.Width) + "By" + std::to_string(Info.param.Height);
+    });
 
 TEST(Display, AWindowHasTheSizeOfTheOptionsFile) {
     struct Opened {
@@ -170,8 +178,8 @@ TEST(Display, ASmallWindowShowsTheWholeGameSmall) {
     ASSERT_TRUE(place);
     game.Person().TapKey(Key::Return, std::chrono::milliseconds{50});
     constexpr Pixel edgeLine{0xB4, 0xB9, 0xBE};
-    EXPECT_TRUE(game.WaitForPicture([&](const Picture &Seen) {
-        const Picture window = Cut(Seen, *place);
+    EXPECT_TRUE(game.WaitForPicture([&](const Screenshot &Seen) {
+        const Screenshot window = Cut(Seen, *place);
         const Area road = BoundsOfColor(window, {0, 100, window.Width, 101}, edgeLine);
         return road.Left == 240 && road.Right == 400;
     }));
@@ -183,7 +191,7 @@ TEST(Display, ThePageSwitchesBetweenWindowAndFullscreen) {
     home.Put(OptionsFile, GraphicsOptions(1280, 720, false, true));
     const Area middle = FilledBy(1280);
     {
-        OpenedGame game(home, FiveRowMenu(0), Wall, Desk::Managed);
+        OpenedGame game(home, FiveRowMenu(0), Wall, Desk::Managed, DrawnAsForPlayers());
         ASSERT_TRUE(WindowComesTo(game, {0, 0, Wall.Width, Wall.Height}));
         ASSERT_NO_FATAL_FAILURE(OpenPageFromMainMenu(game, Page::Graphics));
         ASSERT_NO_FATAL_FAILURE(
@@ -205,7 +213,7 @@ TEST(Display, ThePageSwitchesBetweenWindowAndFullscreen) {
         EXPECT_EQ(game.Close(), std::optional(0));
         EXPECT_EQ(game.Program().Output(), "");
     }
-    OpenedGame game(home, SomeMainMenu, Wall, Desk::Managed);
+    OpenedGame game(home, SomeMainMenu, Wall, Desk::Managed, DrawnAsForPlayers());
     ASSERT_TRUE(SettleAt(game, 960, 540));
     // Too small to be read here: the way to the switch is known, and its row of the page comes first.
     for (const Key key : {Key::Down, Key::Return, Key::Down, Key::Return, Key::Down, Key::Down, Key::Down,
@@ -231,7 +239,7 @@ TEST(Display, AnotherShapeInTheMiddleOfARunKeepsTheCarInItsLane) {
     ASSERT_NO_FATAL_FAILURE(OpenPage(game, Page::Graphics));
     ASSERT_NO_FATAL_FAILURE(GoToRow(game, Page::Graphics, AspectMode));
     ASSERT_TRUE(game.Tap(Key::Right, RowShows(AspectMode, "4:3")));
-    ASSERT_TRUE(RowShows(Resolution, "960X720")(game.Person().Screenshot()));
+    ASSERT_TRUE(RowShows(Resolution, "960X720")(game.Person().Look()));
     ASSERT_NO_FATAL_FAILURE(ActivateRow(game, Page::Graphics, Apply, PageIs(Page::Graphics, Apply)));
     ASSERT_TRUE(game.Tap(Key::Escape, OptionsMenu(1)));
     ASSERT_TRUE(game.Tap(Key::Escape, PauseMenu(1)));
@@ -251,10 +259,10 @@ TEST(Display, BackDropsAnotherShapeAndBringsTheOldResolutionsBack) {
     ASSERT_NO_FATAL_FAILURE(OpenPageFromMainMenu(game, Page::Graphics));
     ASSERT_NO_FATAL_FAILURE(GoToRow(game, Page::Graphics, AspectMode));
     ASSERT_TRUE(game.Tap(Key::Left, RowShows(AspectMode, "4:3")));
-    ASSERT_FALSE(RowShows(Resolution, "1440X900")(game.Person().Screenshot()));
+    ASSERT_FALSE(RowShows(Resolution, "1440X900")(game.Person().Look()));
     ASSERT_NO_FATAL_FAILURE(ActivateRow(game, Page::Graphics, Back, OptionsMenu(1)));
     ASSERT_TRUE(game.Tap(Key::Return, RowShows(Resolution, "1440X900")));
-    EXPECT_TRUE(RowShows(AspectMode, "WIDESCREEN")(game.Person().Screenshot()));
+    EXPECT_TRUE(RowShows(AspectMode, "WIDESCREEN")(game.Person().Look()));
     EXPECT_EQ(game.Close(), std::optional(0));
     EXPECT_EQ(home.Read(OptionsFile), kept);
 }

@@ -21,7 +21,7 @@ struct Sighting {
 std::vector<Sighting> WatchUntilLane(PlayedGame &Game, int Lane) {
     std::vector<Sighting> sightings;
     std::optional<int> phase;
-    Game.WaitForPicture([&](const Picture &Seen) {
+    Game.WaitForPicture([&](const Screenshot &Seen) {
         int scrolled = sightings.empty() ? 0 : sightings.back().Scrolled;
         if (const std::optional<int> now = FindDashPhase(Seen)) {
             scrolled += (*now - phase.value_or(*now) + DashPeriod) % DashPeriod;
@@ -128,7 +128,7 @@ TEST(Driving, RoadScrollsTowardsTheCar) {
     std::optional<int> phase;
     int forward = -1;
     for (int step = 0; step <= steps; ++step) {
-        const std::optional<Picture> next = game.WaitForPicture([&phase](const Picture &Seen) {
+        const std::optional<Screenshot> next = game.WaitForPicture([&phase](const Screenshot &Seen) {
             const std::optional<int> now = FindDashPhase(Seen);
             return now && now != phase;
         });

@@ -56,21 +56,30 @@ float BestDistance(const Sound &Heard, std::size_t FirstHeard, const std::vector
     return best;
 }
 
-// A Goertzel filter over a stretch under a Hann window: the amplitude of a sine of that frequency.
-double AmplitudeAt(const Sound &Heard, const Stretch &Place, double Frequency) {
+// A stretch under a Hann window.
+std::vector<double> Windowed(const Sound &Heard, const Stretch &Place) {
     const auto count = static_cast<double>(Place.End - Place.Begin);
-    const double factor = 2.0 * std::cos(2.0 * std::numbers::pi * Frequency / FrameRate);
-    double last = 0.0;
-    double beforeLast = 0.0;
+    std::vector<double> samples;
     for (std::size_t i = Place.Begin; i < Place.End; ++i) {
         const double turn = (static_cast<double>(i - Place.Begin) + 0.5) / count;
         const double window = 1.0 - std::cos(2.0 * std::numbers::pi * turn);
-        const double next = window * static_cast<double>(Heard[i].Left) + factor * last - beforeLast;
+        samples.push_back(window * static_cast<double>(Heard[i].Left));
+    }
+    return samples;
+}
+
+// A Goertzel filter: the amplitude of a sine of that frequency.
+double AmplitudeAt(const std::vector<double> &Samples, double Frequency) {
+    const double factor = 2.0 * std::cos(2.0 * std::numbers::pi * Frequency / FrameRate);
+    double last = 0.0;
+    double beforeLast = 0.0;
+    for (const double sample : Samples) {
+        const double next = sample + factor * last - beforeLast;
         beforeLast = last;
         last = next;
     }
     const double power = last * last + beforeLast * beforeLast - factor * last * beforeLast;
-    return 2.0 * std::sqrt(std::max(power, 0.0)) / count;
+    return 2.0 * std::sqrt(std::max(power, 0.0)) / static_cast<double>(Samples.size());
 }
 
 struct Tone {
@@ -80,9 +89,10 @@ struct Tone {
 
 // The loudest of all pitches from 100 to 2000 Hz in steps of 1 Hz.
 Tone LoudestTone(const Sound &Heard, const Stretch &Place) {
+    const std::vector<double> samples = Windowed(Heard, Place);
     Tone loudest;
     for (int frequency = 100; frequency <= 2000; ++frequency) {
-        const double amplitude = AmplitudeAt(Heard, Place, frequency);
+        const double amplitude = AmplitudeAt(samples, frequency);
         if (amplitude > loudest.Amplitude) {
             loudest = {static_cast<double>(frequency), amplitude};
         }

@@ -20,31 +20,31 @@ enum AudioRow { Language = 5, DefaultSettings, Apply };
 
 // A row of the main menu without a run.
 Sight MenuRowShows(int Row, const std::string &Text) {
-    return [Row, Text](const Picture &Seen) {
+    return [Row, Text](const Screenshot &Seen) {
         return ShowsText(Seen, Text, 375 + Row * 36, 4, {SelectedColor, RowColor});
     };
 }
 
 Sight HudShows(int Top, const std::string &Text) {
-    return [Top, Text](const Picture &Seen) {
+    return [Top, Text](const Screenshot &Seen) {
         return ShowsText(Seen, Text, Top, 3, {HudColor});
     };
 }
 
 Sight OptionsTitleIs(const std::string &Text) {
-    return [Text](const Picture &Seen) {
+    return [Text](const Screenshot &Seen) {
         return ShowsText(Seen, Text, 42, 6, {TitleColor});
     };
 }
 
 Sight SectionIs(const std::string &Text) {
-    return [Text](const Picture &Seen) {
+    return [Text](const Screenshot &Seen) {
         return ShowsText(Seen, Text, 100, 4, {SectionColor});
     };
 }
 
 Sight Both(const Sight &One, const Sight &Other) {
-    return [One, Other](const Picture &Seen) {
+    return [One, Other](const Screenshot &Seen) {
         return One(Seen) && Other(Seen);
     };
 }
@@ -74,7 +74,7 @@ TEST(Language, TheOptionsFileChoosesIt) {
         const PreparedHome home;
         home.Put(OptionsFile, OptionsWithLanguage(language.Code));
         OpenedGame game(home, Both(MenuRowShows(0, language.NewGame), MenuRowShows(4, language.Quit)));
-        EXPECT_FALSE(MenuRowShows(0, English.NewGame)(game.Person().Screenshot()));
+        EXPECT_FALSE(MenuRowShows(0, English.NewGame)(game.Person().Look()));
         EXPECT_TRUE(game.Tap(Key::Return, HudShows(92, language.Score))) << language.Code;
         EXPECT_EQ(game.Close(), std::optional(0));
         EXPECT_EQ(game.Program().Output(), "");
@@ -110,20 +110,20 @@ TEST(Language, AChangeOnTheAudioPageShowsAtOnceAndIsKept) {
         ASSERT_NO_FATAL_FAILURE(OpenPage(game, Page::Audio));
         ASSERT_NO_FATAL_FAILURE(GoToRow(game, Page::Audio, Language));
         ASSERT_TRUE(game.Tap(Key::Right, RowShows(Language, German.Name)));
-        EXPECT_TRUE(OptionsTitleIs("OPTIONS")(game.Person().Screenshot())) << "changed without APPLY";
+        EXPECT_TRUE(OptionsTitleIs("OPTIONS")(game.Person().Look())) << "changed without APPLY";
         EXPECT_EQ(StoredOption(home, "Options", "Language"), "en");
         ASSERT_NO_FATAL_FAILURE(ActivateRow(game, Page::Audio, Apply, OptionsTitleIs(German.OptionsTitle)));
         ASSERT_TRUE(game.Tap(Key::Escape, SectionIs("MEN\u00DC")));
         game.TapInOneFrame({Key::Escape, Key::Escape}); // out of the options and out of the pause
         ASSERT_TRUE(game.StaysFor(5, CarInLane(8)));
-        EXPECT_TRUE(HudShows(92, German.Score)(game.Person().Screenshot()));
+        EXPECT_TRUE(HudShows(92, German.Score)(game.Person().Look()));
         EXPECT_EQ(game.Close(), std::optional(0));
         EXPECT_EQ(game.Program().Output(), "");
     }
     EXPECT_EQ(StoredOption(home, "Options", "Language"), German.Code);
     // Below the row that continues the run, or in the first one if all this took less than the 0.8 seconds
     // after which a new run is saved.
-    OpenedGame game(home, [](const Picture &Seen) {
+    OpenedGame game(home, [](const Screenshot &Seen) {
         return ShowsText(Seen, German.NewGame, 393, 4, {RowColor}) ||
                ShowsText(Seen, German.NewGame, 375, 4, {SelectedColor});
     });

@@ -1,4 +1,5 @@
 #include "tests/e2e/PlayedGame.hpp"
+#include "tests/e2e/PreparedRun.hpp"
 #include "tests/e2e/StoredFiles.hpp"
 #include "tests/e2e/TextSight.hpp"
 
@@ -23,42 +24,64 @@ enum Row { Resume, Options, Help, MainMenu };
 // so a slow machine takes longer.
 constexpr milliseconds UntilSaved{6000};
 
-// The screen with nothing but the paused run on it, as it then lies in the file. The car is in lane 8, a bomb
-// is gone, shots are in the air and the score is above 0.
-std::optional<Picture> PauseARunWorthKeeping(PlayedGame &Game) {
-    constexpr std::chrono::minutes patience{2};
+constexpr int KitLane = 0;
+
+// A run in the middle of everything: each kind of thing is on the road or comes down it, in the lanes that
+// the car leaves, all bombs but one are thrown, and there is a score.
+GameState BusyRun() {
+    GameState run;
+    run.HasRunState = true;
+    run.Score = 6000;
+    run.HighScore = 7000;
+    run.Bombs = 1;
+    run.FirstAidKits = 2;
+    for (int i = 0; i < 3; ++i) {
+        const float y = -40.0F - 60.0F * static_cast<float>(i);
+        run.Enemies.push_back({.Y = y,
+            .Speed = 60.0F,
+            .AiTimer = 9.0F,
+            .FireCooldown = 0.5F,
+            .Lane = 2,
+            .Hp = 1 + i,
+            .Color = {}});
+        run.Obstacles.push_back({.Y = y, .Lane = 1, .Type = i});
+        run.Items.push_back({.Y = y, .Lane = KitLane, .Type = i});
+    }
+    return run;
+}
+
+// The screen with nothing but the paused run on it, as it then lies in the file. The car is in lane 8 and
+// shots are in the air. Nothing if it does not get there.
+std::optional<Screenshot> PauseARunWorthKeeping(PlayedGame &Game, const PreparedHome &Home) {
     Game.Person().PressKey(Key::LeftControl);
-    const bool scored = Game.WaitForPicture(
-                                [](const Picture &Seen) {
-                                    return !ScoreIsZero(Seen);
-                                },
-                                patience)
-                            .has_value();
     // Held, since a life that is lost puts the car back into the middle.
     Game.Person().PressKey(Key::Right);
-    const bool moved = Game.WaitForPicture(CarInLane(8)).has_value();
-    const bool thrown = Game.TapUntil(Key::X,
-                                [](const Picture &Seen) {
-                                    return BombsShown(Seen) == 2;
-                                })
+    // Past the car's blinking.
+    const bool isBusy = Game.WaitForPicture([](const Screenshot &Seen) {
+                                return CarInLane(8)(Seen) && !FindShots(Seen).empty() && SeesEnemy(Seen) &&
+                                       FindKitLane(Seen) == KitLane;
+                            })
                             .has_value();
-    // Past the blast and the car's blinking.
-    const bool calm = Game.WaitForPicture([](const Picture &Seen) {
-                              return !SeesBlast(Seen) && CarInLane(8)(Seen) && !FindShots(Seen).empty();
-                          })
-                          .has_value();
-    const bool paused = Game.Tap(Key::Escape, PauseMenu(Resume)).has_value();
+    // The run that is paused is written once, unless its last step was followed by a save at once: the file
+    // was right then already.
+    Game.Program().Send(SIGSTOP);
+    const std::optional<std::string> before = Home.Read(SaveFile);
+    Game.TapInOneFrame({Key::Escape});
+    const bool isPaused = Game.WaitForPicture(PauseMenu(Resume)).has_value();
     Game.Person().ReleaseKey(Key::Right);
     Game.Person().ReleaseKey(Key::LeftControl);
-    std::this_thread::sleep_for(UntilSaved);
-    return scored && moved && thrown && calm && paused ? Game.WaitForPicture(PauseMenu(Resume))
-                                                       : std::nullopt;
+    WaitUntil(
+        [&] {
+            return Home.Read(SaveFile) != before;
+        },
+        UntilSaved);
+    return isBusy && isPaused ? Game.WaitForPicture(PauseMenu(Resume)) : std::nullopt;
 }
 
 Sight HighScoreIs(std::int64_t Score) {
     std::array<char, 32> digits{};
     std::snprintf(digits.data(), digits.size(), "%08lld", static_cast<long long>(Score));
-    return [text = std::string(digits.data())](const Picture &Seen) {
+    return [text = std::string(digits.data())](const Screenshot &Seen) {
         constexpr int top = 190;
         constexpr int scale = 3;
         return ShowsText(Seen, text, top, scale, {{0xEB, 0xEB, 0xEB}});
@@ -84,22 +107,26 @@ TEST(Memory, TheFirstStartLeavesBothFiles) {
 
 TEST(Memory, ContinueGameResumesTheRunAsItStoodToThePixel) {
     const PreparedHome home;
-    std::optional<Picture> left;
+    PutRun(home, BusyRun());
+    std::optional<Screenshot> left;
     {
-        PlayedGame game({}, {}, &home);
-        left = PauseARunWorthKeeping(game);
+        PlayedGame game({}, DrawnAsForPlayers(), &home);
+        left = PauseARunWorthKeeping(game, home);
         ASSERT_TRUE(left);
+        EXPECT_EQ(BombsShown(*left), 1);
+        EXPECT_EQ(KitsShown(*left), 2);
+        EXPECT_FALSE(ScoreIsZero(*left));
         ASSERT_TRUE(game.Tap(Key::Up, PauseMenu(MainMenu)));
         ASSERT_TRUE(game.Tap(Key::Return, SixRowMenu(0)));
         ASSERT_TRUE(game.Tap(Key::Up, SixRowMenu(5)));
         game.Person().PressKey(Key::Return); // QUIT
         ASSERT_EQ(game.Program().WaitForExit(PatientDeadline), std::optional(0));
     }
-    OpenedGame game({}, {}, &home);
-    ASSERT_TRUE(SixRowMenu(0)(game.Person().Screenshot()));
+    OpenedGame game({}, DrawnAsForPlayers(), &home);
+    ASSERT_TRUE(SixRowMenu(0)(game.Person().Look()));
     // The run is paused before a single step of it.
     game.TapInOneFrame({Key::Return, Key::Escape});
-    const std::optional<Picture> continued = game.WaitForPicture(PauseMenu(Resume));
+    const std::optional<Screenshot> continued = game.WaitForPicture(PauseMenu(Resume));
     ASSERT_TRUE(continued);
     EXPECT_TRUE(continued->Pixels == left->Pixels);
     ASSERT_TRUE(game.Tap(Key::Escape, ScreenIs(SeenScreen::Playing)));
@@ -144,27 +171,32 @@ TEST(Memory, ANewGamePlayedForAWhileReplacesTheOldRun) {
     }
     EXPECT_EQ(StoredHighScore(home), std::optional<std::int64_t>(7000));
     OpenedGame game({}, {}, &home);
-    EXPECT_TRUE(game.Tap(Key::Return, [](const Picture &Seen) {
+    EXPECT_TRUE(game.Tap(Key::Return, [](const Screenshot &Seen) {
         return CarInLane(4)(Seen) && HighScoreIs(7000)(Seen);
     }));
 }
 
-// A run that has beaten the high score and has next to nothing left to lose.
+// A run that beats the high score by its next enemy, and that the shot after it ends.
 TEST(Memory, TheHighScoreOutlivesTheRunAndTheProgram) {
+    constexpr std::int64_t highScore = 6990 + 200;
+    GameState run = QuietRun();
+    run.HighScore = 7000;
+    run.Score = 6990;
+    run.Player.Hp = 10;
+    run.Player.Stocks = 0;
+    ShootEnemy(run);
+    ShootDownwards(run);
     const PreparedHome home;
-    home.Put(SaveFile, MadeSave({.HighScore = 7000, .Score = 6990, .Lane = 4, .Hp = 1, .Stocks = 0}));
+    PutRun(home, run);
     {
         PlayedGame game({}, {}, &home); // the menu's first row continues it
-        game.Person().PressKey(Key::LeftControl);
-        EXPECT_TRUE(game.RamUntil(ScreenIs(SeenScreen::GameOver)));
-        game.Person().ReleaseKey(Key::LeftControl);
+        EXPECT_TRUE(game.WaitForPicture(ScreenIs(SeenScreen::GameOver)));
         EXPECT_EQ(game.Close(), std::optional(0));
     }
-    const std::int64_t highScore = StoredHighScore(home).value_or(0);
-    EXPECT_GE(highScore, 7000);
+    EXPECT_EQ(StoredHighScore(home), std::optional(highScore));
     EXPECT_EQ(StoresRun(home), std::optional(false));
     PlayedGame game({}, {}, &home); // the menu has five rows now, and the first one is NEW GAME
-    EXPECT_TRUE(game.WaitForPicture([&](const Picture &Seen) {
+    EXPECT_TRUE(game.WaitForPicture([&](const Screenshot &Seen) {
         return HighScoreIs(highScore)(Seen) && ScoreIsZero(Seen);
     }));
 }
@@ -173,7 +205,7 @@ TEST(Memory, ADamagedSaveIsReplacedByAnEmptyOne) {
     const PreparedHome home;
     home.Put(SaveFile, "This is no saved run at all.");
     OpenedGame game({}, {}, &home);
-    ASSERT_TRUE(FiveRowMenu(0)(game.Person().Screenshot()));
+    ASSERT_TRUE(FiveRowMenu(0)(game.Person().Look()));
     EXPECT_EQ(StoredHighScore(home), std::optional<std::int64_t>(0));
     EXPECT_EQ(StoresRun(home), std::optional(false));
     EXPECT_EQ(game.Close(), std::optional(0));
@@ -225,7 +257,7 @@ TEST(Memory, KilledAtAnyMomentTheNextStartLoadsAndTheHighScoreNeverFalls) {
         ASSERT_TRUE(loaded) << "round " << round;
         ASSERT_GE(*loaded, highest) << "round " << round;
         highest = *loaded;
-        const bool hasRun = SixRowMenu(0)(game.Person().Screenshot());
+        const bool hasRun = SixRowMenu(0)(game.Person().Look());
         ASSERT_EQ(StoresRun(home), std::optional(hasRun)) << "round " << round;
         runsFound += hasRun ? 1 : 0;
         ASSERT_EQ(game.Program().Output(), "") << "round " << round;

@@ -22,7 +22,7 @@ constexpr double GainError = 0.002;
 constexpr std::size_t FadedIn = FrameRate;
 
 Sound Piece(const char *Name) {
-    return ReadMusic(std::filesystem::path(GameProgram()).parent_path() / "Music" / Name);
+    return ReadMusic(GameProgram().parent_path() / "Music" / Name);
 }
 
 // Whether the frames [From, To) hold the piece at that gain and nothing else.
@@ -150,14 +150,16 @@ void PrintTo(const RunMusic &Shown, std::ostream *Out) {
     *Out << Shown.Name;
 }
 
-class MusicOfARun : public testing::TestWithParam<RunMusic> {};
+class Music : public Measuring {};
+
+class MusicOfARun : public Measuring, public testing::WithParamInterface<RunMusic> {};
 
 } // namespace
 
 // A game that is disturbed by others on the machine shows frames late, and so rises in steps that have
 // nothing to do with the rule. No disturbance makes a wrong rise right, so one good start of several is
 // enough.
-TEST(Music, TheFirstMenuPieceRisesFromTwentyEightPercentIn350Milliseconds) {
+TEST_F(Music, TheFirstMenuPieceRisesFromTwentyEightPercentIn350Milliseconds) {
     testing::AssertionResult risen = testing::AssertionFailure();
     for (int attempt = 0; attempt < 8 && !risen; ++attempt) {
         RecordedGame game;
@@ -175,10 +177,10 @@ TEST(Music, TheFirstMenuPieceRisesFromTwentyEightPercentIn350Milliseconds) {
     EXPECT_TRUE(risen);
 }
 
-TEST(Music, FadesOutIn1500MillisecondsAtTheEnd) {
+TEST_F(Music, FadesOutIn1500MillisecondsAtTheEnd) {
     RecordedGame game;
     ASSERT_TRUE(game.Listen(1.5));
-    const std::size_t open = game.Heard().size();
+    const std::size_t open = game.FramesSoFar();
     const Sound heard = game.End();
     const Sound menu = Piece("MenuCredits.ogg");
     const std::size_t start = FindPiece(heard, menu, 0);
@@ -195,12 +197,12 @@ TEST(Music, FadesOutIn1500MillisecondsAtTheEnd) {
 }
 
 // Not a sample lies between the two, and the press itself is not heard.
-TEST(Music, NewGameCutsToTheGameplayPiece) {
+TEST_F(Music, NewGameCutsToTheGameplayPiece) {
     RecordedGame game;
     ASSERT_TRUE(game.Listen(1.5));
-    const std::size_t pressed = game.Heard().size();
+    const std::size_t pressed = game.FramesSoFar();
     ASSERT_TRUE(game.Game().Tap(Key::Return, ScreenIs(SeenScreen::Playing)));
-    const std::size_t shown = game.Heard().size();
+    const std::size_t shown = game.FramesSoFar();
     ASSERT_TRUE(game.Listen(1.0));
     const Sound heard = game.End();
     const Sound menu = Piece("MenuCredits.ogg");
@@ -217,7 +219,7 @@ TEST(Music, NewGameCutsToTheGameplayPiece) {
 }
 
 // The pause has the run's music, and so has the main menu that is reached from it until the loop ends.
-TEST(Music, EffectsLieOverItAndThePauseMenuDoesNotCutIt) {
+TEST_F(Music, EffectsLieOverItAndThePauseMenuDoesNotCutIt) {
     struct Step {
         Key Tapped;
         Sight Shows;
@@ -240,7 +242,7 @@ TEST(Music, EffectsLieOverItAndThePauseMenuDoesNotCutIt) {
         ASSERT_TRUE(game.Game().Tap(step.Tapped, step.Shows)) << step.Sounds.Name;
         ASSERT_TRUE(game.Listen(0.5));
     }
-    const std::size_t end = game.Heard().size();
+    const std::size_t end = game.FramesSoFar();
     Sound heard = game.End();
 
     const Sound menu = Piece("MenuCredits.ogg");
@@ -266,7 +268,7 @@ TEST_P(MusicOfARun, IsCutTo) {
     RecordedGame game("SfxEnabled=\"0\"", &run);
     ASSERT_TRUE(game.Listen(1.0));
     ASSERT_TRUE(game.Game().Tap(Key::Return, ScreenIs(SeenScreen::Playing)));
-    const std::size_t shown = game.Heard().size();
+    const std::size_t shown = game.FramesSoFar();
     ASSERT_TRUE(game.Listen(1.0));
     const Sound heard = game.End();
     const Sound piece = Piece(GetParam().File);
@@ -298,19 +300,19 @@ INSTANTIATE_TEST_SUITE_P(Music, MusicOfARun,
     });
 
 // The run's loop of thirteen seconds is played to its end, and the menu's piece follows at once again.
-TEST(Music, GameOverWaitsForTheLoopsEndAndTheMenuAfterItDoesNot) {
+TEST_F(Music, GameOverWaitsForTheLoopsEndAndTheMenuAfterItDoesNot) {
     GameState run = QuietRun();
     run.Player.Hp = 10;
     run.Player.Stocks = 0;
-    run.EnemyBullets.push_back({.X = 640.0F, .Y = 500.0F, .Speed = 190.0F, .Radius = 2.0F, .Damage = 10});
+    ShootDownwards(run);
     RecordedGame game("SfxEnabled=\"0\"", &run);
     ASSERT_TRUE(game.Listen(1.0));
     ASSERT_TRUE(game.Game().Tap(Key::Return, ScreenIs(SeenScreen::Playing)));
     ASSERT_TRUE(game.Game().WaitForPicture(ScreenIs(SeenScreen::GameOver)));
-    const std::size_t over = game.Heard().size();
+    const std::size_t over = game.FramesSoFar();
     ASSERT_TRUE(game.Listen(13.5));
     ASSERT_TRUE(game.Game().Tap(Key::Return, FiveRowMenu(0)));
-    const std::size_t back = game.Heard().size();
+    const std::size_t back = game.FramesSoFar();
     ASSERT_TRUE(game.Listen(1.0));
     const Sound heard = game.End();
 
@@ -336,10 +338,10 @@ TEST(Music, GameOverWaitsForTheLoopsEndAndTheMenuAfterItDoesNot) {
 }
 
 // Half of sixty percent.
-TEST(Music, VolumesScaleTheLevel) {
+TEST_F(Music, VolumesScaleTheLevel) {
     RecordedGame game("MasterVolume=\"50\"\r\nMusicVolume=\"60\"");
     ASSERT_TRUE(game.Listen(2.0));
-    const std::size_t end = game.Heard().size();
+    const std::size_t end = game.FramesSoFar();
     const Sound heard = game.End();
     const Sound menu = Piece("MenuCredits.ogg");
     const std::size_t start = FindPiece(heard, menu, 0);

@@ -7,33 +7,20 @@
 
 namespace {
 
-// With AddressSanitizer the game draws by SDL's own renderer: a system's OpenGL driver may keep a little
-// memory when it is unloaded, which would count as the game's leak.
-Environment Adapted(Environment Settings) {
-    if (GAME_IS_SANITIZED != 0) {
-        Settings["SDL_RENDER_DRIVER"] = "software";
-        Settings["SDL_FRAMEBUFFER_ACCELERATION"] = "0";
-    }
-    return Settings;
-}
-
-bool FirstMenuRow(const Picture &Seen) {
+bool FirstMenuRow(const Screenshot &Seen) {
     return FiveRowMenu(0)(Seen) || SixRowMenu(0)(Seen);
 }
 
 } // namespace
 
-const char *GameProgram() {
-    return GAME_PROGRAM;
-}
-
 OpenedGame::OpenedGame(ScreenSize Screen, const Environment &Settings, const PreparedHome *Prepared)
-    : Session(GameProgram(), Screen, Adapted(Settings), Prepared) {
+    : Session(GameProgram(), Screen, Settings, Prepared) {
     WaitForMenu(Prepared == nullptr ? FiveRowMenu(0) : Sight(FirstMenuRow));
 }
 
-OpenedGame::OpenedGame(const PreparedHome &Prepared, const Sight &Shows, ScreenSize Screen, Desk Kind)
-    : Session(GameProgram(), Screen, Adapted({}), &Prepared, Kind) {
+OpenedGame::OpenedGame(const PreparedHome &Prepared, const Sight &Shows, ScreenSize Screen, Desk Kind,
+    const Environment &Settings)
+    : Session(GameProgram(), Screen, Settings, &Prepared, Kind) {
     WaitForMenu(Shows);
 }
 
@@ -68,18 +55,19 @@ std::optional<int> OpenedGame::Close() {
     return Session.Close();
 }
 
-std::optional<Picture> OpenedGame::WaitForPicture(const Sight &Shows, std::chrono::milliseconds Deadline) {
-    return Session.WaitForPicture(Shows, Deadline);
+std::optional<Screenshot> OpenedGame::WaitForPicture(
+    const Sight &Shows, std::chrono::milliseconds Deadline, std::chrono::milliseconds Rest) {
+    return Session.WaitForPicture(Shows, Deadline, Rest);
 }
 
-std::optional<Picture> OpenedGame::Tap(Key Tapped, const Sight &Shows) {
+std::optional<Screenshot> OpenedGame::Tap(Key Tapped, const Sight &Shows) {
     return Session.Tap(Tapped, Shows);
 }
 
-std::optional<Picture> OpenedGame::TapUntil(Key Tapped, const Sight &Shows) {
+std::optional<Screenshot> OpenedGame::TapUntil(Key Tapped, const Sight &Shows) {
     constexpr std::chrono::milliseconds held{60};
     constexpr std::chrono::milliseconds patience{3000};
-    std::optional<Picture> seen;
+    std::optional<Screenshot> seen;
     for (int attempt = 0; attempt < 10 && !seen; ++attempt) {
         Person().TapKey(Tapped, held);
         seen = WaitForPicture(Shows, patience);
@@ -108,7 +96,7 @@ testing::AssertionResult OpenedGame::Ignores(Key Tapped, const Sight &Shows) {
 
 testing::AssertionResult OpenedGame::KeepsFor(std::chrono::milliseconds Time, const Sight &Shows) {
     const bool changed = WaitForPicture(
-        [&Shows](const Picture &Seen) {
+        [&Shows](const Screenshot &Seen) {
             return !Shows(Seen);
         },
         Time)
@@ -120,13 +108,13 @@ testing::AssertionResult OpenedGame::KeepsFor(std::chrono::milliseconds Time, co
 }
 
 Sight ScreenIs(SeenScreen Screen) {
-    return [Screen](const Picture &Seen) {
+    return [Screen](const Screenshot &Seen) {
         return FindScreen(Seen) == Screen;
     };
 }
 
 Sight MenuIs(SeenScreen Screen, int Rows, int Selected) {
-    return [wanted = SeenMenu{Screen, Rows, Selected}](const Picture &Seen) {
+    return [wanted = SeenMenu{Screen, Rows, Selected}](const Screenshot &Seen) {
         return FindMenu(Seen) == wanted;
     };
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/e2e/GameProgram.hpp"
 #include "tools/desktop/GameSession.hpp"
 #include "tools/desktop/MenuSight.hpp"
 #include "tools/desktop/WaitUntil.hpp"
@@ -18,8 +19,8 @@ public:
     explicit OpenedGame(
         ScreenSize Screen = {}, const Environment &Settings = {}, const PreparedHome *Prepared = nullptr);
     // The same with a main menu that looks otherwise: the first picture is one that satisfies Shows.
-    OpenedGame(
-        const PreparedHome &Prepared, const Sight &Shows, ScreenSize Screen = {}, Desk Kind = Desk::Bare);
+    OpenedGame(const PreparedHome &Prepared, const Sight &Shows, ScreenSize Screen = {},
+        Desk Kind = Desk::Bare, const Environment &Settings = {});
 
     const DesktopWindow &Window() const;
     XClient &Person();
@@ -28,12 +29,12 @@ public:
     std::optional<int> Close();
 
     // As GameSession has them.
-    std::optional<Picture> WaitForPicture(
-        const Sight &Shows, std::chrono::milliseconds Deadline = PatientDeadline);
-    std::optional<Picture> Tap(Key Tapped, const Sight &Shows);
+    std::optional<Screenshot> WaitForPicture(const Sight &Shows,
+        std::chrono::milliseconds Deadline = PatientDeadline, std::chrono::milliseconds Rest = ShortRest);
+    std::optional<Screenshot> Tap(Key Tapped, const Sight &Shows);
     // Taps briefly, and again where a frame of a slow machine was too long to see it. For keys that act anew
     // while they are held.
-    std::optional<Picture> TapUntil(Key Tapped, const Sight &Shows);
+    std::optional<Screenshot> TapUntil(Key Tapped, const Sight &Shows);
     // Taps the keys so fast that one frame of the game takes them all.
     void TapInOneFrame(const std::vector<Key> &Tapped);
 
@@ -48,9 +49,6 @@ private:
     GameSession Session;
     DesktopWindow Opened;
 };
-
-// The program under test.
-const char *GameProgram();
 
 Sight ScreenIs(SeenScreen Screen);
 

@@ -27,13 +27,13 @@ enum GraphicsRow { VSync = 4, GraphicsDefaults, GraphicsApply };
 
 // The line that asks for a key in place of the Controls page's hints.
 Sight AsksForKey(const std::string &Action) {
-    return [text = "PRESS A KEY FOR " + Action](const Picture &Seen) {
+    return [text = "PRESS A KEY FOR " + Action](const Screenshot &Seen) {
         return ShowsText(Seen, text, 498, 2, {{0x78, 0xFF, 0xAA}});
     };
 }
 
 Sight All(const std::vector<Sight> &Sights) {
-    return [Sights](const Picture &Seen) {
+    return [Sights](const Screenshot &Seen) {
         for (const Sight &sight : Sights) {
             if (!sight(Seen)) {
                 return false;
@@ -51,7 +51,7 @@ void Rebind(OpenedGame &Game, int Row, const std::string &Action, Key NewKey, co
 
 // Goes back to the main menu, from any page.
 void LeavePages(OpenedGame &Game) {
-    ASSERT_TRUE(Game.Tap(Key::Escape, [](const Picture &Seen) {
+    ASSERT_TRUE(Game.Tap(Key::Escape, [](const Screenshot &Seen) {
         return FindMenu(Seen) && FindMenu(Seen)->Screen == SeenScreen::Options;
     }));
     ASSERT_TRUE(Game.Tap(Key::Escape, ScreenIs(SeenScreen::MainMenu)));
@@ -64,11 +64,11 @@ void Play(OpenedGame &Game) {
 }
 
 // A salvo takes 3 of 100 from the meter at once.
-bool HasFired(const Picture &Seen) {
+bool HasFired(const Screenshot &Seen) {
     return AmmoShown(Seen) < 110 && !FindShots(Seen).empty();
 }
 
-bool HasFullAmmo(const Picture &Seen) {
+bool HasFullAmmo(const Screenshot &Seen) {
     return AmmoShown(Seen) == 110;
 }
 
@@ -84,7 +84,7 @@ TEST(AudioPage, VolumesGoInStepsOfFiveAndAreKept) {
     {
         OpenedGame game({}, {}, &home);
         ASSERT_NO_FATAL_FAILURE(OpenPageFromMainMenu(game, Page::Audio));
-        ASSERT_TRUE(PageIs(Page::Audio, Master)(game.Person().Screenshot()));
+        ASSERT_TRUE(PageIs(Page::Audio, Master)(game.Person().Look()));
         ASSERT_TRUE(game.Tap(Key::Left, RowShows(Master, "95%")));
         ASSERT_TRUE(game.Tap(Key::A, RowShows(Master, "90%")));
         ASSERT_NO_FATAL_FAILURE(GoToRow(game, Page::Audio, Sfx));
@@ -187,7 +187,7 @@ TEST(ControlsPage, ACaptureIsLeftByEscapeAndClearedByDelete) {
     OpenedGame game({}, {}, &home);
     ASSERT_NO_FATAL_FAILURE(OpenPageFromMainMenu(game, Page::Controls));
     ASSERT_NO_FATAL_FAILURE(ActivateRow(game, Page::Controls, Bomb, AsksForKey("BOMB")));
-    ASSERT_TRUE(game.Tap(Key::Escape, [](const Picture &Seen) {
+    ASSERT_TRUE(game.Tap(Key::Escape, [](const Screenshot &Seen) {
         return PageIs(Page::Controls, Bomb)(Seen) && RowShows(Bomb, "X")(Seen) && !AsksForKey("BOMB")(Seen);
     }));
     // A cursor key can be bound as well: it does not move the marker here.
@@ -201,7 +201,7 @@ TEST(ControlsPage, ACaptureIsLeftByEscapeAndClearedByDelete) {
     EXPECT_EQ(StoredOption(home, "ControlsKeyboard", "Heal"), "0");
     ASSERT_NO_FATAL_FAILURE(LeavePages(game));
     ASSERT_NO_FATAL_FAILURE(Play(game));
-    EXPECT_TRUE(game.TapUntil(Key::Down, [](const Picture &Seen) {
+    EXPECT_TRUE(game.TapUntil(Key::Down, [](const Screenshot &Seen) {
         return BombsShown(Seen) == 2;
     }));
 }
@@ -242,7 +242,7 @@ TEST(ControlsPage, DefaultSettingsTakeEffectOnlyWhenApplied) {
 
 TEST(GraphicsPage, VerticalSyncIsKeptOnceApplied) {
     const PreparedHome home;
-    OpenedGame game({}, {}, &home);
+    OpenedGame game({}, DrawnAsForPlayers(), &home);
     ASSERT_NO_FATAL_FAILURE(OpenPageFromMainMenu(game, Page::Graphics));
     ASSERT_NO_FATAL_FAILURE(ActivateRow(game, Page::Graphics, VSync, RowShows(VSync, "OFF")));
     ASSERT_TRUE(game.Tap(Key::Escape, OptionsMenu(1)));

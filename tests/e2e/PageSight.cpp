@@ -28,7 +28,7 @@ int TopOfRow(int Row) {
 }
 
 // The only row that is bright; nothing if there are several or none.
-std::optional<int> FindSelectedRow(const Picture &Seen) {
+std::optional<int> FindSelectedRow(const Screenshot &Seen) {
     std::optional<int> selected;
     for (int row = 0; row < MostRows; ++row) {
         const Area band{0, TopOfRow(row), Seen.Width, TopOfRow(row) + RowHeight};
@@ -42,7 +42,7 @@ std::optional<int> FindSelectedRow(const Picture &Seen) {
     return selected;
 }
 
-bool ShowsHeading(const Picture &Seen, Page Shown) {
+bool ShowsHeading(const Screenshot &Seen, Page Shown) {
     return ShowsText(
         Seen, Headings[static_cast<std::size_t>(Shown)], HeadingTop, HeadingScale, {HeadingColor});
 }
@@ -50,25 +50,25 @@ bool ShowsHeading(const Picture &Seen, Page Shown) {
 } // namespace
 
 Sight PageIs(Page Shown, int Row) {
-    return [Shown, Row](const Picture &Seen) {
+    return [Shown, Row](const Screenshot &Seen) {
         return ShowsHeading(Seen, Shown) && FindSelectedRow(Seen) == Row;
     };
 }
 
 Sight SelectedRowIs(int Row) {
-    return [Row](const Picture &Seen) {
+    return [Row](const Screenshot &Seen) {
         return FindSelectedRow(Seen) == Row;
     };
 }
 
 Sight RowShows(int Row, const std::string &Text) {
-    return [Row, Text](const Picture &Seen) {
+    return [Row, Text](const Screenshot &Seen) {
         return ShowsText(Seen, Text, TopOfRow(Row), RowScale, {SelectedColor, OtherColor});
     };
 }
 
 void OpenPage(OpenedGame &Game, Page Wanted) {
-    const std::optional<Picture> options = Game.WaitForPicture([](const Picture &Seen) {
+    const std::optional<Screenshot> options = Game.WaitForPicture([](const Screenshot &Seen) {
         const std::optional<SeenMenu> menu = FindMenu(Seen);
         return menu && menu->Screen == SeenScreen::Options;
     });
@@ -77,7 +77,7 @@ void OpenPage(OpenedGame &Game, Page Wanted) {
         row = (row + 1) % 4;
         ASSERT_TRUE(Game.Tap(Key::Down, OptionsMenu(row))) << row;
     }
-    ASSERT_TRUE(Game.Tap(Key::Return, [Wanted](const Picture &Seen) {
+    ASSERT_TRUE(Game.Tap(Key::Return, [Wanted](const Screenshot &Seen) {
         return ShowsHeading(Seen, Wanted);
     }));
 }
@@ -90,7 +90,7 @@ void OpenPageFromMainMenu(OpenedGame &Game, Page Wanted) {
 }
 
 void GoToRow(OpenedGame &Game, Page Shown, int Row) {
-    const std::optional<Picture> page = Game.WaitForPicture([Shown](const Picture &Seen) {
+    const std::optional<Screenshot> page = Game.WaitForPicture([Shown](const Screenshot &Seen) {
         return ShowsHeading(Seen, Shown) && FindSelectedRow(Seen);
     });
     ASSERT_TRUE(page) << "the page does not come";

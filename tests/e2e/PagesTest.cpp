@@ -104,14 +104,14 @@ TEST(CreditsPage, IsLeftByEscapeAndReturnButNotByTheSpaceBar) {
 TEST(CreditsPage, BeginsFromBelowEachTime) {
     OpenedGame game;
     ASSERT_NO_FATAL_FAILURE(OpenFromMainMenu(game, 3, Key::Return, CreditsPage));
-    ASSERT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+    ASSERT_TRUE(game.WaitForPicture([](const Screenshot &Seen) {
         const std::optional<Area> text = FindCreditsText(Seen);
-        return text && text->Top < 450;
+        return text && text->Top < 600;
     }));
     ASSERT_TRUE(game.Tap(Key::Return, FiveRowMenu(3)));
     const steady_clock::time_point start = steady_clock::now();
     ASSERT_TRUE(game.Tap(Key::Return, CreditsPage));
-    const std::optional<Picture> again = game.WaitForPicture([](const Picture &Seen) {
+    const std::optional<Screenshot> again = game.WaitForPicture([](const Screenshot &Seen) {
         return FindCreditsText(Seen).has_value();
     });
     ASSERT_TRUE(again);
@@ -128,14 +128,14 @@ TEST(CreditsPage, ScrollsToItsEndAndReturnsToTheMainMenu) {
     const steady_clock::time_point start = steady_clock::now();
     ASSERT_TRUE(game.Tap(Key::Return, CreditsPage));
     int highest = 720;
-    const std::optional<Picture> ended = game.WaitForPicture(
-        [&highest](const Picture &Seen) {
+    const std::optional<Screenshot> ended = game.WaitForPicture(
+        [&highest](const Screenshot &Seen) {
             if (const std::optional<Area> text = FindCreditsText(Seen)) {
                 highest = std::min(highest, text->Bottom);
             }
             return FiveRowMenu(3)(Seen);
         },
-        seconds{90});
+        seconds{90}, milliseconds{50});
     ASSERT_TRUE(ended);
     EXPECT_GT(steady_clock::now() - start, milliseconds{25900});
     EXPECT_LT(highest, 60) << "the last line was not seen to leave";

@@ -1,4 +1,5 @@
 #include "tests/e2e/PlayedGame.hpp"
+#include "tests/e2e/PreparedRun.hpp"
 
 namespace {
 
@@ -8,39 +9,28 @@ enum Row { Resume, Options, Help, MainMenu };
 
 // Whether the road, and all else on the screen, stands still for a good second.
 testing::AssertionResult StandsStill(OpenedGame &Game) {
-    const Picture first = Game.Person().Screenshot();
-    return Game.KeepsFor(milliseconds{1200}, [&first](const Picture &Seen) {
+    const Screenshot first = Game.Person().Look();
+    return Game.KeepsFor(milliseconds{1200}, [&first](const Screenshot &Seen) {
         return Seen.Pixels == first.Pixels;
     });
 }
 
-// A run in which the car has left the middle, a bomb is gone and the score is above 0; nothing if it does not
-// get there. The pause menu lies over it.
-std::optional<Picture> PauseARunUnderWay(PlayedGame &Game) {
-    constexpr std::chrono::minutes patience{2};
-    Game.Person().PressKey(Key::LeftControl);
-    const bool scored = Game.WaitForPicture(
-                                [](const Picture &Seen) {
-                                    return !ScoreIsZero(Seen);
-                                },
-                                patience)
-                            .has_value();
-    Game.Person().ReleaseKey(Key::LeftControl);
-    // Held, since a life that is lost puts the car back into the middle.
+// The pause menu over a run in which the car has left the middle, a bomb is gone and the score is above 0;
+// nothing if it does not get there.
+std::optional<Screenshot> PauseARunUnderWay(PlayedGame &Game) {
     Game.Person().PressKey(Key::Right);
     const bool moved = Game.WaitForPicture(CarInLane(8)).has_value();
+    Game.Person().ReleaseKey(Key::Right);
     const bool thrown = Game.TapUntil(Key::X,
-                                [](const Picture &Seen) {
+                                [](const Screenshot &Seen) {
                                     return BombsShown(Seen) == 2;
                                 })
                             .has_value();
-    // Past the blast, the car's blinking and whatever the bomb has left of the traffic.
-    const bool calm = Game.WaitForPicture([](const Picture &Seen) {
-                              return !SeesBlast(Seen) && CarInLane(8)(Seen) && FindShots(Seen).empty();
+    const bool calm = Game.WaitForPicture([](const Screenshot &Seen) {
+                              return !SeesBlast(Seen) && CarInLane(8)(Seen) && !ScoreIsZero(Seen);
                           })
                           .has_value();
-    Game.Person().ReleaseKey(Key::Right);
-    return scored && moved && thrown && calm ? Game.Tap(Key::Escape, PauseMenu(Resume)) : std::nullopt;
+    return moved && thrown && calm ? Game.Tap(Key::Escape, PauseMenu(Resume)) : std::nullopt;
 }
 
 } // namespace
@@ -48,7 +38,7 @@ std::optional<Picture> PauseARunUnderWay(PlayedGame &Game) {
 TEST(Pause, EscapeFreezesTheRunUnderTheMenu) {
     PlayedGame game;
     ASSERT_TRUE(game.Tap(Key::Escape, PauseMenu(Resume)));
-    EXPECT_TRUE(FindDashPhase(game.Person().Screenshot())) << "the road cannot be seen around the panel";
+    EXPECT_TRUE(FindDashPhase(game.Person().Look())) << "the road cannot be seen around the panel";
     EXPECT_TRUE(StandsStill(game));
     EXPECT_EQ(game.Close(), std::optional(0));
 }
@@ -72,7 +62,7 @@ TEST(Pause, ResumeAndEscapeGoOn) {
     }
 }
 
-TEST(Pause, RowsGoRoundBothEnds) {
+TEST(Pause, RowsGoRoundBothEndsAndItBeginsOnResumeEachTime) {
     PlayedGame game;
     ASSERT_TRUE(game.Tap(Key::Escape, PauseMenu(Resume)));
     for (const int row : {MainMenu, Help, Options, Resume}) {
@@ -81,25 +71,24 @@ TEST(Pause, RowsGoRoundBothEnds) {
     for (const int row : {Options, Help, MainMenu, Resume}) {
         ASSERT_TRUE(game.Tap(Key::S, PauseMenu(row))) << row;
     }
-}
-
-TEST(Pause, BeginsOnResumeEachTime) {
-    PlayedGame game;
-    ASSERT_TRUE(game.Tap(Key::Escape, PauseMenu(Resume)));
     ASSERT_TRUE(game.Tap(Key::Down, PauseMenu(Options)));
     ASSERT_TRUE(game.Tap(Key::Escape, ScreenIs(SeenScreen::Playing)));
     EXPECT_TRUE(game.Tap(Key::Escape, PauseMenu(Resume)));
 }
 
 TEST(Pause, MainMenuOffersToContinueTheRunWhereItStood) {
-    PlayedGame game;
-    const std::optional<Picture> left = PauseARunUnderWay(game);
+    const PreparedHome home;
+    GameState run = QuietRun();
+    run.Score = 4200;
+    PutRun(home, run);
+    PlayedGame game({}, {}, &home);
+    const std::optional<Screenshot> left = PauseARunUnderWay(game);
     ASSERT_TRUE(left);
     ASSERT_TRUE(game.Tap(Key::Up, PauseMenu(MainMenu)));
     ASSERT_TRUE(game.Tap(Key::Return, SixRowMenu(0)));
 
     ASSERT_TRUE(game.Tap(Key::Return, CarInLane(8)));
-    const std::optional<Picture> continued = game.Tap(Key::Escape, PauseMenu(Resume));
+    const std::optional<Screenshot> continued = game.Tap(Key::Escape, PauseMenu(Resume));
     ASSERT_TRUE(continued);
     EXPECT_EQ(BombsShown(*continued), 2);
     EXPECT_TRUE(ScoreEquals(*continued, *left));
@@ -107,14 +96,14 @@ TEST(Pause, MainMenuOffersToContinueTheRunWhereItStood) {
 
 TEST(Pause, NewGameBeginsAnewThoughThereIsARun) {
     PlayedGame game;
-    ASSERT_TRUE(game.TapUntil(Key::X, [](const Picture &Seen) {
+    ASSERT_TRUE(game.TapUntil(Key::X, [](const Screenshot &Seen) {
         return BombsShown(Seen) == 2;
     }));
     ASSERT_TRUE(game.Tap(Key::Escape, PauseMenu(Resume)));
     ASSERT_TRUE(game.Tap(Key::Up, PauseMenu(MainMenu)));
     ASSERT_TRUE(game.Tap(Key::Return, SixRowMenu(0)));
     ASSERT_TRUE(game.Tap(Key::Down, SixRowMenu(1)));
-    EXPECT_TRUE(game.Tap(Key::Return, [](const Picture &Seen) {
+    EXPECT_TRUE(game.Tap(Key::Return, [](const Screenshot &Seen) {
         return CarInLane(4)(Seen) && BombsShown(Seen) == 3 && ScoreIsZero(Seen);
     }));
 }

@@ -3,23 +3,23 @@
 #include <stdexcept>
 
 Sight CarInLane(int Lane) {
-    return [Lane](const Picture &Seen) {
+    return [Lane](const Screenshot &Seen) {
         return FindCarLane(Seen) == Lane;
     };
 }
 
 PlayedGame::PlayedGame(ScreenSize Screen, const Environment &Settings, const PreparedHome *Prepared)
     : OpenedGame(Screen, Settings, Prepared) {
-    if (!StartNewRun()) {
+    if (!StartRun()) {
         throw std::runtime_error("No car stands in the middle lane. The game says:\n" + Program().Output());
     }
 }
 
-bool PlayedGame::StartNewRun() {
+bool PlayedGame::StartRun() {
     return Tap(Key::Return, CarInLane(LaneCount / 2)).has_value();
 }
 
-void PlayedGame::SteerTowards(const Picture &Seen, std::optional<int> Lane) {
+void PlayedGame::SteerTowards(const Screenshot &Seen, std::optional<int> Lane) {
     // Less than the 90 milliseconds after which a held key moves the car again.
     constexpr std::chrono::milliseconds held{50};
     const std::optional<int> car = FindCarLane(Seen);
@@ -31,7 +31,7 @@ void PlayedGame::SteerTowards(const Picture &Seen, std::optional<int> Lane) {
 bool PlayedGame::RamUntil(const Sight &Shows) {
     constexpr std::chrono::minutes patience{3};
     return WaitForPicture(
-        [&](const Picture &Seen) {
+        [&](const Screenshot &Seen) {
             const bool shown = Shows(Seen);
             if (!shown) {
                 SteerTowards(Seen, FindEnemyLane(Seen));
@@ -46,7 +46,7 @@ testing::AssertionResult PlayedGame::StaysFor(int Frames, const Sight &Shows) {
     std::optional<int> lastPhase;
     int frames = 0;
     while (frames < Frames) {
-        const std::optional<Picture> next = WaitForPicture([&](const Picture &Seen) {
+        const std::optional<Screenshot> next = WaitForPicture([&](const Screenshot &Seen) {
             const std::optional<int> phase = FindDashPhase(Seen);
             return FindCar(Seen) && (!Shows(Seen) || (phase && phase != lastPhase));
         });

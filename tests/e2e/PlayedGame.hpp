@@ -6,16 +6,18 @@
 // The same with a run on the screen that a person can play.
 class PlayedGame : public OpenedGame {
 public:
-    // Starts the program and a new run, which a prepared home may not hold already, and waits until its car
-    // stands on the road. Throws std::runtime_error, with what the program wrote, if that does not come.
+    // Starts the program and the run of the main menu's first row: a new one, or the one that a prepared home
+    // holds, whose car must drive in the middle lane. Waits until that car stands on the road. Throws
+    // std::runtime_error, with what the program wrote, if that does not come.
     explicit PlayedGame(
         ScreenSize Screen = {}, const Environment &Settings = {}, const PreparedHome *Prepared = nullptr);
 
-    // Starts a new run from its row of the main menu, which is selected. False if its car does not come.
-    bool StartNewRun();
+    // Starts the run of the main menu's first row, which is selected. False if no car comes to the middle
+    // lane.
+    bool StartRun();
 
     // Brings the car one lane nearer to that one; nothing happens if it is there or cannot be seen.
-    void SteerTowards(const Picture &Seen, std::optional<int> Lane);
+    void SteerTowards(const Screenshot &Seen, std::optional<int> Lane);
 
     // Drives into one enemy car after the other until a picture satisfies Shows. False if none did in three
     // minutes, which is several times as long as three lives last.

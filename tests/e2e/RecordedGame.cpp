@@ -1,24 +1,13 @@
 #include "tests/e2e/RecordedGame.hpp"
 
-#include "store/SaveState.hpp"
-#include "tests/support/TemporaryHome.hpp"
+#include "tests/e2e/StoredFiles.hpp"
+#include "tools/desktop/WaitUntil.hpp"
 
-#include <fstream>
-#include <iterator>
-#include <stdexcept>
+#include <filesystem>
 
 namespace {
 
 constexpr const char *RecordingName = "recording.raw";
-
-std::string SavedText(const GameState &Run) {
-    const TemporaryHome home;
-    if (!WriteSaveState(Run)) {
-        throw std::runtime_error("the run cannot be saved");
-    }
-    std::ifstream file(home.FilePath(SaveStateFileName), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 Environment RecordingTo(const std::filesystem::path &File) {
     return {{"SDL_AUDIO_DRIVER", "disk"}, {"SDL_AUDIO_DISK_OUTPUT_FILE", File.string()},
@@ -27,22 +16,12 @@ Environment RecordingTo(const std::filesystem::path &File) {
 
 } // namespace
 
-GameState QuietRun() {
-    constexpr float never = 1000.0F;
-    GameState run;
-    run.HasRunState = true;
-    run.SpawnTimer = never;
-    run.ObstacleSpawnTimer = never;
-    run.ItemSpawnTimer = never;
-    return run;
-}
-
 RecordedGame::RecordedGame(const std::string &Options, const GameState *Run) {
     if (!Options.empty()) {
-        Home.Put("Config.ini", "[Audio]\r\n" + Options);
+        Home.Put(OptionsFile, "[Audio]\r\n" + Options);
     }
     if (Run != nullptr) {
-        Home.Put(SaveStateFileName, SavedText(*Run));
+        PutRun(Home, *Run);
     }
     Opened.emplace(ScreenSize{}, RecordingTo(Home.Path() / RecordingName), &Home);
 }
@@ -55,13 +34,15 @@ Sound RecordedGame::Heard() const {
     return ReadRecording(Home.Path() / RecordingName);
 }
 
+std::size_t RecordedGame::FramesSoFar() const {
+    return std::filesystem::file_size(Home.Path() / RecordingName) / BytesPerFrame;
+}
+
 bool RecordedGame::Listen(double Time) {
-    const std::size_t end = Heard().size() + static_cast<std::size_t>(Time * FrameRate);
-    return WaitUntil(
-        [&] {
-            return Heard().size() >= end;
-        },
-        PatientDeadline, std::chrono::milliseconds{20});
+    const std::size_t end = FramesSoFar() + static_cast<std::size_t>(Time * FrameRate);
+    return WaitUntil([&] {
+        return FramesSoFar() >= end;
+    });
 }
 
 bool RecordedGame::TapAndHear(Key Tapped, const Sight &Shows) {
@@ -70,17 +51,15 @@ bool RecordedGame::TapAndHear(Key Tapped, const Sight &Shows) {
 
 bool RecordedGame::HearMore() {
     constexpr std::size_t quiet = FrameRate / 5;
-    return WaitUntil(
-        [&] {
-            const Sound heard = Heard();
-            const std::vector<Stretch> sounds = FindSounds(heard, FinestStep);
-            if (sounds.size() <= KnownSounds || sounds.back().End + quiet > heard.size()) {
-                return false;
-            }
-            KnownSounds = sounds.size();
-            return true;
-        },
-        PatientDeadline, std::chrono::milliseconds{20});
+    return WaitUntil([&] {
+        const Sound heard = Heard();
+        const std::vector<Stretch> sounds = FindSounds(heard, FinestStep);
+        if (sounds.size() <= KnownSounds || sounds.back().End + quiet > heard.size()) {
+            return false;
+        }
+        KnownSounds = sounds.size();
+        return true;
+    });
 }
 
 std::size_t RecordedGame::SoundsSoFar() const {

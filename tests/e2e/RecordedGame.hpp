@@ -1,15 +1,12 @@
 #pragma once
 
-#include "state/GameState.hpp"
 #include "tests/e2e/OpenedGame.hpp"
+#include "tests/e2e/PreparedRun.hpp"
 #include "tests/e2e/Recording.hpp"
 #include "tools/desktop/PreparedHome.hpp"
 
 #include <optional>
 #include <string>
-
-// A run that can be continued, on a road on which nothing comes.
-GameState QuietRun();
 
 // The game on its main menu, with all that it sounds recorded in a file.
 class RecordedGame {
@@ -22,6 +19,8 @@ public:
 
     // All that the game has sounded up to now.
     Sound Heard() const;
+    // How many frames that is, without reading them.
+    std::size_t FramesSoFar() const;
     // Rests until Time seconds more are recorded. False if they are not within the patient deadline.
     bool Listen(double Time);
     // Taps the key as Tap does, and goes on when the game has sounded, and is quiet since. False if it shows

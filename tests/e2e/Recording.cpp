@@ -75,7 +75,7 @@ Sound ReadRecording(const std::filesystem::path &File) {
     const auto byte = [&bytes](std::size_t Index) {
         return static_cast<std::uint8_t>(bytes[Index]);
     };
-    Sound sound(bytes.size() / 4);
+    Sound sound(bytes.size() / BytesPerFrame);
     for (std::size_t i = 0; i < sound.size(); ++i) {
         sound[i] = {
             FromSixteenBits(byte(4 * i), byte(4 * i + 1)), FromSixteenBits(byte(4 * i + 2), byte(4 * i + 3))};

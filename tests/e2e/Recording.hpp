@@ -14,6 +14,8 @@ inline constexpr float FinestStep = 1.0F / 32768.0F;
 // How many frames the mixer makes at a time. What starts to sound does so at a multiple of it.
 inline constexpr std::size_t BlockFrames = 1024;
 
+inline constexpr std::size_t BytesPerFrame = 4; // in a recording
+
 struct Frame {
     float Left = 0.0F;
     float Right = 0.0F;

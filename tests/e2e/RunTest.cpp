@@ -6,7 +6,7 @@
 
 TEST(Run, TheHudStartsFull) {
     PlayedGame game;
-    const Picture seen = game.Person().Screenshot();
+    const Screenshot seen = game.Person().Look();
     EXPECT_EQ(HealthShown(seen), 110);
     EXPECT_EQ(AmmoShown(seen), 110);
     EXPECT_EQ(BombsShown(seen), 3);
@@ -18,24 +18,24 @@ TEST(Run, FiringEmptiesTheAmmoBarAndARestRefillsIt) {
     PlayedGame game;
     game.Person().PressKey(Key::LeftControl);
     // 33 salvos at most; a frame a salvo or more, so the bar goes down by 3.3 at a time.
-    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+    EXPECT_TRUE(game.WaitForPicture([](const Screenshot &Seen) {
         return AmmoShown(Seen) <= 4;
     }));
     game.Person().ReleaseKey(Key::LeftControl);
-    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+    EXPECT_TRUE(game.WaitForPicture([](const Screenshot &Seen) {
         return AmmoShown(Seen) >= 60;
     }));
 }
 
 TEST(Run, ABombGoesFromThePanel) {
     PlayedGame game;
-    EXPECT_TRUE(game.TapUntil(Key::X, [](const Picture &Seen) {
+    EXPECT_TRUE(game.TapUntil(Key::X, [](const Screenshot &Seen) {
         return BombsShown(Seen) == 2;
     }));
-    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+    EXPECT_TRUE(game.WaitForPicture([](const Screenshot &Seen) {
         return !SeesBlast(Seen);
     }));
-    EXPECT_EQ(BombsShown(game.Person().Screenshot()), 2);
+    EXPECT_EQ(BombsShown(game.Person().Look()), 2);
 }
 
 // A car that stands still and shoots for a while scores; one that then drives into the traffic loses its
@@ -45,24 +45,24 @@ TEST(Run, PlayedToItsDeathTheHudTellsAllOfIt) {
     PlayedGame game;
     game.Person().PressKey(Key::LeftControl);
     EXPECT_TRUE(game.WaitForPicture(
-        [](const Picture &Seen) {
+        [](const Screenshot &Seen) {
             return !ScoreIsZero(Seen) && ScoreEqualsHighScore(Seen);
         },
         patience));
     game.Person().ReleaseKey(Key::LeftControl);
-    EXPECT_TRUE(game.RamUntil([](const Picture &Seen) {
+    EXPECT_TRUE(game.RamUntil([](const Screenshot &Seen) {
         return HealthShown(Seen) < 110;
     }));
-    ASSERT_TRUE(game.RamUntil([](const Picture &Seen) {
+    ASSERT_TRUE(game.RamUntil([](const Screenshot &Seen) {
         return HealthShown(Seen) == 0;
     }));
     // The death animation runs out, the car is gone and the road stands still.
-    const std::optional<Picture> over = game.WaitForPicture(ScreenIs(SeenScreen::GameOver));
+    const std::optional<Screenshot> over = game.WaitForPicture(ScreenIs(SeenScreen::GameOver));
     ASSERT_TRUE(over);
     EXPECT_FALSE(FindCar(*over));
     EXPECT_EQ(HealthShown(*over), 0);
     EXPECT_FALSE(ScoreIsZero(*over));
-    EXPECT_TRUE(game.KeepsFor(std::chrono::milliseconds{1000}, [&over](const Picture &Seen) {
+    EXPECT_TRUE(game.KeepsFor(std::chrono::milliseconds{1000}, [&over](const Screenshot &Seen) {
         return Seen.Pixels == over->Pixels;
     })) << "something still moves";
     ASSERT_TRUE(game.Tap(Key::Return, FiveRowMenu(0)));

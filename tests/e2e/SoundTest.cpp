@@ -12,11 +12,11 @@ constexpr const char *MusicOff = "MusicEnabled=\"0\"";
 // The volume of the effects that the game starts with.
 constexpr float PlainGain = 0.75F;
 
-bool SeesShot(const Picture &Seen) {
+bool SeesShot(const Screenshot &Seen) {
     return !FindShots(Seen).empty();
 }
 
-bool SeesNoKit(const Picture &Seen) {
+bool SeesNoKit(const Screenshot &Seen) {
     return KitsShown(Seen) == 0;
 }
 
@@ -60,7 +60,7 @@ std::vector<Press> Tour() {
     };
 }
 
-// What a run on a quiet road comes upon by itself a good half second after it is continued.
+// What a run on a quiet road comes upon by itself a second or two after it is continued.
 struct Event {
     const char *Name;
     void (*Prepare)(GameState &Run);
@@ -72,17 +72,6 @@ void PrintTo(const Event &Shown, std::ostream *Out) {
     *Out << Shown.Name;
 }
 
-constexpr float MiddleOfTheRoad = 640.0F;
-
-void ShootUpwards(GameState &Run) {
-    Run.Bullets.push_back({.X = MiddleOfTheRoad, .Y = 640.0F, .Speed = 430.0F, .Radius = 2.0F});
-}
-
-void ShootDownwards(GameState &Run) {
-    Run.EnemyBullets.push_back(
-        {.X = MiddleOfTheRoad, .Y = 500.0F, .Speed = 190.0F, .Radius = 2.0F, .Damage = 10});
-}
-
 std::vector<Event> Events() {
     return {
         {"Hit", ShootDownwards, {HitSound}},
@@ -92,28 +81,24 @@ std::vector<Event> Events() {
                 Run.Player.Hp = 10;
             },
             {HitSound, DeathSound}},
-        {"Enemy",
-            [](GameState &Run) {
-                ShootUpwards(Run);
-                Run.Enemies.push_back(
-                    {.Y = 240.0F, .Speed = 100.0F, .AiTimer = 99.0F, .FireCooldown = 99.0F, .Color = {}});
-            },
-            {EnemySound}},
+        {"Enemy", ShootEnemy, {EnemySound}},
         {"Obstacle",
             [](GameState &Run) {
-                ShootUpwards(Run);
-                Run.Obstacles.push_back({.Y = 240.0F, .Hp = 1});
+                Run.Bullets.push_back({.X = 640.0F, .Y = 640.0F, .Speed = 430.0F, .Radius = 2.0F});
+                Run.Obstacles.push_back({.Y = 40.0F, .Hp = 1});
             },
             {ObstacleSound}},
         {"Item",
             [](GameState &Run) {
-                Run.Items.push_back({.Y = 540.0F, .Type = 1});
+                Run.Items.push_back({.Y = 440.0F, .Type = 1});
             },
             {ItemSound}},
     };
 }
 
-class SoundOf : public testing::TestWithParam<Event> {};
+class SoundEffects : public Measuring {};
+
+class SoundOf : public Measuring, public testing::WithParamInterface<Event> {};
 
 struct Volumes {
     const char *Name;
@@ -125,7 +110,7 @@ void PrintTo(const Volumes &Shown, std::ostream *Out) {
     *Out << Shown.Name;
 }
 
-class EffectVolume : public testing::TestWithParam<Volumes> {};
+class EffectVolume : public Measuring, public testing::WithParamInterface<Volumes> {};
 
 template <typename Parameter> std::string NameOf(const testing::TestParamInfo<Parameter> &Info) {
     return Info.param.Name;
@@ -134,7 +119,7 @@ template <typename Parameter> std::string NameOf(const testing::TestParamInfo<Pa
 } // namespace
 
 // A held control key fires again and again until a shot is seen; all other presses sound once.
-TEST(SoundEffects, EachPressSoundsByItsRecipe) {
+TEST_F(SoundEffects, EachPressSoundsByItsRecipe) {
     const GameState run = HurtRun();
     RecordedGame game(MusicOff, &run);
     const std::vector<Press> tour = Tour();
@@ -157,7 +142,7 @@ TEST(SoundEffects, EachPressSoundsByItsRecipe) {
 
 // A new run forgets the sounds that are asked for, that of the press that starts it too. The run is left
 // before its first traffic comes.
-TEST(SoundEffects, NewGameIsSilent) {
+TEST_F(SoundEffects, NewGameIsSilent) {
     RecordedGame game(MusicOff);
     ASSERT_TRUE(game.Game().Tap(Key::Return, ScreenIs(SeenScreen::Playing)));
     ASSERT_TRUE(game.Listen(0.5));
@@ -170,7 +155,7 @@ TEST(SoundEffects, NewGameIsSilent) {
 
 // The menu knows neither of its two keys, a kit is not spent at full health, and without bombs none is
 // thrown.
-TEST(SoundEffects, KeysThatDoNothingAreSilent) {
+TEST_F(SoundEffects, KeysThatDoNothingAreSilent) {
     GameState run = QuietRun();
     run.FirstAidKits = 1;
     run.Bombs = 0;
@@ -178,7 +163,7 @@ TEST(SoundEffects, KeysThatDoNothingAreSilent) {
     EXPECT_TRUE(game.Game().Ignores(Key::X, SixRowMenu(0)));
     EXPECT_TRUE(game.Game().Ignores(Key::Left, SixRowMenu(0)));
     ASSERT_TRUE(game.TapAndHear(Key::Return, ScreenIs(SeenScreen::Playing)));
-    EXPECT_TRUE(game.Game().Ignores(Key::Space, [](const Picture &Seen) {
+    EXPECT_TRUE(game.Game().Ignores(Key::Space, [](const Screenshot &Seen) {
         return KitsShown(Seen) == 1;
     }));
     EXPECT_TRUE(game.Game().Ignores(Key::X, ScreenIs(SeenScreen::Playing)));
@@ -219,7 +204,7 @@ INSTANTIATE_TEST_SUITE_P(SoundEffects, EffectVolume,
         Volumes{"CutDown", "MasterVolume=\"33\"\r\nSfxVolume=\"50\"", 16}),
     NameOf<Volumes>);
 
-TEST(SoundEffects, AreSilentWhenSwitchedOff) {
+TEST_F(SoundEffects, AreSilentWhenSwitchedOff) {
     const GameState run = HurtRun();
     RecordedGame game(std::string(MusicOff) + "\r\nSfxEnabled=\"0\"", &run);
     for (const Press &press : Tour()) {

@@ -23,18 +23,22 @@ void ExpectNear(const Area &Seen, const Area &Expected, int Tolerance) {
 }
 
 // Whether the ground beside the road reaches this column: it is earth, and nowhere black.
-bool IsGround(const Picture &Seen, int X) {
+bool IsGround(const Screenshot &Seen, int X) {
     const Area column{X, 0, X + 1, Seen.Height};
     return CountPixels(Seen, column, [](const Pixel &Dot) {
         return Dot == Pixel{};
     }) == 0;
 }
 
-// A screen of this size is filled by the game, with the road of 320 in its middle and ground on both sides.
+// A screen of this size is filled by the game, its menu goes by its keys, and a run has the road of 320 in
+// its middle and ground on both sides.
 void ExpectFillsScreen(ScreenSize Screen, RoadPlace Road) {
-    PlayedGame game(Screen);
+    OpenedGame game(Screen);
+    EXPECT_TRUE(game.Tap(Key::Down, FiveRowMenu(1)));
+    EXPECT_TRUE(game.Tap(Key::Up, FiveRowMenu(0)));
+    ASSERT_TRUE(game.Tap(Key::Return, CarInLane(4)));
     EXPECT_EQ(game.Window().Place, (Area{0, 0, Screen.Width, Screen.Height}));
-    const Picture seen = game.Person().Screenshot();
+    const Screenshot seen = game.Person().Look();
     EXPECT_EQ(FindRoad(seen), std::optional(Road));
     EXPECT_TRUE(IsGround(seen, 0));
     EXPECT_TRUE(IsGround(seen, Screen.Width - 1));
@@ -42,11 +46,6 @@ void ExpectFillsScreen(ScreenSize Screen, RoadPlace Road) {
 }
 
 } // namespace
-
-TEST(GameWindow, BearsNameAndVersionAsItsTitle) {
-    PlayedGame game;
-    EXPECT_EQ(game.Window().Title, "Kestrel Volley v0.1.0");
-}
 
 TEST(GameWindow, FillsAWideScreenOnTheFirstLaunch) {
     ExpectFillsScreen({1280, 720}, {480, 800});
@@ -62,15 +61,12 @@ TEST(GameWindow, FillsAVeryWideScreenOnTheFirstLaunch) {
 
 // The car's picture of 16 by 16 is drawn 31.2 wide around (640, 670), so each of its pixels is 1.95 wide. Its
 // body lies in the columns 4 to 11 and the rows 4 to 13: from 632.2 to 647.8, and from 662.2 to 681.7.
-TEST(GameWindow, ShowsTheCarAtTheFootOfTheMiddleLane) {
+TEST(GameWindow, BearsItsTitleShowsTheCarAtTheFootOfTheMiddleLaneAndCloses) {
     PlayedGame game;
-    const std::optional<Area> car = FindCar(game.Person().Screenshot());
+    EXPECT_EQ(game.Window().Title, "Kestrel Volley v0.1.0");
+    const std::optional<Area> car = FindCar(game.Person().Look());
     ASSERT_TRUE(car);
     ExpectNear(*car, {632, 662, 648, 682}, 1);
-}
-
-TEST(GameEnd, CloseRequestEndsTheGameWithResultZero) {
-    PlayedGame game;
     game.Person().RequestClose(game.Window());
     EXPECT_EQ(game.Program().WaitForExit(PatientDeadline), std::optional(0));
 }

@@ -39,7 +39,7 @@ LitSquares SquaresOf(std::string_view Text) {
     return squares;
 }
 
-bool Stands(const Picture &Seen, const LitSquares &Squares, Area Place, int Scale, Pixel Color) {
+bool Stands(const Screenshot &Seen, const LitSquares &Squares, Area Place, int Scale, Pixel Color) {
     for (int y = Place.Top; y < Place.Bottom; ++y) {
         for (int x = Place.Left - FreeColumns * Scale; x < Place.Right + FreeColumns * Scale; ++x) {
             // Shifted, so that what stands before the text rounds to columns before it.
@@ -56,7 +56,7 @@ bool Stands(const Picture &Seen, const LitSquares &Squares, Area Place, int Scal
 } // namespace
 
 bool ShowsText(
-    const Picture &Seen, std::string_view Text, int Top, int Scale, const std::vector<Pixel> &Colors) {
+    const Screenshot &Seen, std::string_view Text, int Top, int Scale, const std::vector<Pixel> &Colors) {
     const LitSquares squares = SquaresOf(Text);
     const int width = squares.Columns * Scale;
     for (int left = FreeColumns * Scale; left + width + FreeColumns * Scale <= Seen.Width; ++left) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/desktop/Picture.hpp"
+#include "tools/desktop/Screenshot.hpp"
 
 #include <string_view>
 #include <vector>
@@ -11,4 +11,4 @@
 // Whether the text stands somewhere in the row of letters that begins at Top, in squares of Scale pixels and
 // in one of these colours, with nothing of that colour right before or behind it: ON is not found in ONE.
 bool ShowsText(
-    const Picture &Seen, std::string_view Text, int Top, int Scale, const std::vector<Pixel> &Colors);
+    const Screenshot &Seen, std::string_view Text, int Top, int Scale, const std::vector<Pixel> &Colors);

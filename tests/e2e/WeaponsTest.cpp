@@ -5,14 +5,14 @@
 
 namespace {
 
-bool SeesShot(const Picture &Seen) {
+bool SeesShot(const Screenshot &Seen) {
     return !FindShots(Seen).empty();
 }
 
 // Holds Ctrl until a shot is seen: the shots that fly then, each as the area of its pixels, topmost first.
 std::vector<Area> FireUntilSeen(PlayedGame &Game) {
     Game.Person().PressKey(Key::LeftControl);
-    const std::optional<Picture> seen = Game.WaitForPicture(SeesShot);
+    const std::optional<Screenshot> seen = Game.WaitForPicture(SeesShot);
     Game.Person().ReleaseKey(Key::LeftControl);
     return seen ? FindShots(*seen) : std::vector<Area>{};
 }
@@ -44,11 +44,11 @@ TEST(Weapons, ShotsFlyUpAndLeaveTheScreen) {
     const std::vector<Area> shots = FireUntilSeen(game);
     ASSERT_FALSE(shots.empty());
     const int start = shots.front().Top;
-    EXPECT_TRUE(game.WaitForPicture([start](const Picture &Seen) {
+    EXPECT_TRUE(game.WaitForPicture([start](const Screenshot &Seen) {
         const std::vector<Area> now = FindShots(Seen);
         return !now.empty() && now.front().Top < start - 60;
     }));
-    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+    EXPECT_TRUE(game.WaitForPicture([](const Screenshot &Seen) {
         return !SeesShot(Seen);
     }));
 }
@@ -56,7 +56,7 @@ TEST(Weapons, ShotsFlyUpAndLeaveTheScreen) {
 TEST(Weapons, HeldControlGoesOnFiring) {
     PlayedGame game;
     game.Person().PressKey(Key::LeftControl);
-    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+    EXPECT_TRUE(game.WaitForPicture([](const Screenshot &Seen) {
         return FindShots(Seen).size() >= 5;
     }));
 }
@@ -67,7 +67,7 @@ TEST(Weapons, ShotsKeepTheirLaneWhenTheCarLeavesIt) {
     ASSERT_TRUE(game.WaitForPicture(SeesShot));
     game.Person().ReleaseKey(Key::LeftControl);
     game.Person().PressKey(Key::Left);
-    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+    EXPECT_TRUE(game.WaitForPicture([](const Screenshot &Seen) {
         const std::vector<Area> shots = FindShots(Seen);
         return !CarInLane(4)(Seen) && FindCarLane(Seen) && !shots.empty() && shots.front().Left >= 638 &&
                shots.front().Left <= 640;
@@ -76,13 +76,13 @@ TEST(Weapons, ShotsKeepTheirLaneWhenTheCarLeavesIt) {
 
 TEST(Weapons, BombLightsTheRoadAroundTheCarAndFades) {
     PlayedGame game;
-    ASSERT_TRUE(game.StaysFor(10, [](const Picture &Seen) {
+    ASSERT_TRUE(game.StaysFor(10, [](const Screenshot &Seen) {
         return !SeesBlast(Seen);
     }));
     game.Person().PressKey(Key::X);
     EXPECT_TRUE(game.WaitForPicture(SeesBlast));
     game.Person().ReleaseKey(Key::X);
-    EXPECT_TRUE(game.WaitForPicture([](const Picture &Seen) {
+    EXPECT_TRUE(game.WaitForPicture([](const Screenshot &Seen) {
         return !SeesBlast(Seen) && FindCar(Seen);
     }));
     EXPECT_EQ(game.Close(), std::optional(0));

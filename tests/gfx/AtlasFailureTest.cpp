@@ -1,7 +1,7 @@
 #include "gfx/Atlas.hpp"
 
 #include "tests/gfx/GfxTest.hpp"
-#include "tests/gfx/SdlCalls.hpp"
+#include "tests/gfx/LivingThings.hpp"
 
 class AtlasFailure : public GfxTest {
 protected:
@@ -9,25 +9,26 @@ protected:
         DestroyTextureAtlas();
     }
 
-    void ExpectNoAtlasWhile(SdlCall Call) {
-        const int textures = LivingTextures();
-        {
-            const FailingCall failing(Call);
-            EXPECT_FALSE(BuildTextureAtlas(Renderer()));
-        }
-        EXPECT_STREQ(SDL_GetError(), FailingCallError);
+    template <typename Call> void ExpectNoAtlasWithout(Call &Failing) {
+        const int textures = LivingTextures(Watch);
+        Failing.Refuse();
+        EXPECT_FALSE(BuildTextureAtlas(Renderer()));
+        Failing.Refuse(0);
+        EXPECT_STREQ(SDL_GetError(), CallWatch::RefusalText);
         EXPECT_EQ(SpriteAtlas.Texture, nullptr);
-        EXPECT_EQ(LivingTextures(), textures);
+        EXPECT_EQ(LivingTextures(Watch), textures);
         EXPECT_EQ(SDL_GetRenderTarget(Renderer()), nullptr);
     }
+
+    SdlWatch Watch;
 };
 
 TEST_F(AtlasFailure, WithoutATextureLeavesTheAtlasEmpty) {
-    ExpectNoAtlasWhile(SdlCall::CreateTexture);
+    ExpectNoAtlasWithout(Watch.CreateTexture);
 }
 
 TEST_F(AtlasFailure, WithATextureThatCannotBeDrawnToDestroysItAndLeavesTheAtlasEmpty) {
-    ExpectNoAtlasWhile(SdlCall::SetRenderTarget);
+    ExpectNoAtlasWithout(Watch.SetRenderTarget);
 }
 
 TEST_F(AtlasFailure, WithoutARendererLeavesTheAtlasEmpty) {
@@ -36,7 +37,7 @@ TEST_F(AtlasFailure, WithoutARendererLeavesTheAtlasEmpty) {
 }
 
 TEST_F(AtlasFailure, IsFollowedByABuildThatSucceeds) {
-    ExpectNoAtlasWhile(SdlCall::SetRenderTarget);
+    ExpectNoAtlasWithout(Watch.SetRenderTarget);
     EXPECT_TRUE(BuildTextureAtlas(Renderer()));
     EXPECT_NE(SpriteAtlas.Texture, nullptr);
 }

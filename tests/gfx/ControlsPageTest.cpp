@@ -1,6 +1,8 @@
 #include "tests/gfx/OptionsPageTest.hpp"
 
 #include <functional>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -50,6 +52,32 @@ ToldPage Prompting(ToldPage Told, const std::u32string &Prompt) {
     Told.FirstHint = Prompt;
     Told.FirstHintColor = PromptColor;
     Told.SecondHint = U"ESC CANCEL   DEL CLEAR";
+    return Told;
+}
+
+/// Other words for all the texts of this page.
+constexpr std::pair<const char *, const char *> Translation[] = {{"Options.Title", "T"},
+    {"Options.Section.Controls", "S"}, {"Options.Controls.Device", "D"}, {"Device.Keyboard", "DK"},
+    {"Device.Gamepad", "DG"}, {"Device.Joystick", "DJ"}, {"Common.On", "JA"}, {"Common.Off", "NEIN"},
+    {"Action.MoveLeft", "AL"}, {"Action.MoveRight", "AR"}, {"Action.Fire", "AF"}, {"Action.Bomb", "AB"},
+    {"Action.Heal", "AH"}, {"Action.Confirm", "AC"}, {"Action.Back", "AZ"}, {"Options.DefaultSettings", "V1"},
+    {"Common.Apply", "V2"}, {"Common.Revert", "V3"}, {"Common.Back", "V4"},
+    {"Options.Controls.Hint.RebindDevice", "H1"}, {"Options.Controls.Hint.EscBack", "H2"},
+    {"Options.Controls.Hint.EscCancelDelClear", "H3"}, {"Options.Controls.BindPrompt.Keyboard", "PK "},
+    {"Options.Controls.BindPrompt.Gamepad", "PG "}, {"Options.Controls.BindPrompt.Joystick", "PJ "},
+    {"Options.Controls.BindPrompt.Any", "PA"}, {"Controller.Hint.Select", "C1"},
+    {"Controller.Hint.Back", "C2"}, {"Controls.ButtonPrefix", "NR"}};
+
+/// A page with a gamepad plugged in, in those words but for its actions, bindings and device.
+ToldPage Translated(ToldPage Told) {
+    Told.Title = U"T";
+    Told.Section = U"S";
+    Told.Rows[0].Label = U"D";
+    for (std::size_t i = 0; i < 4; ++i) {
+        Told.Rows[6 + i].Label = std::u32string(U"V") + static_cast<char32_t>(U'1' + i);
+    }
+    Told.FirstHint = U"H1";
+    Told.SecondHint = U"PAD A C1 B C2";
     return Told;
 }
 
@@ -293,36 +321,15 @@ TEST_F(ControlsPage, TakesEachOfItsTextsFromTheTableInEveryFrame) {
     ToldPage told = KeyboardPage();
     told.SecondHint = PageDeviceCases[1].Line;
     ASSERT_TRUE(Shows(told));
-    Localization.Texts = {{"Options.Title", "T"}, {"Options.Section.Controls", "S"},
-        {"Options.Controls.Device", "D"}, {"Device.Keyboard", "DK"}, {"Device.Gamepad", "DG"},
-        {"Device.Joystick", "DJ"}, {"Common.On", "JA"}, {"Common.Off", "NEIN"}, {"Action.MoveLeft", "AL"},
-        {"Action.MoveRight", "AR"}, {"Action.Fire", "AF"}, {"Action.Bomb", "AB"}, {"Action.Heal", "AH"},
-        {"Action.Confirm", "AC"}, {"Action.Back", "AZ"}, {"Options.DefaultSettings", "V1"},
-        {"Common.Apply", "V2"}, {"Common.Revert", "V3"}, {"Common.Back", "V4"},
-        {"Options.Controls.Hint.RebindDevice", "H1"}, {"Options.Controls.Hint.EscBack", "H2"},
-        {"Options.Controls.Hint.EscCancelDelClear", "H3"}, {"Options.Controls.BindPrompt.Keyboard", "PK "},
-        {"Options.Controls.BindPrompt.Gamepad", "PG "}, {"Options.Controls.BindPrompt.Joystick", "PJ "},
-        {"Options.Controls.BindPrompt.Any", "PA"}, {"Controller.Hint.Select", "C1"},
-        {"Controller.Hint.Back", "C2"}, {"Controls.ButtonPrefix", "NR"}};
+    Localization.Texts = {std::begin(Translation), std::end(Translation)};
     const std::vector<std::u32string> keyActions{U"AL", U"AR", U"AF", U"AB", U"AH"};
     const std::vector<std::u32string> padActions{U"AF", U"AB", U"AH", U"AC", U"AZ"};
-    const auto translated = [](ToldPage Told) {
-        Told.Title = U"T";
-        Told.Section = U"S";
-        Told.Rows[0].Label = U"D";
-        for (std::size_t i = 0; i < 4; ++i) {
-            Told.Rows[6 + i].Label = std::u32string(U"V") + static_cast<char32_t>(U'1' + i);
-        }
-        Told.FirstHint = U"H1";
-        Told.SecondHint = U"PAD A C1 B C2";
-        return Told;
-    };
-    EXPECT_TRUE(Shows(translated(Page(U"DK", keyActions, DefaultKeys))));
+    EXPECT_TRUE(Shows(Translated(Page(U"DK", keyActions, DefaultKeys))));
     State.ControlsDevice = ControlsDeviceGamepad;
-    EXPECT_TRUE(Shows(translated(Page(U"DG (JA)", padActions, DefaultPad))));
+    EXPECT_TRUE(Shows(Translated(Page(U"DG (JA)", padActions, DefaultPad))));
     State.ControlsDevice = ControlsDeviceJoystick;
     const ToldPage joystick =
-        translated(Page(U"DJ (NEIN)", padActions, {U"NR 0", U"NR 1", U"NR 2", U"NR 0", U"NR 3"}));
+        Translated(Page(U"DJ (NEIN)", padActions, {U"NR 0", U"NR 1", U"NR 2", U"NR 0", U"NR 3"}));
     EXPECT_TRUE(Shows(joystick));
     for (const int kind : {0, 1, 2, 3}) {
         Capture(kind, 1);

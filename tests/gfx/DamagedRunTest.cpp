@@ -4,7 +4,6 @@
 
 #include <chrono>
 #include <cmath>
-#include <functional>
 #include <limits>
 
 // A damaged file may put any number into a run. Whatever stands there, drawing ends, soon, and what is sound
@@ -36,217 +35,98 @@ GameState SoundRun() {
     return state;
 }
 
-using FloatField = std::function<float &(GameState &)>;
-using IntegerField = std::function<std::int32_t &(GameState &)>;
+template <auto Field> auto &InRun(GameState &State) {
+    return State.*Field;
+}
 
-const FloatField RunFloats[] = {
-    [](GameState &S) -> float & {
-        return S.GameTime;
-    },
-    [](GameState &S) -> float & {
-        return S.RoadScroll;
-    },
-    [](GameState &S) -> float & {
-        return S.StageTransition;
-    },
-    [](GameState &S) -> float & {
-        return S.CurrentScrollSpeed;
-    },
-    [](GameState &S) -> float & {
-        return S.SpawnTimer;
-    },
-    [](GameState &S) -> float & {
-        return S.ObstacleSpawnTimer;
-    },
-    [](GameState &S) -> float & {
-        return S.ItemSpawnTimer;
-    },
-    [](GameState &S) -> float & {
-        return S.ReadyBanner;
-    },
-    [](GameState &S) -> float & {
-        return S.InvulnerabilityTimer;
-    },
-    [](GameState &S) -> float & {
-        return S.LaneMoveCooldown;
-    },
-    [](GameState &S) -> float & {
-        return S.AmmoRegenPause;
-    },
-    [](GameState &S) -> float & {
-        return S.AmmoMeter;
-    },
-    [](GameState &S) -> float & {
-        return S.SpecialTimer;
-    },
-    [](GameState &S) -> float & {
-        return S.InvincibilityPowerTimer;
-    },
-    [](GameState &S) -> float & {
-        return S.DualWeaponPowerTimer;
-    },
-    [](GameState &S) -> float & {
-        return S.DeathTimer;
-    },
-    [](GameState &S) -> float & {
-        return S.Player.X;
-    },
-    [](GameState &S) -> float & {
-        return S.Player.Y;
-    },
-    [](GameState &S) -> float & {
-        return S.Player.Radius;
-    },
-    [](GameState &S) -> float & {
-        return S.Player.FireCooldown;
-    },
+template <auto Field> auto &InPlayer(GameState &State) {
+    return State.Player.*Field;
+}
+
+/// In the first entry of a list.
+template <auto List, auto Field> auto &InFirst(GameState &State) {
+    return (State.*List).front().*Field;
+}
+
+template <typename Number> struct RunField {
+    const char *Name;
+    Number &(*In)(GameState &);
 };
 
-const FloatField ListFloats[] = {
-    [](GameState &S) -> float & {
-        return S.Items[0].X;
-    },
-    [](GameState &S) -> float & {
-        return S.Items[0].Y;
-    },
-    [](GameState &S) -> float & {
-        return S.Items[0].Speed;
-    },
-    [](GameState &S) -> float & {
-        return S.Items[0].Radius;
-    },
-    [](GameState &S) -> float & {
-        return S.Obstacles[0].X;
-    },
-    [](GameState &S) -> float & {
-        return S.Obstacles[0].Y;
-    },
-    [](GameState &S) -> float & {
-        return S.Obstacles[0].Speed;
-    },
-    [](GameState &S) -> float & {
-        return S.Obstacles[0].Width;
-    },
-    [](GameState &S) -> float & {
-        return S.Obstacles[0].Height;
-    },
-    [](GameState &S) -> float & {
-        return S.Obstacles[0].HitFlash;
-    },
-    [](GameState &S) -> float & {
-        return S.Bullets[0].X;
-    },
-    [](GameState &S) -> float & {
-        return S.Bullets[0].Y;
-    },
-    [](GameState &S) -> float & {
-        return S.Bullets[0].Speed;
-    },
-    [](GameState &S) -> float & {
-        return S.Bullets[0].Radius;
-    },
-    [](GameState &S) -> float & {
-        return S.EnemyBullets[0].X;
-    },
-    [](GameState &S) -> float & {
-        return S.EnemyBullets[0].Y;
-    },
-    [](GameState &S) -> float & {
-        return S.EnemyBullets[0].Speed;
-    },
-    [](GameState &S) -> float & {
-        return S.EnemyBullets[0].Radius;
-    },
-    [](GameState &S) -> float & {
-        return S.Enemies[0].X;
-    },
-    [](GameState &S) -> float & {
-        return S.Enemies[0].Y;
-    },
-    [](GameState &S) -> float & {
-        return S.Enemies[0].Speed;
-    },
-    [](GameState &S) -> float & {
-        return S.Enemies[0].Radius;
-    },
-    [](GameState &S) -> float & {
-        return S.Enemies[0].HitFlash;
-    },
-    [](GameState &S) -> float & {
-        return S.Enemies[0].AiTimer;
-    },
-    [](GameState &S) -> float & {
-        return S.Enemies[0].FireCooldown;
-    },
-    [](GameState &S) -> float & {
-        return S.Explosions[0].X;
-    },
-    [](GameState &S) -> float & {
-        return S.Explosions[0].Y;
-    },
-    [](GameState &S) -> float & {
-        return S.Explosions[0].Age;
-    },
-    [](GameState &S) -> float & {
-        return S.Explosions[0].Life;
-    },
-    [](GameState &S) -> float & {
-        return S.Explosions[0].MaxRadius;
-    },
+constexpr RunField<float> RunFloats[] = {
+    {"GameTime", InRun<&GameState::GameTime>},
+    {"RoadScroll", InRun<&GameState::RoadScroll>},
+    {"StageTransition", InRun<&GameState::StageTransition>},
+    {"CurrentScrollSpeed", InRun<&GameState::CurrentScrollSpeed>},
+    {"SpawnTimer", InRun<&GameState::SpawnTimer>},
+    {"ObstacleSpawnTimer", InRun<&GameState::ObstacleSpawnTimer>},
+    {"ItemSpawnTimer", InRun<&GameState::ItemSpawnTimer>},
+    {"ReadyBanner", InRun<&GameState::ReadyBanner>},
+    {"InvulnerabilityTimer", InRun<&GameState::InvulnerabilityTimer>},
+    {"LaneMoveCooldown", InRun<&GameState::LaneMoveCooldown>},
+    {"AmmoRegenPause", InRun<&GameState::AmmoRegenPause>},
+    {"AmmoMeter", InRun<&GameState::AmmoMeter>},
+    {"SpecialTimer", InRun<&GameState::SpecialTimer>},
+    {"InvincibilityPowerTimer", InRun<&GameState::InvincibilityPowerTimer>},
+    {"DualWeaponPowerTimer", InRun<&GameState::DualWeaponPowerTimer>},
+    {"DeathTimer", InRun<&GameState::DeathTimer>},
+    {"Player.X", InPlayer<&Player::X>},
+    {"Player.Y", InPlayer<&Player::Y>},
+    {"Player.Radius", InPlayer<&Player::Radius>},
+    {"Player.FireCooldown", InPlayer<&Player::FireCooldown>},
 };
 
-const IntegerField Integers[] = {
-    [](GameState &S) -> std::int32_t & {
-        return S.Stage;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.PreviousStage;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.WaterFlowDirection;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.PreviousWaterFlowDirection;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.PlayerLane;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.Bombs;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.FirstAidKits;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.Player.Hp;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.Player.MaxHp;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.Player.Stocks;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.Items[0].Type;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.Items[0].Lane;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.Obstacles[0].Type;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.Obstacles[0].Hp;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.Enemies[0].Hp;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.Enemies[0].Lane;
-    },
-    [](GameState &S) -> std::int32_t & {
-        return S.EnemyBullets[0].Damage;
-    },
+constexpr RunField<float> ListFloats[] = {
+    {"Items[0].X", InFirst<&GameState::Items, &Item::X>},
+    {"Items[0].Y", InFirst<&GameState::Items, &Item::Y>},
+    {"Items[0].Speed", InFirst<&GameState::Items, &Item::Speed>},
+    {"Items[0].Radius", InFirst<&GameState::Items, &Item::Radius>},
+    {"Obstacles[0].X", InFirst<&GameState::Obstacles, &Obstacle::X>},
+    {"Obstacles[0].Y", InFirst<&GameState::Obstacles, &Obstacle::Y>},
+    {"Obstacles[0].Speed", InFirst<&GameState::Obstacles, &Obstacle::Speed>},
+    {"Obstacles[0].Width", InFirst<&GameState::Obstacles, &Obstacle::Width>},
+    {"Obstacles[0].Height", InFirst<&GameState::Obstacles, &Obstacle::Height>},
+    {"Obstacles[0].HitFlash", InFirst<&GameState::Obstacles, &Obstacle::HitFlash>},
+    {"Bullets[0].X", InFirst<&GameState::Bullets, &Bullet::X>},
+    {"Bullets[0].Y", InFirst<&GameState::Bullets, &Bullet::Y>},
+    {"Bullets[0].Speed", InFirst<&GameState::Bullets, &Bullet::Speed>},
+    {"Bullets[0].Radius", InFirst<&GameState::Bullets, &Bullet::Radius>},
+    {"EnemyBullets[0].X", InFirst<&GameState::EnemyBullets, &EnemyBullet::X>},
+    {"EnemyBullets[0].Y", InFirst<&GameState::EnemyBullets, &EnemyBullet::Y>},
+    {"EnemyBullets[0].Speed", InFirst<&GameState::EnemyBullets, &EnemyBullet::Speed>},
+    {"EnemyBullets[0].Radius", InFirst<&GameState::EnemyBullets, &EnemyBullet::Radius>},
+    {"Enemies[0].X", InFirst<&GameState::Enemies, &Enemy::X>},
+    {"Enemies[0].Y", InFirst<&GameState::Enemies, &Enemy::Y>},
+    {"Enemies[0].Speed", InFirst<&GameState::Enemies, &Enemy::Speed>},
+    {"Enemies[0].Radius", InFirst<&GameState::Enemies, &Enemy::Radius>},
+    {"Enemies[0].HitFlash", InFirst<&GameState::Enemies, &Enemy::HitFlash>},
+    {"Enemies[0].AiTimer", InFirst<&GameState::Enemies, &Enemy::AiTimer>},
+    {"Enemies[0].FireCooldown", InFirst<&GameState::Enemies, &Enemy::FireCooldown>},
+    {"Explosions[0].X", InFirst<&GameState::Explosions, &Explosion::X>},
+    {"Explosions[0].Y", InFirst<&GameState::Explosions, &Explosion::Y>},
+    {"Explosions[0].Age", InFirst<&GameState::Explosions, &Explosion::Age>},
+    {"Explosions[0].Life", InFirst<&GameState::Explosions, &Explosion::Life>},
+    {"Explosions[0].MaxRadius", InFirst<&GameState::Explosions, &Explosion::MaxRadius>},
+};
+
+constexpr RunField<std::int32_t> Integers[] = {
+    {"Stage", InRun<&GameState::Stage>},
+    {"PreviousStage", InRun<&GameState::PreviousStage>},
+    {"WaterFlowDirection", InRun<&GameState::WaterFlowDirection>},
+    {"PreviousWaterFlowDirection", InRun<&GameState::PreviousWaterFlowDirection>},
+    {"PlayerLane", InRun<&GameState::PlayerLane>},
+    {"Bombs", InRun<&GameState::Bombs>},
+    {"FirstAidKits", InRun<&GameState::FirstAidKits>},
+    {"Player.Hp", InPlayer<&Player::Hp>},
+    {"Player.MaxHp", InPlayer<&Player::MaxHp>},
+    {"Player.Stocks", InPlayer<&Player::Stocks>},
+    {"Items[0].Type", InFirst<&GameState::Items, &Item::Type>},
+    {"Items[0].Lane", InFirst<&GameState::Items, &Item::Lane>},
+    {"Obstacles[0].Type", InFirst<&GameState::Obstacles, &Obstacle::Type>},
+    {"Obstacles[0].Hp", InFirst<&GameState::Obstacles, &Obstacle::Hp>},
+    {"Enemies[0].Hp", InFirst<&GameState::Enemies, &Enemy::Hp>},
+    {"Enemies[0].Lane", InFirst<&GameState::Enemies, &Enemy::Lane>},
+    {"EnemyBullets[0].Damage", InFirst<&GameState::EnemyBullets, &EnemyBullet::Damage>},
 };
 
 } // namespace
@@ -286,11 +166,11 @@ TEST_F(DamagedRun, IsSoundWithoutDamage) {
 }
 
 TEST_F(DamagedRun, IsDrawnWithAnyFloatInTheRun) {
-    for (const FloatField &field : RunFloats) {
+    for (const RunField<float> &field : RunFloats) {
         for (const float bad : BadFloats) {
             GameState state = SoundRun();
-            field(state) = bad;
-            SCOPED_TRACE(::testing::Message() << "field " << &field - RunFloats << " is " << bad);
+            field.In(state) = bad;
+            SCOPED_TRACE(::testing::Message() << field.Name << " is " << bad);
             DrawPromptly(state);
             ExpectSoundThings(Shown());
         }
@@ -298,11 +178,11 @@ TEST_F(DamagedRun, IsDrawnWithAnyFloatInTheRun) {
 }
 
 TEST_F(DamagedRun, IsDrawnWithAnyFloatInTheLists) {
-    for (const FloatField &field : ListFloats) {
+    for (const RunField<float> &field : ListFloats) {
         for (const float bad : BadFloats) {
             GameState state = SoundRun();
-            field(state) = bad;
-            SCOPED_TRACE(::testing::Message() << "field " << &field - ListFloats << " is " << bad);
+            field.In(state) = bad;
+            SCOPED_TRACE(::testing::Message() << field.Name << " is " << bad);
             DrawPromptly(state);
         }
     }
@@ -311,11 +191,11 @@ TEST_F(DamagedRun, IsDrawnWithAnyFloatInTheLists) {
 }
 
 TEST_F(DamagedRun, IsDrawnWithAnyWholeNumber) {
-    for (const IntegerField &field : Integers) {
+    for (const RunField<std::int32_t> &field : Integers) {
         for (const std::int32_t bad : BadIntegers) {
             GameState state = SoundRun();
-            field(state) = bad;
-            SCOPED_TRACE(::testing::Message() << "field " << &field - Integers << " is " << bad);
+            field.In(state) = bad;
+            SCOPED_TRACE(::testing::Message() << field.Name << " is " << bad);
             DrawPromptly(state);
             ExpectSoundThings(Shown());
         }

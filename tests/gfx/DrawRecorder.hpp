@@ -1,6 +1,6 @@
 #pragma once
 
-#include <SDL3/SDL.h>
+#include "tests/support/watch/SdlWatch.hpp"
 
 #include <vector>
 
@@ -17,11 +17,10 @@ struct DrawnFrame {
     std::vector<SDL_FRect> Sprites;
 };
 
-/// While it lives, rectangles and sprites are written down here instead of being drawn. Only one lives at a
-/// time.
+/// While it lives, a watch writes rectangles and sprites down here instead of letting them be drawn.
 class DrawRecorder {
 public:
-    DrawRecorder();
+    explicit DrawRecorder(SdlWatch &Answering);
     ~DrawRecorder();
     DrawRecorder(const DrawRecorder &) = delete;
     DrawRecorder &operator=(const DrawRecorder &) = delete;
@@ -30,18 +29,8 @@ public:
     /// squares, or for one rectangle.
     DrawnFrame Frame() const;
 
-    // For the watched calls themselves.
-    void SetColor() {
-        Things.emplace_back();
-    }
-    void FillRect(const SDL_FRect &Rectangle) {
-        Things.back().push_back(Rectangle);
-    }
-    void DrawSprite(const SDL_FRect &Rectangle) {
-        Sprites.push_back(Rectangle);
-    }
-
 private:
+    SdlWatch &Watch;
     std::vector<std::vector<SDL_FRect>> Things;
     std::vector<SDL_FRect> Sprites;
 };

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <unordered_map>
 #include <vector>
 
 /// What a frame must show, pixel by pixel, worked out from the art's master list and the rules of drawing
@@ -18,6 +19,9 @@
 class ExpectedPicture {
 public:
     ExpectedPicture(int Width, int Height, std::uint32_t Background = Backdrop);
+
+    /// What a picture shows, to be met exactly.
+    explicit ExpectedPicture(const Picture &Ground);
 
     /// An opaque rectangle of whole pixels.
     void Fill(int X, int Y, int W, int H, std::uint32_t PackedColor);
@@ -47,12 +51,14 @@ public:
     ::testing::AssertionResult IsShownBy(const Picture &Shown, SDL_Rect Area) const;
 
 private:
+    /// All that one pixel may show.
     struct Pixel {
         std::array<std::uint32_t, 8> Colors{};
         std::size_t Count = 0;
         int Tolerance = 0; ///< per channel: above 0 where colours are blended
 
         void Allow(std::uint32_t PackedColor);
+        void AllowAll(const Pixel &Other);
         bool Allows(std::uint32_t PackedColor) const;
     };
 
@@ -63,17 +69,25 @@ private:
     };
 
     static TexelRange TexelsAt(double Place, double Length, double Slack);
+    static std::vector<TexelRange> TiledTexels(int Length, int Offset, int Spacing, int TileLength);
     bool Holds(int X, int Y) const;
-    Pixel &PixelAt(int X, int Y);
-    const Pixel &PixelAt(int X, int Y) const;
+    SDL_Rect Held(int X, int Y, int W, int H) const;
+    std::size_t PlaceOf(int X, int Y) const;
+    bool IsAmbiguous(std::size_t Place) const;
+    bool Allows(std::size_t Place, std::uint32_t PackedColor) const;
+    Pixel PixelAt(std::size_t Place) const;
+    void PutPixel(std::size_t Place, const Pixel &NewPixel);
     void PutTexels(int X, int Y, std::int32_t Id, TexelRange Columns, TexelRange Rows);
     void PutRedTexels(int X, int Y, std::int32_t Id, TexelRange Columns, TexelRange Rows, int Alpha);
     void PutFlashedTexels(int X, int Y, std::int32_t Id, TexelRange Columns, TexelRange Rows, int Alpha);
     template <typename Put> void ForEachTexel(float CenterX, float CenterY, int W, int H, Put PutTexel);
-    void Blend(int X, int Y, std::uint32_t PackedColor);
+    void BlendAmbiguous(std::size_t Place, std::uint32_t PackedColor);
     void DiscRow(int CenterX, int Y, double Half, std::uint32_t PackedColor);
 
     int PixelWidth;
     int PixelHeight;
-    std::vector<Pixel> Pixels;
+    // Row by row; the few pixels that may show one of several colours are marked in Tolerances and looked up.
+    std::vector<std::uint32_t> Colors;
+    std::vector<std::int16_t> Tolerances;
+    std::unordered_map<std::size_t, Pixel> Ambiguous;
 };

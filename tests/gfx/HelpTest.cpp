@@ -159,9 +159,10 @@ TEST_F(Help, LetsNamesOverlapRatherThanLeaveTheScreen) {
     NameItems({name.c_str(), name.c_str(), name.c_str(), name.c_str()});
     constexpr std::u32string_view letters = U"ABCDEFGHIJKLMNOPQRSTUVWXYZ12345";
     EXPECT_TRUE(Shows({.Width = 960, .Step = 162.0, .Names = {letters, letters, letters, letters}}));
+    const Picture shown = Shown();
     for (const int x : {19, 940}) { // the margin of 20 stays free
         for (int y = 246; y < 300; ++y) {
-            ASSERT_EQ(Shown().At(x, y), 0xFF000000) << x << ", " << y;
+            ASSERT_EQ(shown.At(x, y), 0xFF000000) << x << ", " << y;
         }
     }
     OpenWidth(2560);

@@ -2,13 +2,27 @@
 
 #include "tests/gfx/Art.hpp"
 #include "tests/gfx/GfxTest.hpp"
-#include "tests/gfx/SdlCalls.hpp"
+#include "tests/gfx/LivingThings.hpp"
+
+#include <optional>
+
+/// What SDL_SetWindowIcon was given, and what it answered.
+struct GivenIcon {
+    SDL_Window *Window;
+    SDL_PixelFormat Format;
+    Picture Pixels;
+    bool Answer;
+};
 
 class WindowIcon : public GfxTest {
 protected:
     WindowIcon() : Window(SDL_CreateWindow("icon", 64, 64, SDL_WINDOW_HIDDEN)) {
         EXPECT_NE(Window, nullptr) << SDL_GetError();
-        LastIcon.reset();
+        Watch.SetWindowIcon.Answer = [this](SDL_Window *Receiver, SDL_Surface *Icon) {
+            const bool answer = SDL_SetWindowIcon(Receiver, Icon);
+            LastIcon = GivenIcon{Receiver, Icon->format, Picture(Icon), answer};
+            return answer;
+        };
     }
     ~WindowIcon() override {
         SDL_DestroyWindow(Window);
@@ -16,19 +30,21 @@ protected:
 
     /// The icon fails, leaks nothing, and leaves the window as the render target.
     void ExpectFailure() {
-        const int surfaces = LivingSurfaces();
+        const int surfaces = LivingSurfaces(Watch);
         EXPECT_FALSE(SetWindowIconFromAtlas(Window, Renderer()));
-        EXPECT_EQ(LivingSurfaces(), surfaces);
+        EXPECT_EQ(LivingSurfaces(Watch), surfaces);
         EXPECT_EQ(SDL_GetRenderTarget(Renderer()), nullptr);
     }
 
-    void ExpectFailureWhile(SdlCall Call) {
-        const FailingCall failing(Call);
+    template <typename Call> void ExpectFailureWithout(Call &Failing) {
+        Failing.Refuse();
         ExpectFailure();
-        EXPECT_STREQ(SDL_GetError(), FailingCallError);
+        EXPECT_STREQ(SDL_GetError(), CallWatch::RefusalText);
         EXPECT_FALSE(LastIcon.has_value());
     }
 
+    SdlWatch Watch;
+    std::optional<GivenIcon> LastIcon;
     SDL_Window *Window;
 };
 
@@ -56,11 +72,11 @@ TEST_F(WindowIcon, LeavesNoSurfaceBehindAndPutsTheRenderTargetBack) {
     SDL_Texture *target =
         SDL_CreateTexture(Renderer(), SDL_PIXELFORMAT_RGBA8888, SDL_TEXTUREACCESS_TARGET, 8, 8);
     ASSERT_TRUE(SDL_SetRenderTarget(Renderer(), target));
-    const int surfaces = LivingSurfaces();
+    const int surfaces = LivingSurfaces(Watch);
 
     SetWindowIconFromAtlas(Window, Renderer());
 
-    EXPECT_EQ(LivingSurfaces(), surfaces);
+    EXPECT_EQ(LivingSurfaces(Watch), surfaces);
     EXPECT_EQ(SDL_GetRenderTarget(Renderer()), target);
     SDL_SetRenderTarget(Renderer(), nullptr);
     SDL_DestroyTexture(target);
@@ -85,21 +101,21 @@ TEST_F(WindowIcon, FailsForASpriteWithoutWidthOrHeight) {
 }
 
 TEST_F(WindowIcon, FailsIfTheAtlasCannotBeATarget) {
-    ExpectFailureWhile(SdlCall::SetRenderTarget);
+    ExpectFailureWithout(Watch.SetRenderTarget);
 }
 
 TEST_F(WindowIcon, FailsIfTheAtlasCannotBeRead) {
-    ExpectFailureWhile(SdlCall::RenderReadPixels);
+    ExpectFailureWithout(Watch.RenderReadPixels);
 }
 
 TEST_F(WindowIcon, FailsWithoutASurfaceToEnlargeOnto) {
-    ExpectFailureWhile(SdlCall::CreateSurface);
+    ExpectFailureWithout(Watch.CreateSurface);
 }
 
 TEST_F(WindowIcon, FailsIfTheCarCannotBeEnlarged) {
-    ExpectFailureWhile(SdlCall::BlitSurfaceScaled);
+    ExpectFailureWithout(Watch.BlitSurfaceScaled);
 }
 
 TEST_F(WindowIcon, FailsIfTheWindowDoesNotTakeIt) {
-    ExpectFailureWhile(SdlCall::SetWindowIcon);
+    ExpectFailureWithout(Watch.SetWindowIcon);
 }

@@ -173,12 +173,7 @@ TEST_F(Overlay, BlastIsTheLastThingOfTheSceneOverTheHudToo) {
     still.SpecialTimer = 0.0F;
     Clear();
     RenderGameplay(Renderer(), still);
-    ExpectedPicture expected(ScreenWidth, ScreenHeight);
-    for (int y = 0; y < ScreenHeight; ++y) {
-        for (int x = 0; x < ScreenWidth; ++x) {
-            expected.Fill(x, y, 1, 1, before.At(x, y));
-        }
-    }
+    ExpectedPicture expected(before);
     expected.Disc(900, 250, 460.0, BlastColor);
     EXPECT_TRUE(expected.IsShownBy(Shown()));
 }

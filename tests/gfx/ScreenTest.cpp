@@ -10,14 +10,7 @@ ExpectedScreen::ExpectedScreen(int Width, int PhysicalPerLogical)
       Pixels(PixelWidth, ScreenHeight * Zoom, 0xFF000000) {}
 
 ExpectedScreen::ExpectedScreen(const Picture &Ground)
-    : Zoom(Ground.Height() / ScreenHeight), PixelWidth(Ground.Width()),
-      Pixels(Ground.Width(), Ground.Height()) {
-    for (int y = 0; y < Ground.Height(); ++y) {
-        for (int x = 0; x < Ground.Width(); ++x) {
-            Pixels.Fill(x, y, 1, 1, Ground.At(x, y));
-        }
-    }
-}
+    : Zoom(Ground.Height() / ScreenHeight), PixelWidth(Ground.Width()), Pixels(Ground) {}
 
 int ExpectedScreen::Physical(double Length) const {
     return static_cast<int>(Length * Zoom);

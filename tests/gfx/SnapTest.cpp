@@ -2,7 +2,7 @@
 
 #include "state/LogicalScreen.hpp"
 #include "tests/gfx/GfxTest.hpp"
-#include "tests/gfx/SdlCalls.hpp"
+#include "tests/support/watch/SdlWatch.hpp"
 
 class Snap : public GfxTest {
 protected:
@@ -26,7 +26,8 @@ TEST_F(Snap, IsOneWithoutARenderer) {
 
 TEST_F(Snap, IsOneIfTheRendererDoesNotTell) {
     Open(1280, 640, 360);
-    const FailingCall failing(SdlCall::GetRenderLogicalPresentationRect);
+    SdlWatch watch;
+    watch.GetRenderLogicalPresentationRect.Refuse();
     EXPECT_EQ(GetPixelSnapStep(Renderer()), 1);
 }
 

@@ -12,7 +12,7 @@
 #include "state/Resolutions.hpp"
 #include "tests/gfx/DrawRecorder.hpp"
 #include "tests/gfx/ScreenTest.hpp"
-#include "tests/support/program/ProgramFolder.hpp"
+#include "tests/support/watch/ProgramFolder.hpp"
 #include "text/Languages.hpp"
 #include "text/Utf8.hpp"
 
@@ -120,13 +120,13 @@ class TextFit : public ScreenTest {
 protected:
     using Drawing = std::function<void()>;
 
-    TextFit() : Shipped(SHIPPED_DATA), OldLocalization(Localization) {}
+    TextFit() : OldLocalization(Localization) {}
     ~TextFit() override {
         Localization = OldLocalization;
     }
 
-    DrawnFrame FrameOf(const Drawing &Draw) const {
-        const DrawRecorder recorder;
+    DrawnFrame FrameOf(const Drawing &Draw) {
+        const DrawRecorder recorder(Watch);
         Draw();
         return recorder.Frame();
     }
@@ -156,14 +156,14 @@ protected:
         }
     }
 
-    void ExpectFit(const Drawing &Draw) const {
+    void ExpectFit(const Drawing &Draw) {
         const DrawnFrame frame = FrameOf(Draw);
         ASSERT_GT(frame.Letters.size(), 10U);
         ExpectInside(frame, UsableScreen());
         ExpectApart(frame);
     }
 
-    void ExpectFitInPanel(const Drawing &Draw) const {
+    void ExpectFitInPanel(const Drawing &Draw) {
         ExpectFit(Draw);
         const DrawnFrame frame = FrameOf(Draw);
         ASSERT_EQ(frame.Rectangles.size(), 2U); // the border and the veil
@@ -171,14 +171,15 @@ protected:
         ExpectInside(frame, Narrowed(frame.Rectangles.back(), PanelMargin));
     }
 
-    void ExpectOptionsFit() const {
+    void ExpectOptionsFit() {
         ExpectFit([this] {
             RenderOptions(Renderer(), State, Devices);
         });
     }
 
 private:
-    ProgramFolder Shipped;
+    SdlWatch Watch;
+    const ProgramFolder Shipped{Watch, SHIPPED_DATA};
     LocalizationTable OldLocalization;
 };
 

@@ -1,28 +1,12 @@
 #include "input/BindingLabels.hpp"
 
 #include "tests/input/TextScope.hpp"
-
-#include <SDL3/SDL.h>
+#include "tests/support/watch/SdlWatch.hpp"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <limits>
-#include <optional>
-
-namespace {
-
-/// What SDL is made to say of every gamepad button, if anything.
-std::optional<const char *> FakeButtonName;
-
-} // namespace
-
-// NOLINTBEGIN(bugprone-reserved-identifier): the linker dictates the names.
-extern "C" const char *__real_SDL_GetGamepadStringForButton(SDL_GamepadButton Button);
-extern "C" const char *__wrap_SDL_GetGamepadStringForButton(SDL_GamepadButton Button) {
-    return FakeButtonName ? *FakeButtonName : __real_SDL_GetGamepadStringForButton(Button);
-}
-// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 
@@ -31,14 +15,15 @@ constexpr std::int32_t Highest = std::numeric_limits<std::int32_t>::max();
 
 class BindingLabels : public ::testing::Test {
 protected:
-    BindingLabels() {
-        FakeButtonName.reset();
-    }
-    ~BindingLabels() override {
-        FakeButtonName.reset();
+    /// Makes SDL say this of every gamepad button.
+    void NameButtons(const char *Name) {
+        Watch.GetGamepadStringForButton.Answer = [Name](SDL_GamepadButton) {
+            return Name;
+        };
     }
 
 private:
+    SdlWatch Watch;
     const TextScope Texts;
 };
 
@@ -118,7 +103,7 @@ TEST_F(BindingLabels, OfWellKnownGamepadButtons) {
 
 TEST_F(BindingLabels, OfGamepadButtonsWithoutAWordAreTheirNumbers) {
     for (const char *name : {static_cast<const char *>(nullptr), ""}) {
-        FakeButtonName = name;
+        NameButtons(name);
         EXPECT_EQ(GamepadBindingLabel(0), "BUTTON 0");
         EXPECT_EQ(GamepadBindingLabel(25), "BUTTON 25");
         EXPECT_EQ(GamepadBindingLabel(26), "UNBOUND");
@@ -153,7 +138,7 @@ TEST_F(BindingLabels, SpeakTheLoadedLanguage) {
     EXPECT_EQ(JoystickBindingLabel(-1), "FREI");
     EXPECT_EQ(KeyboardBindingLabel(511), "CODE 511");
     EXPECT_EQ(JoystickBindingLabel(4), "TASTE 4");
-    FakeButtonName = nullptr;
+    NameButtons(nullptr);
     EXPECT_EQ(GamepadBindingLabel(4), "TASTE 4");
 }
 

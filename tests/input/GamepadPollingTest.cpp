@@ -1,7 +1,6 @@
 #include "input/Polling.hpp"
 #include "state/GameState.hpp"
 #include "tests/input/InputTest.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
 
 #include <array>
 #include <limits>
@@ -114,10 +113,9 @@ TEST_F(GamepadPolling, FollowsAChangedTable) {
 
 TEST_F(GamepadPolling, TheLastButtonCanBeBound) {
     State.GamepadBindings = {25, 0, 3, 0, 1};
-    const SdlWatch watch;
+    Watch.Forget();
     Poll();
-    const std::vector<SdlCall> calls = watch.CallsOf("SDL_GetGamepadButton");
-    EXPECT_EQ(calls.at(2), (SdlCall{"SDL_GetGamepadButton", {1, 25}})); // after the two direction buttons
+    EXPECT_EQ(Watch.GetGamepadButton.Calls.at(2), std::tuple(Devices.Gamepad, 25)); // after two directions
 }
 
 TEST_F(GamepadPolling, InvalidBindingsAreUnboundAndNeverReachSdl) {
@@ -130,13 +128,11 @@ TEST_F(GamepadPolling, InvalidBindingsAreUnboundAndNeverReachSdl) {
     const std::int32_t smallest = std::numeric_limits<std::int32_t>::min();
     for (const std::int32_t value : {-1, 26, 1000, largest, smallest}) {
         State.GamepadBindings = {value, value, 3, 0, 1};
-        const SdlWatch watch;
+        Watch.Forget();
         EXPECT_EQ(Poll(), StepInput{}) << value;
-        EXPECT_EQ(watch.CallsOf("SDL_GetGamepadButton"),
-            (std::vector<SdlCall>{
-                {"SDL_GetGamepadButton", {1, SDL_GAMEPAD_BUTTON_DPAD_LEFT}},
-                {"SDL_GetGamepadButton", {1, SDL_GAMEPAD_BUTTON_DPAD_RIGHT}},
-            }))
+        EXPECT_EQ(Watch.GetGamepadButton.Calls,
+            (std::vector{std::tuple{Devices.Gamepad, SDL_GAMEPAD_BUTTON_DPAD_LEFT},
+                std::tuple{Devices.Gamepad, SDL_GAMEPAD_BUTTON_DPAD_RIGHT}}))
             << value;
     }
 }
@@ -145,10 +141,10 @@ TEST_F(GamepadPolling, IsNotReadForWhatTheKeyboardHasSet) {
     for (const std::int32_t scancode : {80, 79, 224, 27}) {
         Keys.at(static_cast<std::size_t>(scancode)) = true;
     }
-    const SdlWatch watch;
+    Watch.Forget();
     EXPECT_EQ(Poll(), (StepInput{true, true, true, true}));
-    EXPECT_EQ(watch.Count("SDL_GetGamepadAxis"), 0);
-    EXPECT_EQ(watch.Count("SDL_GetGamepadButton"), 0);
+    EXPECT_EQ(Watch.GetGamepadAxis.Count(), 0);
+    EXPECT_EQ(Watch.GetGamepadButton.Count(), 0);
 }
 
 TEST_F(GamepadPolling, KeyboardAndGamepadAddUp) {

@@ -1,5 +1,4 @@
 #include "tests/input/InputTest.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
 
 namespace {
 
@@ -56,8 +55,7 @@ TEST_F(HotPlug, AnAddedGamepadIsOpened) {
 TEST_F(HotPlug, AnAddedGamepadThatDoesNotOpenIsSilent) {
     const VirtualDevice pad(GamepadShape);
     const LogCatcher log;
-    SdlWatch watch;
-    watch.Refuse("SDL_OpenGamepad");
+    Watch.OpenGamepad.Refuse();
     Handle(SDL_EVENT_GAMEPAD_ADDED, pad.Id);
     EXPECT_EQ(Devices.Gamepad, nullptr);
     EXPECT_EQ(Devices.GamepadId, 0U);
@@ -69,13 +67,13 @@ TEST_F(HotPlug, ASecondGamepadDoesNothing) {
     Handle(SDL_EVENT_GAMEPAD_ADDED, first.Id);
     SDL_Gamepad *const opened = Devices.Gamepad;
     const VirtualDevice second(GamepadShape);
-    const SdlWatch watch;
+    Watch.Forget();
     Handle(SDL_EVENT_GAMEPAD_ADDED, second.Id);
     Handle(SDL_EVENT_JOYSTICK_ADDED, second.Id);
     EXPECT_EQ(Devices.Gamepad, opened);
     EXPECT_EQ(Devices.GamepadId, first.Id);
     EXPECT_EQ(Devices.Joystick, nullptr);
-    EXPECT_EQ(watch.Count("SDL_OpenGamepad"), 0);
+    EXPECT_EQ(Watch.OpenGamepad.Count(), 0);
 }
 
 TEST_F(HotPlug, ARemovedGamepadIsClosedAndItsLatchesClear) {
@@ -83,11 +81,11 @@ TEST_F(HotPlug, ARemovedGamepadIsClosedAndItsLatchesClear) {
     VirtualDevice pad(GamepadShape);
     OpenFirstInputDevices(Devices);
     SetAllLatches();
-    SdlWatch watch;
-    watch.Refuse("SDL_OpenGamepad"); // the device of this event is still in SDL's list
+    Watch.Forget();
+    Watch.OpenGamepad.Refuse(); // the device of this event is still in SDL's list
     Handle(SDL_EVENT_GAMEPAD_REMOVED, pad.Id);
-    EXPECT_EQ(watch.Count("SDL_CloseGamepad"), 1);
-    EXPECT_EQ(watch.Count("SDL_CloseJoystick"), 0);
+    EXPECT_EQ(Watch.CloseGamepad.Count(), 1);
+    EXPECT_EQ(Watch.CloseJoystick.Count(), 0);
     EXPECT_EQ(Devices.Gamepad, nullptr);
     EXPECT_EQ(Devices.GamepadId, 0U);
     EXPECT_EQ(Devices.JoystickId, stick.Id);
@@ -100,20 +98,20 @@ TEST_F(HotPlug, TheRemovalOfAnotherGamepadIsIgnored) {
     const VirtualDevice second(GamepadShape);
     OpenFirstInputDevices(Devices);
     SetAllLatches();
-    const SdlWatch watch;
+    Watch.Forget();
     Handle(SDL_EVENT_GAMEPAD_REMOVED, second.Id);
     EXPECT_EQ(Devices.GamepadId, first.Id);
-    EXPECT_EQ(watch.Count("SDL_CloseGamepad"), 0);
-    EXPECT_EQ(watch.Count("SDL_GetGamepads"), 0);
-    EXPECT_EQ(watch.Count("SDL_GetJoysticks"), 0);
+    EXPECT_EQ(Watch.CloseGamepad.Count(), 0);
+    EXPECT_EQ(Watch.GetGamepads.Count(), 0);
+    EXPECT_EQ(Watch.GetJoysticks.Count(), 0);
     ExpectGamepadLatches(true);
 }
 
 TEST_F(HotPlug, AGamepadRemovalWithAnEmptySlotIsIgnored) {
-    const SdlWatch watch;
+    Watch.Forget();
     Handle(SDL_EVENT_GAMEPAD_REMOVED, 0);
-    EXPECT_EQ(watch.Count("SDL_CloseGamepad"), 0);
-    EXPECT_EQ(watch.Count("SDL_GetGamepads"), 0);
+    EXPECT_EQ(Watch.CloseGamepad.Count(), 0);
+    EXPECT_EQ(Watch.GetGamepads.Count(), 0);
 }
 
 TEST_F(HotPlug, AnAddedJoystickIsOpened) {
@@ -126,8 +124,7 @@ TEST_F(HotPlug, AnAddedJoystickIsOpened) {
 TEST_F(HotPlug, AnAddedJoystickThatDoesNotOpenIsSilent) {
     const VirtualDevice stick(JoystickShape);
     const LogCatcher log;
-    SdlWatch watch;
-    watch.Refuse("SDL_OpenJoystick");
+    Watch.OpenJoystick.Refuse();
     Handle(SDL_EVENT_JOYSTICK_ADDED, stick.Id);
     EXPECT_EQ(Devices.Joystick, nullptr);
     EXPECT_TRUE(log.Lines.empty());
@@ -135,11 +132,11 @@ TEST_F(HotPlug, AnAddedJoystickThatDoesNotOpenIsSilent) {
 
 TEST_F(HotPlug, TheJoystickEventOfAGamepadOpensNoJoystick) {
     const VirtualDevice pad(GamepadShape);
-    const SdlWatch watch;
+    Watch.Forget();
     Handle(SDL_EVENT_JOYSTICK_ADDED, pad.Id);
     EXPECT_EQ(Devices.Joystick, nullptr);
     EXPECT_EQ(Devices.Gamepad, nullptr);
-    EXPECT_EQ(watch.Count("SDL_OpenJoystick"), 0);
+    EXPECT_EQ(Watch.OpenJoystick.Count(), 0);
 }
 
 TEST_F(HotPlug, UnpluggingTheJoystickLeavesTheGamepadWorking) {
@@ -148,15 +145,15 @@ TEST_F(HotPlug, UnpluggingTheJoystickLeavesTheGamepadWorking) {
     OpenFirstInputDevices(Devices);
     SetAllLatches();
     stick.Unplug();
-    const SdlWatch watch;
+    Watch.Forget();
     Handle(SDL_EVENT_JOYSTICK_REMOVED, stick.Id);
     EXPECT_EQ(Devices.Joystick, nullptr);
     EXPECT_EQ(Devices.JoystickId, 0U);
     EXPECT_EQ(Devices.GamepadId, pad.Id);
     EXPECT_TRUE(SDL_GamepadConnected(Devices.Gamepad));
-    EXPECT_EQ(watch.Count("SDL_CloseJoystick"), 1);
-    EXPECT_EQ(watch.Count("SDL_CloseGamepad"), 0);
-    EXPECT_EQ(watch.Count("SDL_GetJoysticks"), 1); // looked for the next one
+    EXPECT_EQ(Watch.CloseJoystick.Count(), 1);
+    EXPECT_EQ(Watch.CloseGamepad.Count(), 0);
+    EXPECT_EQ(Watch.GetJoysticks.Count(), 1); // looked for the next one
     ExpectJoystickLatches(false);
     ExpectGamepadLatches(true);
 }
@@ -195,10 +192,10 @@ TEST_F(HotPlug, AnyJoystickRemovalLooksForDevicesAnew) {
 }
 
 TEST_F(HotPlug, AJoystickRemovalWithEmptySlotsClosesNothing) {
-    const SdlWatch watch;
+    Watch.Forget();
     Handle(SDL_EVENT_JOYSTICK_REMOVED, 0);
-    EXPECT_EQ(watch.Count("SDL_CloseGamepad"), 0);
-    EXPECT_EQ(watch.Count("SDL_CloseJoystick"), 0);
+    EXPECT_EQ(Watch.CloseGamepad.Count(), 0);
+    EXPECT_EQ(Watch.CloseJoystick.Count(), 0);
 }
 
 TEST_F(HotPlug, OtherEventsAreIgnored) {

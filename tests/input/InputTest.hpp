@@ -3,8 +3,10 @@
 #include "input/Devices.hpp"
 #include "tests/support/Sdl.hpp"
 #include "tests/support/VirtualDevice.hpp"
+#include "tests/support/watch/SdlWatch.hpp"
 
-/// A test with SDL up, no real pad in the way, and the game's devices, which are closed at the end.
+/// A test with SDL up and watched, no real pad in the way, and the game's devices, which are closed at the
+/// end.
 class InputTest : public SdlTest {
 protected:
     void SetUp() override {
@@ -17,5 +19,6 @@ protected:
         CloseInputDevices(Devices);
     }
 
+    SdlWatch Watch;
     InputDevices Devices;
 };

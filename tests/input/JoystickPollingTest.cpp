@@ -1,7 +1,6 @@
 #include "input/Polling.hpp"
 #include "state/GameState.hpp"
 #include "tests/input/InputTest.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
 
 #include <array>
 #include <limits>
@@ -148,9 +147,9 @@ TEST_F(JoystickPolling, InvalidBindingsAreUnboundAndNeverReachSdl) {
     const std::int32_t smallest = std::numeric_limits<std::int32_t>::min();
     for (const std::int32_t value : {-1, 4, 26, 1000, largest, smallest}) {
         State.JoystickBindings = {value, value, 2, 0, 3};
-        const SdlWatch watch;
+        Watch.Forget();
         EXPECT_EQ(Poll(), StepInput{}) << value;
-        EXPECT_EQ(watch.Count("SDL_GetJoystickButton"), 0) << value;
+        EXPECT_EQ(Watch.GetJoystickButton.Count(), 0) << value;
     }
 }
 
@@ -158,9 +157,9 @@ TEST_F(JoystickPolling, ItsButtonsAreNotReadForWhatTheKeyboardHasSet) {
     Plug(JoystickShape);
     Keys[224] = true;
     Keys[27] = true;
-    const SdlWatch watch;
+    Watch.Forget();
     EXPECT_EQ(Poll(), (StepInput{false, false, true, true}));
-    EXPECT_EQ(watch.Count("SDL_GetJoystickButton"), 0);
+    EXPECT_EQ(Watch.GetJoystickButton.Count(), 0);
 }
 
 } // namespace

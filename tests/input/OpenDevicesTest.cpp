@@ -1,5 +1,4 @@
 #include "tests/input/InputTest.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
 
 namespace {
 
@@ -28,11 +27,11 @@ TEST_F(OpenDevices, TheFirstOfEachKindIsTaken) {
 
 TEST_F(OpenDevices, AGamepadIsNeverOpenedAsAJoystickToo) {
     const VirtualDevice pad(GamepadShape);
-    const SdlWatch watch;
+    Watch.Forget();
     OpenFirstInputDevices(Devices);
     EXPECT_EQ(Devices.GamepadId, pad.Id);
     EXPECT_EQ(Devices.Joystick, nullptr);
-    EXPECT_EQ(watch.Count("SDL_OpenJoystick"), 0);
+    EXPECT_EQ(Watch.OpenJoystick.Count(), 0);
 }
 
 TEST_F(OpenDevices, TheJoystickSlotSkipsTheGamepadsInTheList) {
@@ -53,12 +52,10 @@ TEST_F(OpenDevices, AJoystickIsNotAGamepad) {
 TEST_F(OpenDevices, TheGamepadComesBeforeTheJoystick) {
     const VirtualDevice stick(JoystickShape);
     const VirtualDevice pad(GamepadShape);
-    const SdlWatch watch;
+    Watch.Forget();
     OpenFirstInputDevices(Devices);
-    EXPECT_EQ(
-        watch.NamesAmong({"SDL_GetGamepads", "SDL_OpenGamepad", "SDL_GetJoysticks", "SDL_OpenJoystick"}),
-        (std::vector<std::string>{
-            "SDL_GetGamepads", "SDL_OpenGamepad", "SDL_GetJoysticks", "SDL_OpenJoystick"}));
+    EXPECT_EQ(Watch.OrderOf({Watch.GetGamepads, Watch.OpenGamepad, Watch.GetJoysticks, Watch.OpenJoystick}),
+        (CallNames{Watch.GetGamepads, Watch.OpenGamepad, Watch.GetJoysticks, Watch.OpenJoystick}));
 }
 
 TEST_F(OpenDevices, AFilledSlotIsLeftAlone) {
@@ -66,23 +63,22 @@ TEST_F(OpenDevices, AFilledSlotIsLeftAlone) {
     OpenFirstInputDevices(Devices);
     SDL_Gamepad *const opened = Devices.Gamepad;
     const VirtualDevice stick(JoystickShape);
-    const SdlWatch watch;
+    Watch.Forget();
     OpenFirstInputDevices(Devices);
     EXPECT_EQ(Devices.Gamepad, opened);
     EXPECT_EQ(Devices.JoystickId, stick.Id);
-    EXPECT_EQ(watch.Count("SDL_OpenGamepad"), 0);
+    EXPECT_EQ(Watch.OpenGamepad.Count(), 0);
 }
 
 TEST_F(OpenDevices, AGamepadThatDoesNotOpenIsSkippedWithoutAWord) {
     const VirtualDevice broken(GamepadShape);
     const VirtualDevice working(GamepadShape);
     const LogCatcher log;
-    SdlWatch watch;
-    watch.Refuse("SDL_OpenGamepad", 1);
+    Watch.Forget();
+    Watch.OpenGamepad.Refuse(1);
     OpenFirstInputDevices(Devices);
     EXPECT_EQ(Devices.GamepadId, working.Id);
-    EXPECT_EQ(watch.CallsOf("SDL_OpenGamepad"),
-        (std::vector<SdlCall>{{"SDL_OpenGamepad", {broken.Id}}, {"SDL_OpenGamepad", {working.Id}}}));
+    EXPECT_EQ(Watch.OpenGamepad.Calls, (std::vector{std::tuple{broken.Id}, std::tuple{working.Id}}));
     EXPECT_TRUE(log.Lines.empty());
 }
 
@@ -90,12 +86,11 @@ TEST_F(OpenDevices, AJoystickThatDoesNotOpenIsSkippedWithoutAWord) {
     const VirtualDevice broken(JoystickShape);
     const VirtualDevice working(JoystickShape);
     const LogCatcher log;
-    SdlWatch watch;
-    watch.Refuse("SDL_OpenJoystick", 1);
+    Watch.Forget();
+    Watch.OpenJoystick.Refuse(1);
     OpenFirstInputDevices(Devices);
     EXPECT_EQ(Devices.JoystickId, working.Id);
-    EXPECT_EQ(watch.CallsOf("SDL_OpenJoystick"),
-        (std::vector<SdlCall>{{"SDL_OpenJoystick", {broken.Id}}, {"SDL_OpenJoystick", {working.Id}}}));
+    EXPECT_EQ(Watch.OpenJoystick.Calls, (std::vector{std::tuple{broken.Id}, std::tuple{working.Id}}));
     EXPECT_TRUE(log.Lines.empty());
 }
 
@@ -103,9 +98,8 @@ TEST_F(OpenDevices, WhenNoneOpensTheSlotsStayEmptyWithoutAWord) {
     const VirtualDevice pad(GamepadShape);
     const VirtualDevice stick(JoystickShape);
     const LogCatcher log;
-    SdlWatch watch;
-    watch.Refuse("SDL_OpenGamepad");
-    watch.Refuse("SDL_OpenJoystick");
+    Watch.OpenGamepad.Refuse();
+    Watch.OpenJoystick.Refuse();
     OpenFirstInputDevices(Devices);
     EXPECT_EQ(Devices.Gamepad, nullptr);
     EXPECT_EQ(Devices.GamepadId, 0U);
@@ -118,9 +112,8 @@ TEST_F(OpenDevices, MissingListsAreLikeEmptyOnes) {
     const VirtualDevice pad(GamepadShape);
     const VirtualDevice stick(JoystickShape);
     const LogCatcher log;
-    SdlWatch watch;
-    watch.Refuse("SDL_GetGamepads");
-    watch.Refuse("SDL_GetJoysticks");
+    Watch.GetGamepads.Refuse();
+    Watch.GetJoysticks.Refuse();
     OpenFirstInputDevices(Devices);
     EXPECT_EQ(Devices.Gamepad, nullptr);
     EXPECT_EQ(Devices.Joystick, nullptr);
@@ -156,8 +149,7 @@ TEST_F(TryOpen, IsFalseForAGamepad) {
 
 TEST_F(TryOpen, IsFalseForADeviceThatDoesNotOpen) {
     const VirtualDevice stick(JoystickShape);
-    SdlWatch watch;
-    watch.Refuse("SDL_OpenJoystick");
+    Watch.OpenJoystick.Refuse();
     EXPECT_FALSE(TryOpenJoystick(Devices, stick.Id));
     EXPECT_EQ(Devices.Joystick, nullptr);
     EXPECT_EQ(Devices.JoystickId, 0U);
@@ -172,19 +164,19 @@ TEST_F(OpenDevices, AreClosedGamepadFirst) {
     const VirtualDevice stick(JoystickShape);
     const VirtualDevice pad(GamepadShape);
     OpenFirstInputDevices(Devices);
-    const SdlWatch watch;
+    Watch.Forget();
     CloseInputDevices(Devices);
-    EXPECT_EQ(watch.NamesAmong({"SDL_CloseGamepad", "SDL_CloseJoystick"}),
-        (std::vector<std::string>{"SDL_CloseGamepad", "SDL_CloseJoystick"}));
+    EXPECT_EQ(Watch.OrderOf({Watch.CloseGamepad, Watch.CloseJoystick}),
+        (CallNames{Watch.CloseGamepad, Watch.CloseJoystick}));
     EXPECT_EQ(Devices.Gamepad, nullptr);
     EXPECT_EQ(Devices.Joystick, nullptr);
 }
 
 TEST_F(OpenDevices, ClosingEmptySlotsClosesNothing) {
-    const SdlWatch watch;
+    Watch.Forget();
     CloseInputDevices(Devices);
-    EXPECT_EQ(watch.Count("SDL_CloseGamepad"), 0);
-    EXPECT_EQ(watch.Count("SDL_CloseJoystick"), 0);
+    EXPECT_EQ(Watch.CloseGamepad.Count(), 0);
+    EXPECT_EQ(Watch.CloseJoystick.Count(), 0);
 }
 
 } // namespace

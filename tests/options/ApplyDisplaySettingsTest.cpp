@@ -2,47 +2,48 @@
 
 namespace {
 
-using ApplySettings = PresentationTest;
 using Presentation = PresentationTest;
-using Calls = std::vector<SdlCall>;
 using Lines = std::vector<std::string>;
 
-const std::vector<std::string> AllSteps{"SDL_SetWindowFullscreenMode", "SDL_SetWindowFullscreen",
-    "SDL_SetWindowSize", "SDL_SetWindowPosition", "SDL_SetRenderVSync", "SDL_GetRenderVSync",
-    "SDL_SetRenderLogicalPresentation"};
-
-void RefuseAll(SdlWatch &Watch) {
-    for (const std::string &step : AllSteps) {
-        Watch.Refuse(step);
+class ApplySettings : public PresentationTest {
+protected:
+    void RefuseAll() {
+        Watch.SetWindowFullscreenMode.Refuse();
+        Watch.SetWindowFullscreen.Refuse();
+        Watch.SetWindowSize.Refuse();
+        Watch.SetWindowPosition.Refuse();
+        Watch.SetRenderVSync.Refuse();
+        Watch.GetRenderVSync.Refuse();
+        Watch.SetRenderLogicalPresentation.Refuse();
     }
-}
+};
 
 TEST_F(ApplySettings, GoesStepByStepIntoFullscreen) {
     State.Fullscreen = true;
-    const SdlWatch watch;
+    Watch.Forget();
     const LogCatcher log;
     Apply();
-    EXPECT_EQ(watch.NamesAmong(AllSteps),
-        (Lines{"SDL_SetWindowFullscreenMode", "SDL_SetWindowFullscreen", "SDL_SetRenderVSync",
-            "SDL_GetRenderVSync", "SDL_SetRenderLogicalPresentation"}));
+    EXPECT_EQ(
+        DisplayCalls(), (CallNames{Watch.SetWindowFullscreenMode, Watch.SetWindowFullscreen,
+                            Watch.SetRenderVSync, Watch.GetRenderVSync, Watch.SetRenderLogicalPresentation}));
     EXPECT_EQ(log.Lines, Lines{});
 }
 
 TEST_F(ApplySettings, GoesStepByStepIntoAWindow) {
     ASSERT_TRUE(SDL_SetWindowFullscreen(Window, true));
-    const SdlWatch watch;
+    Watch.Forget();
     const LogCatcher log;
     Apply();
-    EXPECT_EQ(watch.NamesAmong(AllSteps),
-        (Lines{"SDL_SetWindowFullscreen", "SDL_SetWindowSize", "SDL_SetWindowPosition", "SDL_SetRenderVSync",
-            "SDL_GetRenderVSync", "SDL_SetRenderLogicalPresentation"}));
+    EXPECT_EQ(
+        DisplayCalls(), (CallNames{Watch.SetWindowFullscreen, Watch.SetWindowSize, Watch.SetWindowPosition,
+                            Watch.SetRenderVSync, Watch.GetRenderVSync, Watch.SetRenderLogicalPresentation}));
     EXPECT_EQ(log.Lines, Lines{});
 }
 
 TEST_F(ApplySettings, LogsEachFailureIntoFullscreenAndGoesOn) {
     State.Fullscreen = true;
-    SdlWatch watch;
-    RefuseAll(watch);
+    Watch.Forget();
+    RefuseAll();
     const LogCatcher log;
     Apply();
     EXPECT_EQ(log.Lines, (Lines{"SDL_SetWindowFullscreenMode(borderless) failed: refused for the test",
@@ -58,8 +59,8 @@ TEST_F(ApplySettings, LogsEachFailureIntoAWindowAndGoesOn) {
     ASSERT_TRUE(SDL_SetWindowFullscreen(Window, true));
     State.VSync = false;
     Choose(1920, 1200);
-    SdlWatch watch;
-    RefuseAll(watch);
+    Watch.Forget();
+    RefuseAll();
     const LogCatcher log;
     Apply();
     EXPECT_EQ(log.Lines, (Lines{"SDL_SetWindowFullscreen(false) failed: refused for the test",
@@ -75,8 +76,7 @@ TEST_F(ApplySettings, LogsEachFailureIntoAWindowAndGoesOn) {
 
 TEST_F(ApplySettings, AFailureOfOneStepLeavesTheOthersTheirEffect) {
     ASSERT_TRUE(SDL_SetWindowFullscreen(Window, true));
-    SdlWatch watch;
-    watch.Refuse("SDL_SetWindowPosition");
+    Watch.SetWindowPosition.Refuse();
     Choose(800, 450);
     const LogCatcher log;
     Apply();
@@ -99,9 +99,9 @@ TEST_F(ApplySettings, RestartsTheFrameClock) {
 TEST_F(ApplySettings, WithoutAWindowDoesNothing) {
     State.AspectMode = AspectClassic4x3;
     State.Bullets = {{608.0F, 100.0F, 430.0F, 2.0F}};
-    const SdlWatch watch;
+    Watch.Forget();
     ApplyDisplaySettings(State, nullptr, Renderer);
-    EXPECT_EQ(watch.Calls, Calls{});
+    EXPECT_EQ(Watch.Order(), CallNames{});
     EXPECT_EQ(LogicalWidth, 1280);
     EXPECT_FLOAT_EQ(State.Bullets[0].X, 608.0F);
     EXPECT_FALSE(State.ResetFrameClock);
@@ -123,21 +123,20 @@ TEST_F(Presentation, LetterboxesTheLogicalScreen) {
 
 TEST_F(Presentation, TakesTheWidthOfTheChosenShape) {
     Choose(3840, 1600);
-    const SdlWatch watch;
+    Watch.Forget();
     Apply();
-    EXPECT_EQ(watch.CallsOf("SDL_SetRenderLogicalPresentation"),
-        (Calls{{"SDL_SetRenderLogicalPresentation", {1, 1728, 720, SDL_LOGICAL_PRESENTATION_LETTERBOX}}}));
+    EXPECT_EQ(Watch.SetRenderLogicalPresentation.OnlyCall(),
+        std::tuple(Renderer, 1728, 720, SDL_LOGICAL_PRESENTATION_LETTERBOX));
 }
 
 TEST_F(Presentation, DoesNothingWithoutAWindow) {
-    const SdlWatch watch;
+    Watch.Forget();
     ApplyLogicalPresentation(nullptr, Renderer);
-    EXPECT_EQ(watch.Calls, Calls{});
+    EXPECT_EQ(Watch.Order(), CallNames{});
 }
 
 TEST_F(Presentation, LogsItsFailure) {
-    SdlWatch watch;
-    watch.Refuse("SDL_SetRenderLogicalPresentation");
+    Watch.SetRenderLogicalPresentation.Refuse();
     const LogCatcher log;
     ApplyLogicalPresentation(Window, Renderer);
     EXPECT_EQ(log.Lines, (Lines{"SDL_SetRenderLogicalPresentation failed: refused for the test"}));

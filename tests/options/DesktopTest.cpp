@@ -1,8 +1,8 @@
 #include "options/Desktop.hpp"
 #include "state/GameState.hpp"
 #include "state/LogicalScreen.hpp"
+#include "tests/support/LogicalWidthScope.hpp"
 #include "tests/support/watch/FakeDisplays.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,6 @@ namespace {
 class DesktopSize : public ::testing::Test {
 protected:
     DesktopSize() {
-        LogicalWidth = 1280;
         Displays.Primary = 7;
     }
 
@@ -35,8 +34,10 @@ protected:
         EXPECT_EQ(LogicalWidth, 1152);
     }
 
+    LogicalWidthScope Width{1280};
     GameState State;
-    FakeDisplays Displays;
+    SdlWatch Watch;
+    FakeDisplays Displays{Watch};
 };
 
 TEST_F(DesktopSize, IsThePrimaryDisplays) {
@@ -115,8 +116,7 @@ TEST_F(DesktopSize, OfNoDisplayChangesNothing) {
 TEST_F(DesktopSize, OfNoDisplayListChangesNothing) {
     Displays.Primary = 0;
     Displays.Add(7, 1920, 1080);
-    SdlWatch watch;
-    watch.Refuse("SDL_GetDisplays");
+    Watch.GetDisplays.Refuse();
     ExpectUntouched();
 }
 

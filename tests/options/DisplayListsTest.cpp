@@ -3,7 +3,6 @@
 #include "state/Resolutions.hpp"
 #include "tests/support/Sdl.hpp"
 #include "tests/support/watch/FakeDisplays.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
 
 #include <limits>
 
@@ -31,7 +30,8 @@ protected:
     }
 
     GameState State;
-    FakeDisplays Displays;
+    SdlWatch Watch;
+    FakeDisplays Displays{Watch};
     SDL_Window *Window = nullptr;
 };
 
@@ -153,8 +153,7 @@ TEST_F(DisplayLists, InClassicOnAWideDisplayHoldTheSevenBuiltInRows) {
 
 TEST_F(DisplayLists, FallBackWhereTheModesCannotBeListed) {
     Offer({Mode(1920, 1080, 60.0F)});
-    SdlWatch watch;
-    watch.Refuse("SDL_GetFullscreenDisplayModes");
+    Watch.GetFullscreenDisplayModes.Refuse();
     const LogCatcher log;
     Rebuild();
     EXPECT_TRUE(State.DisplayModes.empty());
@@ -185,21 +184,21 @@ TEST_F(DisplayLists, ComeFromTheFirstDisplayWithoutAWindow) {
     Displays.OfWindow = 9;
     Displays.Add(9, 800, 600).Modes = {Mode(1280, 720, 50.0F)};
     Offer({Mode(1920, 1080, 60.0F)});
-    const SdlWatch watch;
+    Watch.Forget();
     RebuildDisplayLists(State, nullptr);
     EXPECT_EQ(State.DisplayModes, (std::vector<DisplayMode>{{1920, 1080, 60}}));
-    EXPECT_EQ(watch.Count("SDL_GetDisplayForWindow"), 0);
+    EXPECT_EQ(Watch.GetDisplayForWindow.Count(), 0);
 }
 
 TEST_F(DisplayLists, WithoutAnyDisplayAreTheBuiltInOnes) {
     Displays.OfWindow = 0;
     Displays.List.clear();
-    const SdlWatch watch;
+    Watch.Forget();
     Rebuild();
     EXPECT_TRUE(State.DisplayModes.empty());
     EXPECT_EQ(State.Resolutions, BuiltIn(AspectWidescreen));
     EXPECT_EQ(State.RefreshRates, (std::vector<std::int32_t>{0}));
-    EXPECT_EQ(watch.Count("SDL_GetFullscreenDisplayModes"), 0);
+    EXPECT_EQ(Watch.GetFullscreenDisplayModes.Count(), 0);
     EXPECT_TRUE(Displays.Lent.empty());
 }
 

@@ -72,19 +72,16 @@ protected:
         for (const std::int32_t key : Pressed) {
             GameState state = State;
             GameState expected = State;
-            const SdlWatch watch;
+            Watch.Forget();
             HandleGraphicsPageKey(state, Window, Renderer, key);
-            ExpectWindowUntouched(watch);
+            ExpectWindowUntouched();
             Effect(expected);
             EXPECT_TRUE(SameState(state, expected)) << "scancode " << key << " on row " << Row;
         }
     }
 
-    static void ExpectWindowUntouched(const SdlWatch &Watch) {
-        EXPECT_EQ(Watch.NamesAmong({"SDL_SetWindowFullscreenMode", "SDL_SetWindowFullscreen",
-                      "SDL_SetWindowSize", "SDL_SetWindowPosition", "SDL_SetRenderVSync",
-                      "SDL_GetRenderVSync", "SDL_SetRenderLogicalPresentation"}),
-            std::vector<std::string>{});
+    void ExpectWindowUntouched() const {
+        EXPECT_EQ(DisplayCalls(), CallNames{});
         EXPECT_EQ(LogicalWidth, 1280);
     }
 
@@ -97,7 +94,7 @@ protected:
         ASSERT_EQ(State.RefreshRate, 0);
     }
 
-    FakeDisplays Displays;
+    FakeDisplays Displays{Watch};
 };
 
 TEST_F(GraphicsPage, BeginsWithASnapshotOfWhatIsInForce) {
@@ -492,11 +489,11 @@ TEST_F(GraphicsPage, DefaultSettingsFromTheBuiltIn4x3TableAre1280x720) {
 
 TEST_F(GraphicsPage, DefaultSettingsThenBackRestoreTheSnapshot) {
     const GameState before = State;
-    const SdlWatch watch;
+    Watch.Forget();
     PressOn(DefaultsRow, EnterKey);
     ASSERT_TRUE(GraphicsEditDirty(State));
     PressOn(BackRow, EnterKey);
-    ExpectWindowUntouched(watch);
+    ExpectWindowUntouched();
     GameState expected = before;
     expected.GraphicsSelection = BackRow;
     expected.OptionsPage = OptionsPageMain;
@@ -510,10 +507,10 @@ TEST_F(GraphicsPage, ApplyBringsTheWindowInLineAndMarksTheOptions) {
         State.ResetFrameClock = false;
         Adjust(ModeRow, 1);
         const bool fullscreen = State.Fullscreen;
-        const SdlWatch watch;
+        Watch.Forget();
         PressOn(ApplyRow, key);
         EXPECT_EQ(IsFullscreen(), fullscreen) << key;
-        EXPECT_EQ(watch.Count("SDL_SetRenderLogicalPresentation"), 1) << key;
+        EXPECT_EQ(Watch.SetRenderLogicalPresentation.Count(), 1) << key;
         EXPECT_TRUE(State.OptionsDirty) << key;
         EXPECT_TRUE(State.ResetFrameClock) << key;
         EXPECT_EQ(State.GraphicsSnapshot.Fullscreen, fullscreen) << key; // the new snapshot
@@ -549,8 +546,7 @@ TEST_F(GraphicsPage, ApplyWithNothingChangedLeavesWindowAndMarkAlone) {
 
 TEST_F(GraphicsPage, ApplyWithFailingStepsMarksTheOptionsAllTheSame) {
     Adjust(ModeRow, 1);
-    SdlWatch watch;
-    watch.Refuse("SDL_SetWindowSize");
+    Watch.SetWindowSize.Refuse();
     const LogCatcher log;
     PressOn(ApplyRow, EnterKey);
     EXPECT_EQ(
@@ -598,9 +594,9 @@ TEST_F(GraphicsPage, EscapeLeavesFromEveryRow) {
 TEST_F(GraphicsPage, WorksWithoutAWindow) {
     ChangeEverything();
     State.GraphicsSelection = ApplyRow;
-    const SdlWatch watch;
+    Watch.Forget();
     HandleGraphicsPageKey(State, nullptr, nullptr, EnterKey);
-    ExpectWindowUntouched(watch);
+    ExpectWindowUntouched();
     EXPECT_TRUE(State.OptionsDirty);
     EXPECT_FALSE(GraphicsEditDirty(State));
 }

@@ -3,6 +3,7 @@
 #include "options/Presentation.hpp"
 #include "state/GameState.hpp"
 #include "state/LogicalScreen.hpp"
+#include "tests/support/LogicalWidthScope.hpp"
 #include "tests/support/Sdl.hpp"
 #include "tests/support/watch/SdlWatch.hpp"
 
@@ -10,7 +11,6 @@
 class PresentationTest : public SdlTest {
 protected:
     PresentationTest() {
-        LogicalWidth = 1280;
         State.Fullscreen = false;
         Window = SDL_CreateWindow("Presentation", 640, 360, 0);
         Renderer = SDL_CreateRenderer(Window, nullptr);
@@ -20,7 +20,6 @@ protected:
     ~PresentationTest() override {
         SDL_DestroyRenderer(Renderer);
         SDL_DestroyWindow(Window);
-        LogicalWidth = 1280;
     }
 
     void Apply() {
@@ -36,6 +35,15 @@ protected:
         return (SDL_GetWindowFlags(Window) & SDL_WINDOW_FULLSCREEN) != 0;
     }
 
+    /// All that display settings ask of SDL, in order.
+    CallNames DisplayCalls() const {
+        return Watch.OrderOf({Watch.SetWindowFullscreenMode, Watch.SetWindowFullscreen, Watch.SetWindowSize,
+            Watch.SetWindowPosition, Watch.SetRenderVSync, Watch.GetRenderVSync,
+            Watch.SetRenderLogicalPresentation});
+    }
+
+    LogicalWidthScope Width{1280};
+    SdlWatch Watch;
     GameState State;
     SDL_Window *Window = nullptr;
     SDL_Renderer *Renderer = nullptr;

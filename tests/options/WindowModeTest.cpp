@@ -2,9 +2,6 @@
 
 namespace {
 
-const std::vector<std::string> WindowCalls{
-    "SDL_SetWindowFullscreenMode", "SDL_SetWindowFullscreen", "SDL_SetWindowSize", "SDL_SetWindowPosition"};
-
 class WindowMode : public PresentationTest {
 protected:
     /// Brings the window into fullscreen before the test watches.
@@ -14,25 +11,25 @@ protected:
         ASSERT_TRUE(IsFullscreen());
     }
 
-    std::vector<SdlCall> CallsOfApply() {
-        const SdlWatch watch;
+    /// What applying asks of the window, in order.
+    CallNames CallsOfApply() {
+        Watch.Forget();
         Apply();
-        std::vector<SdlCall> calls;
-        for (const SdlCall &call : watch.Calls) {
-            if (std::find(WindowCalls.begin(), WindowCalls.end(), call.Name) != WindowCalls.end()) {
-                calls.push_back(call);
-            }
-        }
-        return calls;
+        return Watch.OrderOf({Watch.SetWindowFullscreenMode, Watch.SetWindowFullscreen, Watch.SetWindowSize,
+            Watch.SetWindowPosition});
+    }
+
+    /// Expects that the window was told once to be fullscreen without a video mode of its own.
+    void ExpectBorderless() const {
+        EXPECT_EQ(Watch.SetWindowFullscreenMode.OnlyCall(), std::tuple(Window, nullptr));
     }
 };
 
-using Calls = std::vector<SdlCall>;
-
-constexpr auto Centred = static_cast<std::int64_t>(SDL_WINDOWPOS_CENTERED);
+constexpr auto Centred = static_cast<int>(SDL_WINDOWPOS_CENTERED);
 
 TEST_F(WindowMode, AWindowThatStaysAWindowGetsItsSizeAndKeepsItsPlace) {
-    EXPECT_EQ(CallsOfApply(), (Calls{{"SDL_SetWindowSize", {1, 1280, 720}}}));
+    EXPECT_EQ(CallsOfApply(), CallNames{Watch.SetWindowSize});
+    EXPECT_EQ(Watch.SetWindowSize.OnlyCall(), std::tuple(Window, 1280, 720));
 }
 
 TEST_F(WindowMode, TheSizeReachesTheWindow) {
@@ -49,15 +46,18 @@ TEST_F(WindowMode, TheSizeReachesTheWindow) {
 TEST_F(WindowMode, LeavingFullscreenSetsTheSizeAndThenCentres) {
     BeginFullscreen();
     EXPECT_EQ(
-        CallsOfApply(), (Calls{{"SDL_SetWindowFullscreen", {1, 0}}, {"SDL_SetWindowSize", {1, 1280, 720}},
-                            {"SDL_SetWindowPosition", {1, Centred, Centred}}}));
+        CallsOfApply(), (CallNames{Watch.SetWindowFullscreen, Watch.SetWindowSize, Watch.SetWindowPosition}));
+    EXPECT_EQ(Watch.SetWindowFullscreen.OnlyCall(), std::tuple(Window, false));
+    EXPECT_EQ(Watch.SetWindowSize.OnlyCall(), std::tuple(Window, 1280, 720));
+    EXPECT_EQ(Watch.SetWindowPosition.OnlyCall(), std::tuple(Window, Centred, Centred));
     EXPECT_FALSE(IsFullscreen());
 }
 
 TEST_F(WindowMode, EnteringFullscreenIsBorderlessAndSetsNoSize) {
     State.Fullscreen = true;
-    EXPECT_EQ(CallsOfApply(),
-        (Calls{{"SDL_SetWindowFullscreenMode", {1, 0}}, {"SDL_SetWindowFullscreen", {1, 1}}}));
+    EXPECT_EQ(CallsOfApply(), (CallNames{Watch.SetWindowFullscreenMode, Watch.SetWindowFullscreen}));
+    ExpectBorderless();
+    EXPECT_EQ(Watch.SetWindowFullscreen.OnlyCall(), std::tuple(Window, true));
     EXPECT_TRUE(IsFullscreen());
     EXPECT_EQ(SDL_GetWindowFullscreenMode(Window), nullptr); // no video mode is switched
 }
@@ -65,7 +65,8 @@ TEST_F(WindowMode, EnteringFullscreenIsBorderlessAndSetsNoSize) {
 TEST_F(WindowMode, StayingFullscreenOnlyMakesItBorderless) {
     BeginFullscreen();
     State.Fullscreen = true;
-    EXPECT_EQ(CallsOfApply(), (Calls{{"SDL_SetWindowFullscreenMode", {1, 0}}}));
+    EXPECT_EQ(CallsOfApply(), CallNames{Watch.SetWindowFullscreenMode});
+    ExpectBorderless();
     EXPECT_TRUE(IsFullscreen());
 }
 
@@ -74,15 +75,17 @@ TEST_F(WindowMode, ARefreshRateNeverReachesSdl) {
     State.RefreshRate = 144;
     State.RefreshRates = {0, 144};
     State.DisplayModes = {{1280, 720, 144}};
-    EXPECT_EQ(CallsOfApply(),
-        (Calls{{"SDL_SetWindowFullscreenMode", {1, 0}}, {"SDL_SetWindowFullscreen", {1, 1}}}));
+    EXPECT_EQ(CallsOfApply(), (CallNames{Watch.SetWindowFullscreenMode, Watch.SetWindowFullscreen}));
+    ExpectBorderless();
+    EXPECT_EQ(Watch.SetWindowFullscreen.OnlyCall(), std::tuple(Window, true));
     EXPECT_EQ(State.RefreshRate, 144);
 }
 
 TEST_F(WindowMode, TheSizeIsTheClampedEntryOfTheList) {
     State.Resolutions = {{640, 360}, {960, 540}};
     State.ResolutionIndex = 40;
-    EXPECT_EQ(CallsOfApply(), (Calls{{"SDL_SetWindowSize", {1, 960, 540}}}));
+    EXPECT_EQ(CallsOfApply(), CallNames{Watch.SetWindowSize});
+    EXPECT_EQ(Watch.SetWindowSize.OnlyCall(), std::tuple(Window, 960, 540));
     EXPECT_EQ(State.ResolutionIndex, 40);
 }
 

@@ -1,20 +1,8 @@
 #include "tests/quillini/IniTest.hpp"
 
-#include <atomic>
-#include <fstream>
-#include <iterator>
-#include <random>
+#include "tools/support/Files.hpp"
 
 namespace {
-
-std::filesystem::path FreshFolder() {
-    static std::atomic<unsigned> count{0};
-    static const unsigned process = std::random_device{}();
-    auto folder = std::filesystem::temp_directory_path() /
-                  ("kestrel-ini-" + std::to_string(process) + "-" + std::to_string(count++));
-    std::filesystem::create_directories(folder);
-    return folder;
-}
 
 std::string CommentSuffix(const std::optional<std::string> &Comment) {
     return Comment ? " ;" + *Comment : "";
@@ -50,12 +38,7 @@ void ShowEntry(const quillINI::IniEntry &Entry, ShownLines &Lines) {
 } // namespace
 
 ScratchFile::ScratchFile(std::string_view Name)
-    : Folder(FreshFolder()), File(Folder / std::filesystem::path(std::u8string(Name.begin(), Name.end()))) {}
-
-ScratchFile::~ScratchFile() {
-    std::error_code ignored;
-    std::filesystem::remove_all(Folder, ignored);
-}
+    : File(Folder.Path() / std::filesystem::path(std::u8string(Name.begin(), Name.end()))) {}
 
 std::string ScratchFile::Path() const {
     const std::u8string path = File.u8string();
@@ -63,15 +46,11 @@ std::string ScratchFile::Path() const {
 }
 
 void ScratchFile::Fill(std::string_view Bytes) const {
-    std::ofstream file(File, std::ios::binary);
-    file.write(Bytes.data(), static_cast<std::streamsize>(Bytes.size()));
-    ASSERT_TRUE(file.good());
+    WriteBytes(File, Bytes);
 }
 
 std::string ScratchFile::Bytes() const {
-    std::ifstream file(File, std::ios::binary);
-    EXPECT_TRUE(file.is_open());
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    return ReadBytes(File);
 }
 
 OutputCatcher::OutputCatcher() {

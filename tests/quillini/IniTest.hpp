@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quillini/quillini.hpp"
+#include "tools/support/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
 
@@ -19,16 +20,13 @@
 class ScratchFile {
 public:
     explicit ScratchFile(std::string_view Name = "file.ini");
-    ~ScratchFile();
-    ScratchFile(const ScratchFile &) = delete;
-    ScratchFile &operator=(const ScratchFile &) = delete;
 
     std::string Path() const;
     void Fill(std::string_view Bytes) const;
     std::string Bytes() const;
 
 private:
-    std::filesystem::path Folder;
+    TemporaryFolder Folder;
     std::filesystem::path File;
 };
 

@@ -100,7 +100,7 @@ TEST_F(LoadOptionsTest, KnowsSectionsAndKeysToTheLetter) {
 
 TEST_F(LoadOptionsTest, ChangesNothingWhateverFailsOnTheWay) {
     Store("Config.ini", "[Options]\nLanguage=\"de\"\n");
-    const Lines failed = FailEach(
+    const CallNames failed = FailEach(
         [this] {
             State = {};
             return LoadOptions(State);
@@ -111,8 +111,8 @@ TEST_F(LoadOptionsTest, ChangesNothingWhateverFailsOnTheWay) {
             EXPECT_EQ(State.RefreshRates.empty(), !IsUntouched);
             EXPECT_EQ(Names(), Lines{"Config.ini"});
         });
-    EXPECT_EQ(failed, (Lines{"SDL_GetPrefPath", "SDL_OpenUserStorage", "SDL_StorageReady",
-                          "SDL_GetStoragePathInfo", "SDL_ReadStorageFile", "SDL_SaveFile"}));
+    EXPECT_EQ(failed, (CallNames{Watch.GetPrefPath, Watch.OpenUserStorage, Watch.StorageReady,
+                          Watch.GetStoragePathInfo, Watch.ReadStorageFile, Watch.SaveFile}));
 }
 
 TEST_F(LoadOptionsTest, TakesNothingFromALeftStagingFile) {

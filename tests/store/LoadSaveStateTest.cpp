@@ -68,10 +68,9 @@ StreamEntry SavedRun() {
 
 TEST_F(LoadSaveStateTest, IsFalseWithoutAFile) {
     State = BusyState();
-    const SdlWatch watch;
     EXPECT_FALSE(LoadSaveState(State));
     ExpectNothingLoaded();
-    EXPECT_EQ(watch.Count("SDL_Delay"), 0);
+    EXPECT_EQ(Watch.Delay.Count(), 0);
     EXPECT_EQ(Names(), Lines{});
 }
 

@@ -1,7 +1,6 @@
 #include "store/Paths.hpp"
 
 #include "tests/store/StoreTest.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
 
 namespace {
 
@@ -29,7 +28,7 @@ TEST(SafePaths, AreNoOthers) {
 class PrefPaths : public StoreTest {
 protected:
     std::string With(const char *Folder) {
-        Calls.PrefFolder = Folder;
+        MovePreferences(Folder);
         return PrefFilePath("Name.tmp");
     }
 };
@@ -52,9 +51,7 @@ TEST_F(PrefPaths, AreEmptyWithoutAName) {
 
 TEST_F(PrefPaths, AreEmptyWithoutAFolder) {
     EXPECT_EQ(With(""), "");
-    Calls.PrefFolder = nullptr;
-    SdlWatch watch;
-    watch.Refuse("SDL_GetPrefPath");
+    Watch.GetPrefPath.Refuse();
     EXPECT_EQ(PrefFilePath("Name.tmp"), "");
 }
 

@@ -1,6 +1,5 @@
 #include "tests/store/SaveTest.hpp"
 #include "tests/store/SmallDisk.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
 
 namespace {
 
@@ -47,7 +46,7 @@ protected:
 };
 
 TEST_F(SaveFaultsTest, KeepTheOldFileWhateverFailsInAWrite) {
-    const Lines failed = FailEach(
+    const CallNames failed = FailEach(
         [this] {
             return Write();
         },
@@ -56,12 +55,12 @@ TEST_F(SaveFaultsTest, KeepTheOldFileWhateverFailsInAWrite) {
             EXPECT_EQ(Stored("SaveState.bin") == Old, !IsUntouched);
             EXPECT_EQ(Names(), Lines{"SaveState.bin"});
         });
-    EXPECT_EQ(failed, (Lines{"SDL_GetPrefPath", "fopen", "SDL_LoadFile", "SDL_OpenUserStorage",
-                          "SDL_StorageReady", "SDL_WriteStorageFile"}));
+    EXPECT_EQ(failed, (CallNames{Watch.GetPrefPath, Watch.OpenFile, Watch.LoadFile, Watch.OpenUserStorage,
+                          Watch.StorageReady, Watch.WriteStorageFile}));
 }
 
 TEST_F(SaveFaultsTest, LoseNothingOfTheFileWhateverFailsInARead) {
-    const Lines failed = FailEach(
+    const CallNames failed = FailEach(
         [this] {
             return Read();
         },
@@ -71,39 +70,30 @@ TEST_F(SaveFaultsTest, LoseNothingOfTheFileWhateverFailsInARead) {
             EXPECT_EQ(Names(), Lines{"SaveState.bin"});
             IsUntouched ? ExpectSampleRun() : ExpectNothingRead();
         });
-    EXPECT_EQ(failed, (Lines{"SDL_GetPrefPath", "SDL_OpenUserStorage", "SDL_StorageReady",
-                          "SDL_GetStoragePathInfo", "SDL_ReadStorageFile", "SDL_SaveFile", "fopen"}));
+    EXPECT_EQ(failed, (CallNames{Watch.GetPrefPath, Watch.OpenUserStorage, Watch.StorageReady,
+                          Watch.GetStoragePathInfo, Watch.ReadStorageFile, Watch.SaveFile, Watch.OpenFile}));
 }
 
 TEST_F(SaveFaultsTest, AreToldOfThePlainFileAlone) {
-    const std::string cannotWrite = "Unable to write file: " + Staging() + "\n";
+    const auto expectWords = [this](const std::string &Words) {
+        return [this, Words](bool, bool) {
+            EXPECT_EQ(Said, Watch.Refused == Watch.OpenFile ? Words : "");
+        };
+    };
     FailEach(
         [this] {
-            const bool written = Write();
-            Said += Calls.FailedCall;
-            return written;
+            return Write();
         },
-        [&](bool, bool) {
-            EXPECT_TRUE(Said == cannotWrite + "fopen" ||
-                        (Said.find("fopen") == Said.npos && Said.find(' ') == Said.npos))
-                << Said;
-        });
-    const std::string cannotRead = "Unable to read file: " + Staging() + "!\n";
+        expectWords("Unable to write file: " + Staging() + "\n"));
     FailEach(
         [this] {
-            const bool read = Read();
-            Said += Calls.FailedCall;
-            return read;
+            return Read();
         },
-        [&](bool, bool) {
-            EXPECT_TRUE(Said == cannotRead + "fopen" ||
-                        (Said.find("fopen") == Said.npos && Said.find(' ') == Said.npos))
-                << Said;
-        });
+        expectWords("Unable to read file: " + Staging() + "!\n"));
 }
 
 TEST_F(SaveFaultsTest, EndAWriteIntoAStorageThatIsNeverReadyAfterTwoSeconds) {
-    Calls.IsNeverReady = true;
+    Watch.StorageReady.Refuse();
     const Uint64 start = SDL_GetTicksNS();
     EXPECT_FALSE(Write());
     EXPECT_GE((SDL_GetTicksNS() - start) / SDL_NS_PER_MS, 1999U);
@@ -131,8 +121,7 @@ TEST_F(SaveFaultsTest, EndWhereAFolderTakesTheFilesPlace) {
 }
 
 TEST_F(SaveFaultsTest, EndWhereTheHomeIsAFile) {
-    const std::string home = PathOf("SaveState.bin").string();
-    SDL_SetEnvironmentVariable(SDL_GetEnvironment(), "XDG_DATA_HOME", home.c_str(), true);
+    const EnvironmentScope home("XDG_DATA_HOME", PathOf("SaveState.bin").string());
     EXPECT_FALSE(Write());
     EXPECT_FALSE(Read());
     ExpectNothingRead();
@@ -141,9 +130,9 @@ TEST_F(SaveFaultsTest, EndWhereTheHomeIsAFile) {
 
 TEST_F(SaveFaultsTest, AreOvercomeByTheNextWrite) {
     Store(".SaveState.bin.tmp", "left by a crash");
-    Calls.PrefFolder = "";
+    MovePreferences("");
     EXPECT_FALSE(Write());
-    Calls.PrefFolder = nullptr;
+    Watch.GetPrefPath.Answer = nullptr;
     EXPECT_TRUE(Write());
     EXPECT_EQ(Names(), Lines{"SaveState.bin"});
     EXPECT_TRUE(Read());
@@ -199,8 +188,10 @@ TEST_F(SaveFaultsTest, TakeStoragesWordOnADiskThatFillsUp) {
         }
         Store("SaveState.bin", Old);
         disk.FillUpTo(room);
-        Calls.WasWritten = false;
-        EXPECT_EQ(WriteState(LongRun()), Calls.WasWritten);
+        Watch.Forget();
+        const bool written = WriteState(LongRun());
+        const std::vector<bool> &writes = Watch.WriteStorageFile.Results;
+        EXPECT_EQ(written, !writes.empty() && writes.back());
         EXPECT_EQ(Said, "");
         EXPECT_EQ(Names(), (Lines{"SaveState.bin", "filler"}));
         Read();

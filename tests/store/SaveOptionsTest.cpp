@@ -143,7 +143,7 @@ TEST_F(SaveOptionsTest, KeepTheOldFileWhateverFailsAndSayNothing) {
     Store("Config.ini", "old contents");
     const LogCatcher log;
     testing::internal::CaptureStdout();
-    const Lines failed = FailEach(
+    const CallNames failed = FailEach(
         [this] {
             return SaveOptions(State);
         },
@@ -154,8 +154,8 @@ TEST_F(SaveOptionsTest, KeepTheOldFileWhateverFailsAndSayNothing) {
         });
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
     EXPECT_EQ(log.Lines, Lines{});
-    EXPECT_EQ(failed, (Lines{"SDL_GetPrefPath", "SDL_LoadFile", "SDL_OpenUserStorage", "SDL_StorageReady",
-                          "SDL_WriteStorageFile"}));
+    EXPECT_EQ(failed, (CallNames{Watch.GetPrefPath, Watch.LoadFile, Watch.OpenUserStorage, Watch.StorageReady,
+                          Watch.WriteStorageFile}));
 }
 
 TEST_F(SaveOptionsTest, FailWhereAFolderTakesThePlainFilesPlace) {
@@ -170,8 +170,7 @@ TEST_F(SaveOptionsTest, FailWhereAFolderTakesThePlainFilesPlace) {
 
 TEST_F(SaveOptionsTest, FailWhereTheHomeIsAFile) {
     Store("Config.ini", "old contents");
-    SDL_SetEnvironmentVariable(
-        SDL_GetEnvironment(), "XDG_DATA_HOME", PathOf("Config.ini").string().c_str(), true);
+    const EnvironmentScope home("XDG_DATA_HOME", PathOf("Config.ini").string());
     testing::internal::CaptureStdout();
     EXPECT_FALSE(SaveOptions(State));
     EXPECT_FALSE(LoadOptions(State));

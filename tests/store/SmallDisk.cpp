@@ -1,6 +1,8 @@
 #include "tests/store/SmallDisk.hpp"
 
-#include "tests/store/StoreTest.hpp"
+#include "tools/support/Files.hpp"
+
+#include <gtest/gtest.h>
 
 #include <sched.h>
 #include <sys/mount.h>

@@ -1,7 +1,6 @@
 #include "store/StagedFile.hpp"
 
 #include "tests/store/StoreTest.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
 
 namespace {
 
@@ -41,16 +40,15 @@ TEST_F(StagedFileTest, IsWrittenThroughThePlainFile) {
 
 TEST_F(StagedFileTest, IsNotTouchedIfThePlainFileCannotBeWritten) {
     Store("a.bin", "old");
-    const SdlWatch watch;
     EXPECT_FALSE(Write(false));
-    EXPECT_EQ(watch.Count("SDL_LoadFile"), 0);
+    EXPECT_EQ(Watch.LoadFile.Count(), 0);
     EXPECT_EQ(Stored("a.bin"), "old");
     EXPECT_EQ(Names(), Lines{"a.bin"});
 }
 
 TEST_F(StagedFileTest, NeedsThePreferencesFolder) {
     Store("a.bin", "old");
-    Calls.PrefFolder = "";
+    MovePreferences("");
     EXPECT_FALSE(Write(true));
     EXPECT_FALSE(Read(true));
     EXPECT_EQ(Steps, 0);
@@ -66,7 +64,7 @@ TEST_F(StagedFileTest, IsWrittenOverWhatACrashLeft) {
 
 TEST_F(StagedFileTest, KeepsItsOldBytesThroughEveryFailureOfAWrite) {
     Store("a.bin", "old");
-    const Lines failed = FailEach(
+    const CallNames failed = FailEach(
         [this] {
             return Write(true);
         },
@@ -75,8 +73,8 @@ TEST_F(StagedFileTest, KeepsItsOldBytesThroughEveryFailureOfAWrite) {
             EXPECT_EQ(Stored("a.bin"), IsUntouched ? "new" : "old");
             EXPECT_EQ(Names(), Lines{"a.bin"});
         });
-    EXPECT_EQ(failed, (Lines{"SDL_GetPrefPath", "SDL_LoadFile", "SDL_OpenUserStorage", "SDL_StorageReady",
-                          "SDL_WriteStorageFile"}));
+    EXPECT_EQ(failed, (CallNames{Watch.GetPrefPath, Watch.LoadFile, Watch.OpenUserStorage, Watch.StorageReady,
+                          Watch.WriteStorageFile}));
 }
 
 TEST_F(StagedFileTest, IsReadThroughThePlainFile) {
@@ -102,7 +100,7 @@ TEST_F(StagedFileTest, NeverReadsWhatACrashLeft) {
 
 TEST_F(StagedFileTest, IsNotReadAfterAnyFailureOfTheCopy) {
     Store("a.bin", "old");
-    const Lines failed = FailEach(
+    const CallNames failed = FailEach(
         [this] {
             Steps = 0;
             return Read(true);
@@ -112,8 +110,8 @@ TEST_F(StagedFileTest, IsNotReadAfterAnyFailureOfTheCopy) {
             EXPECT_EQ(Steps, IsUntouched ? 1 : 0);
             EXPECT_EQ(Names(), Lines{"a.bin"});
         });
-    EXPECT_EQ(failed, (Lines{"SDL_GetPrefPath", "SDL_OpenUserStorage", "SDL_StorageReady",
-                          "SDL_GetStoragePathInfo", "SDL_ReadStorageFile", "SDL_SaveFile"}));
+    EXPECT_EQ(failed, (CallNames{Watch.GetPrefPath, Watch.OpenUserStorage, Watch.StorageReady,
+                          Watch.GetStoragePathInfo, Watch.ReadStorageFile, Watch.SaveFile}));
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "store/Storage.hpp"
 
 #include "tests/store/StoreTest.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
 
 namespace {
 
@@ -14,7 +13,7 @@ class StorageTest : public StoreTest {
 protected:
     StorageTest() : Storage(SDL_OpenUserStorage("Orrin", "KestrelVolley", 0)) {
         EXPECT_NE(Storage, nullptr) << SDL_GetError();
-        Watch.Calls.clear();
+        Watch.Forget();
     }
     ~StorageTest() override {
         SDL_CloseStorage(Storage);
@@ -24,10 +23,9 @@ protected:
         return PathOf("staging").string();
     }
     void ExpectAllClosed(int Opened) const {
-        EXPECT_EQ(Watch.Count("SDL_CloseStorage"), Opened);
+        EXPECT_EQ(Watch.CloseStorage.Count(), Opened);
     }
 
-    SdlWatch Watch;
     SDL_Storage *Storage;
 };
 
@@ -35,20 +33,20 @@ using WaitForStorageTest = StorageTest;
 
 TEST_F(WaitForStorageTest, GoesOnAtOnceWithAReadyOne) {
     EXPECT_TRUE(WaitForStorage(Storage));
-    EXPECT_EQ(Watch.Count("SDL_StorageReady"), 1);
-    EXPECT_EQ(Watch.Count("SDL_Delay"), 0);
+    EXPECT_EQ(Watch.StorageReady.Count(), 1);
+    EXPECT_EQ(Watch.Delay.Count(), 0);
 }
 
 TEST_F(WaitForStorageTest, AsksAgainAfterAMillisecond) {
-    Watch.Refuse("SDL_StorageReady", 1);
+    Watch.StorageReady.Refuse(1);
     EXPECT_TRUE(WaitForStorage(Storage));
-    EXPECT_EQ(Watch.NamesAmong({"SDL_StorageReady", "SDL_Delay"}),
-        (Lines{"SDL_StorageReady", "SDL_Delay", "SDL_StorageReady"}));
-    EXPECT_EQ(Watch.CallsOf("SDL_Delay"), (std::vector<SdlCall>{{"SDL_Delay", {1}}}));
+    EXPECT_EQ(Watch.OrderOf({Watch.StorageReady, Watch.Delay}),
+        (CallNames{Watch.StorageReady, Watch.Delay, Watch.StorageReady}));
+    EXPECT_EQ(Watch.Delay.OnlyCall(), std::tuple(1U));
 }
 
 TEST_F(WaitForStorageTest, GivesUpAfterTwoSeconds) {
-    Calls.IsNeverReady = true;
+    Watch.StorageReady.Refuse();
     SDL_ClearError();
     const Uint64 start = SDL_GetTicksNS();
     EXPECT_FALSE(WaitForStorage(Storage));
@@ -56,32 +54,32 @@ TEST_F(WaitForStorageTest, GivesUpAfterTwoSeconds) {
     EXPECT_GE(milliseconds, 1999U); // the game's clock has whole milliseconds
     EXPECT_LT(milliseconds, 4000U);
     EXPECT_STREQ(SDL_GetError(), TimeOut);
-    EXPECT_GT(Watch.Count("SDL_Delay"), 100);
-    EXPECT_EQ(Watch.CallsOf("SDL_Delay").front(), (SdlCall{"SDL_Delay", {1}}));
+    EXPECT_GT(Watch.Delay.Count(), 100);
+    EXPECT_EQ(Watch.Delay.Calls.front(), std::tuple(1U));
 }
 
 TEST_F(WaitForStorageTest, LooksAtTheClockOnlyAfterAsking) {
-    Calls.IsNeverReady = true;
-    Calls.ClockStep = 2000;
+    Watch.StorageReady.Refuse();
+    HurryClock(2000);
     EXPECT_FALSE(WaitForStorage(Storage));
-    EXPECT_EQ(Watch.Count("SDL_StorageReady"), 1);
-    EXPECT_EQ(Watch.Count("SDL_Delay"), 0);
-    Calls.IsNeverReady = false;
+    EXPECT_EQ(Watch.StorageReady.Count(), 1);
+    EXPECT_EQ(Watch.Delay.Count(), 0);
+    Watch.StorageReady.Refuse(0);
     EXPECT_TRUE(WaitForStorage(Storage));
 }
 
 TEST_F(WaitForStorageTest, StillAsksOnceMoreBeforeTheTwoSeconds) {
-    Calls.IsNeverReady = true;
-    Calls.ClockStep = 1000;
+    Watch.StorageReady.Refuse();
+    HurryClock(1000);
     EXPECT_FALSE(WaitForStorage(Storage));
-    EXPECT_EQ(Watch.Count("SDL_StorageReady"), 2);
-    EXPECT_EQ(Watch.Count("SDL_Delay"), 1);
+    EXPECT_EQ(Watch.StorageReady.Count(), 2);
+    EXPECT_EQ(Watch.Delay.Count(), 1);
 }
 
 TEST_F(WaitForStorageTest, HasTheSameWordsForShippedFiles) {
     SDL_Storage *title = SDL_OpenTitleStorage(Folder().string().c_str(), 0);
-    Calls.IsNeverReady = true;
-    Calls.ClockStep = 2000;
+    Watch.StorageReady.Refuse();
+    HurryClock(2000);
     EXPECT_FALSE(WaitForStorage(title));
     EXPECT_STREQ(SDL_GetError(), TimeOut);
     SDL_CloseStorage(title);
@@ -114,47 +112,51 @@ TEST_F(CopyStorageFileTest, TakesASingleByte) {
 TEST_F(CopyStorageFileTest, RefusesToGoWithoutAName) {
     EXPECT_FALSE(CopyStorageFile(Storage, nullptr, Staging()));
     EXPECT_FALSE(CopyStorageFile(Storage, "", Staging()));
-    EXPECT_EQ(Watch.Calls, std::vector<SdlCall>{});
+    EXPECT_EQ(Watch.Order(), CallNames());
     EXPECT_EQ(Names(), Lines{});
 }
 
 TEST_F(CopyStorageFileTest, FailsWithoutWaitingIfThereIsNoFile) {
     EXPECT_FALSE(CopyStorageFile(Storage, "a.bin", Staging()));
     EXPECT_EQ(
-        Watch.NamesAmong({"SDL_StorageReady", "SDL_Delay", "SDL_GetStoragePathInfo", "SDL_ReadStorageFile"}),
-        (Lines{"SDL_StorageReady", "SDL_GetStoragePathInfo"}));
+        Watch.OrderOf({Watch.StorageReady, Watch.Delay, Watch.GetStoragePathInfo, Watch.ReadStorageFile}),
+        (CallNames{Watch.StorageReady, Watch.GetStoragePathInfo}));
     EXPECT_EQ(Names(), Lines{});
 }
 
 TEST_F(CopyStorageFileTest, CountsAnEmptyFileAsAbsent) {
     Store("a.bin", "");
     EXPECT_FALSE(CopyStorageFile(Storage, "a.bin", Staging()));
-    EXPECT_EQ(Watch.Count("SDL_ReadStorageFile"), 0);
+    EXPECT_EQ(Watch.ReadStorageFile.Count(), 0);
     EXPECT_EQ(Names(), Lines{"a.bin"});
 }
 
 TEST_F(CopyStorageFileTest, RefusesAFolder) {
     std::filesystem::create_directory(PathOf("a.bin"));
     EXPECT_FALSE(CopyStorageFile(Storage, "a.bin", Staging()));
-    EXPECT_EQ(Watch.Count("SDL_ReadStorageFile"), 0);
+    EXPECT_EQ(Watch.ReadStorageFile.Count(), 0);
 }
 
 TEST_F(CopyStorageFileTest, RefusesWhateverIsNoFileThoughItHasASize) {
     Store("a.bin", "bytes");
     for (const SDL_PathType type : {SDL_PATHTYPE_DIRECTORY, SDL_PATHTYPE_OTHER}) {
-        Calls.ToldType = type;
+        Watch.GetStoragePathInfo.Answer = [type](SDL_Storage *Asked, const char *Path, SDL_PathInfo *Info) {
+            const bool found = SDL_GetStoragePathInfo(Asked, Path, Info);
+            Info->type = type;
+            return found;
+        };
         EXPECT_FALSE(CopyStorageFile(Storage, "a.bin", Staging()));
     }
-    EXPECT_EQ(Watch.Count("SDL_ReadStorageFile"), 0);
+    EXPECT_EQ(Watch.ReadStorageFile.Count(), 0);
     EXPECT_EQ(Names(), Lines{"a.bin"});
 }
 
 TEST_F(CopyStorageFileTest, FailsIfTheStorageIsNeverReady) {
     Store("a.bin", "bytes");
-    Calls.IsNeverReady = true;
-    Calls.ClockStep = 700;
+    Watch.StorageReady.Refuse();
+    HurryClock(700);
     EXPECT_FALSE(CopyStorageFile(Storage, "a.bin", Staging()));
-    EXPECT_EQ(Watch.Count("SDL_GetStoragePathInfo"), 0);
+    EXPECT_EQ(Watch.GetStoragePathInfo.Count(), 0);
 }
 
 TEST_F(CopyStorageFileTest, FailsIfThePlainFileCannotBeWritten) {
@@ -164,15 +166,15 @@ TEST_F(CopyStorageFileTest, FailsIfThePlainFileCannotBeWritten) {
 
 TEST_F(CopyStorageFileTest, FailsWithEachOfItsCalls) {
     Store("a.bin", "bytes");
-    const Lines failed = FailEach(
+    const CallNames failed = FailEach(
         [this] {
             return CopyStorageFile(Storage, "a.bin", Staging());
         },
         [](bool IsUntouched, bool Result) {
             EXPECT_EQ(Result, IsUntouched);
         });
-    EXPECT_EQ(
-        failed, (Lines{"SDL_StorageReady", "SDL_GetStoragePathInfo", "SDL_ReadStorageFile", "SDL_SaveFile"}));
+    EXPECT_EQ(failed,
+        (CallNames{Watch.StorageReady, Watch.GetStoragePathInfo, Watch.ReadStorageFile, Watch.SaveFile}));
 }
 
 using CopyUserStorageFileTest = StorageTest;
@@ -181,35 +183,35 @@ TEST_F(CopyUserStorageFileTest, OpensStorageForTheOneCopy) {
     Store("a.bin", "bytes");
     EXPECT_TRUE(CopyUserStorageFile("a.bin", Staging()));
     EXPECT_EQ(ReadBytes(Staging()), "bytes");
-    EXPECT_EQ(Watch.NamesAmong({"SDL_OpenUserStorage", "SDL_ReadStorageFile", "SDL_CloseStorage"}),
-        (Lines{"SDL_OpenUserStorage", "SDL_ReadStorageFile", "SDL_CloseStorage"}));
+    EXPECT_EQ(Watch.OrderOf({Watch.OpenUserStorage, Watch.ReadStorageFile, Watch.CloseStorage}),
+        (CallNames{Watch.OpenUserStorage, Watch.ReadStorageFile, Watch.CloseStorage}));
 }
 
 TEST_F(CopyUserStorageFileTest, RefusesToGoWithoutAName) {
     EXPECT_FALSE(CopyUserStorageFile("", Staging()));
-    EXPECT_EQ(Watch.Count("SDL_OpenUserStorage"), 0);
+    EXPECT_EQ(Watch.OpenUserStorage.Count(), 0);
 }
 
 TEST_F(CopyUserStorageFileTest, ClosesStorageWithoutAFile) {
     EXPECT_FALSE(CopyUserStorageFile("a.bin", Staging()));
-    EXPECT_EQ(Watch.Count("SDL_OpenUserStorage"), 1);
+    EXPECT_EQ(Watch.OpenUserStorage.Count(), 1);
     ExpectAllClosed(1);
 }
 
 TEST_F(CopyUserStorageFileTest, FailsWithEachOfItsCallsAndClosesStorage) {
     Store("a.bin", "bytes");
-    const Lines failed = FailEach(
+    const CallNames failed = FailEach(
         [this] {
             return CopyUserStorageFile("a.bin", Staging());
         },
         [this](bool IsUntouched, bool Result) {
             EXPECT_EQ(Result, IsUntouched);
-            const bool wasOpened = Watch.Count("SDL_StorageReady") > 0;
+            const bool wasOpened = Watch.StorageReady.Count() > 0;
             ExpectAllClosed(wasOpened ? 1 : 0);
-            Watch.Calls.clear();
+            Watch.Forget();
         });
-    EXPECT_EQ(failed, (Lines{"SDL_OpenUserStorage", "SDL_StorageReady", "SDL_GetStoragePathInfo",
-                          "SDL_ReadStorageFile", "SDL_SaveFile"}));
+    EXPECT_EQ(failed, (CallNames{Watch.OpenUserStorage, Watch.StorageReady, Watch.GetStoragePathInfo,
+                          Watch.ReadStorageFile, Watch.SaveFile}));
 }
 
 using WriteUserStorageFileTest = StorageTest;
@@ -220,10 +222,10 @@ TEST_F(WriteUserStorageFileTest, HandsThePlainFileOverInOneWrite) {
     EXPECT_TRUE(WriteUserStorageFile("a.bin", Staging()));
     EXPECT_EQ(Stored("a.bin"), bytes);
     EXPECT_EQ(ReadBytes(Staging()), bytes);
-    EXPECT_EQ(Watch.NamesAmong({"SDL_LoadFile", "SDL_OpenUserStorage", "SDL_StorageReady",
-                  "SDL_WriteStorageFile", "SDL_CloseStorage"}),
-        (Lines{"SDL_LoadFile", "SDL_OpenUserStorage", "SDL_StorageReady", "SDL_WriteStorageFile",
-            "SDL_CloseStorage"}));
+    EXPECT_EQ(Watch.OrderOf({Watch.LoadFile, Watch.OpenUserStorage, Watch.StorageReady,
+                  Watch.WriteStorageFile, Watch.CloseStorage}),
+        (CallNames{Watch.LoadFile, Watch.OpenUserStorage, Watch.StorageReady, Watch.WriteStorageFile,
+            Watch.CloseStorage}));
 }
 
 TEST_F(WriteUserStorageFileTest, ReplacesALongerFile) {
@@ -236,13 +238,13 @@ TEST_F(WriteUserStorageFileTest, ReplacesALongerFile) {
 TEST_F(WriteUserStorageFileTest, RefusesToGoWithoutAName) {
     WriteBytes(Staging(), "bytes");
     EXPECT_FALSE(WriteUserStorageFile("", Staging()));
-    EXPECT_EQ(Watch.Calls, std::vector<SdlCall>{});
+    EXPECT_EQ(Watch.Order(), CallNames());
 }
 
 TEST_F(WriteUserStorageFileTest, FailsWithoutAPlainFile) {
     Store("a.bin", "old");
     EXPECT_FALSE(WriteUserStorageFile("a.bin", Staging()));
-    EXPECT_EQ(Watch.Count("SDL_OpenUserStorage"), 0);
+    EXPECT_EQ(Watch.OpenUserStorage.Count(), 0);
     EXPECT_EQ(Stored("a.bin"), "old");
 }
 
@@ -250,7 +252,7 @@ TEST_F(WriteUserStorageFileTest, RefusesAnEmptyPlainFile) {
     Store("a.bin", "old");
     WriteBytes(Staging(), "");
     EXPECT_FALSE(WriteUserStorageFile("a.bin", Staging()));
-    EXPECT_EQ(Watch.Count("SDL_OpenUserStorage"), 0);
+    EXPECT_EQ(Watch.OpenUserStorage.Count(), 0);
     EXPECT_EQ(Stored("a.bin"), "old");
 }
 
@@ -264,7 +266,7 @@ TEST_F(WriteUserStorageFileTest, FailsWhereTheNameIsAFolder) {
 TEST_F(WriteUserStorageFileTest, FailsWithEachOfItsCallsAndTheOldFileStands) {
     Store("a.bin", "old");
     WriteBytes(Staging(), "new");
-    const Lines failed = FailEach(
+    const CallNames failed = FailEach(
         [this] {
             return WriteUserStorageFile("a.bin", Staging());
         },
@@ -272,12 +274,12 @@ TEST_F(WriteUserStorageFileTest, FailsWithEachOfItsCallsAndTheOldFileStands) {
             EXPECT_EQ(Result, IsUntouched);
             EXPECT_EQ(Stored("a.bin"), IsUntouched ? "new" : "old");
             EXPECT_EQ(ReadBytes(Staging()), "new");
-            const bool wasOpened = Watch.Count("SDL_StorageReady") > 0;
+            const bool wasOpened = Watch.StorageReady.Count() > 0;
             ExpectAllClosed(wasOpened ? 1 : 0);
-            Watch.Calls.clear();
+            Watch.Forget();
         });
-    EXPECT_EQ(
-        failed, (Lines{"SDL_LoadFile", "SDL_OpenUserStorage", "SDL_StorageReady", "SDL_WriteStorageFile"}));
+    EXPECT_EQ(failed,
+        (CallNames{Watch.LoadFile, Watch.OpenUserStorage, Watch.StorageReady, Watch.WriteStorageFile}));
 }
 
 } // namespace

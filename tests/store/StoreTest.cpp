@@ -1,21 +1,6 @@
 #include "tests/store/StoreTest.hpp"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
-
-std::string ReadBytes(const std::filesystem::path &Path) {
-    std::ifstream file(Path, std::ios::binary);
-    EXPECT_TRUE(file) << Path;
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void WriteBytes(const std::filesystem::path &Path, std::string_view Bytes) {
-    std::ofstream file(Path, std::ios::binary);
-    file.write(Bytes.data(), static_cast<std::streamsize>(Bytes.size()));
-    file.close();
-    EXPECT_TRUE(file) << Path;
-}
 
 std::vector<std::string> NamesIn(const std::filesystem::path &Folder) {
     std::vector<std::string> names;
@@ -62,23 +47,42 @@ std::vector<std::string> StoreTest::Names() const {
     return NamesIn(Folder());
 }
 
-std::vector<std::string> StoreTest::FailEach(
+CallNames StoreTest::FailEach(
     const std::function<bool()> &Operation, const std::function<void(bool, bool)> &Check) {
     constexpr int limit = 1000;
-    std::vector<std::string> failed;
-    Calls.ClockStep = 700; // a storage that is not ready is soon given up
+    const CallNames fallible{Watch.GetPrefPath, Watch.GetBasePath, Watch.OpenUserStorage,
+        Watch.OpenTitleStorage, Watch.StorageReady, Watch.GetStoragePathInfo, Watch.ReadStorageFile,
+        Watch.WriteStorageFile, Watch.LoadFile, Watch.SaveFile, Watch.OpenFile};
+    // A storage that is once not ready stays so, or else it would be waited for, and it is soon given up.
+    Watch.StorageReady.Answer = [this](SDL_Storage *Storage) {
+        return Watch.Refused != Watch.StorageReady && SDL_StorageReady(Storage);
+    };
+    HurryClock(700);
+    CallNames failed;
     for (int number = 1; number <= limit; ++number) {
-        Calls.FailOnly(number);
+        Watch.RefuseOnly(number, fallible);
         const bool result = Operation();
-        const std::string name = Calls.FailedCall;
-        Calls.FailOnly(0);
-        SCOPED_TRACE(name.empty() ? "untouched" : name);
-        Check(name.empty(), result);
-        if (name.empty()) {
+        SCOPED_TRACE(testing::PrintToString(Watch.Refused));
+        Check(!Watch.Refused.has_value(), result);
+        if (!Watch.Refused) {
+            Watch.RefuseOnly(0);
             return failed;
         }
-        failed.push_back(name);
+        failed.push_back(*Watch.Refused);
     }
     ADD_FAILURE() << "it never passes untouched";
     return failed;
+}
+
+void StoreTest::HurryClock(Uint64 Milliseconds) {
+    Watch.GetTicks.Answer = [this, Milliseconds] {
+        AddedTime += Milliseconds;
+        return SDL_GetTicks() + AddedTime;
+    };
+}
+
+void StoreTest::MovePreferences(const std::string &NewFolder) {
+    Watch.GetPrefPath.Answer = [NewFolder](const char *, const char *) {
+        return SDL_strdup(NewFolder.c_str());
+    };
 }

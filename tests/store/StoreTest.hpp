@@ -1,7 +1,8 @@
 #pragma once
 
-#include "tests/store/StorageCalls.hpp"
+#include "tests/store/StoreWatch.hpp"
 #include "tests/support/TemporaryHome.hpp"
+#include "tools/support/Files.hpp"
 
 #include <gtest/gtest.h>
 
@@ -11,16 +12,13 @@
 #include <string_view>
 #include <vector>
 
-std::string ReadBytes(const std::filesystem::path &Path);
-void WriteBytes(const std::filesystem::path &Path, std::string_view Bytes);
-
 /// The names in a folder, sorted.
 std::vector<std::string> NamesIn(const std::filesystem::path &Folder);
 
 /// Bytes as pairs of hex digits: readable where a comparison fails.
 std::string Hex(std::string_view Bytes);
 
-/// Runs a test with a home of its own, real storage in it, and calls that can be made to fail.
+/// Runs a test with a home of its own, real storage in it, and every call for its files watched.
 class StoreTest : public ::testing::Test {
 protected:
     StoreTest();
@@ -39,9 +37,17 @@ protected:
     /// Runs Operation with its first call made to fail, then with its second one, and so on until it passes
     /// untouched, and gives the calls that failed, in order. After each, Check(whether it was untouched, its
     /// result) is run.
-    std::vector<std::string> FailEach(
-        const std::function<bool()> &Operation, const std::function<void(bool, bool)> &Check);
+    CallNames FailEach(const std::function<bool()> &Operation, const std::function<void(bool, bool)> &Check);
+
+    /// Lets each look at the clock take so many milliseconds more.
+    void HurryClock(Uint64 Milliseconds);
+
+    /// Names the preferences folder that the program is told of.
+    void MovePreferences(const std::string &NewFolder);
 
     TemporaryHome Home;
-    StorageCalls Calls;
+    StoreWatch Watch;
+
+private:
+    Uint64 AddedTime = 0;
 };

@@ -1,8 +1,8 @@
 #include "store/TitleIni.hpp"
 
 #include "tests/store/StoreTest.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
 
+#include <optional>
 #include <stdexcept>
 
 namespace {
@@ -18,11 +18,20 @@ protected:
     TitleIni() : Title(Home.FilePath("Title")), Base(Home.FilePath("Base")), BaseText(Base.string()) {
         std::filesystem::create_directories(Title / "Music");
         std::filesystem::create_directories(Base / "Music");
-        Calls.TitleFolder = Title.string();
-        Calls.IsBaseGiven = true;
-        Calls.BaseFolder = BaseText.c_str();
+        TellTitle(Title.string());
+        TellBase(BaseText);
     }
 
+    void TellTitle(const std::string &Folder) {
+        Watch.OpenTitleStorage.Answer = [Folder](const char *, SDL_PropertiesID Properties) {
+            return SDL_OpenTitleStorage(Folder.c_str(), Properties);
+        };
+    }
+    void TellBase(const std::optional<std::string> &Folder) {
+        Watch.GetBasePath.Answer = [Folder] {
+            return Folder ? Folder->c_str() : nullptr;
+        };
+    }
     void Ship(const std::filesystem::path &Where, std::string_view Text) const {
         WriteBytes(Where / Path, Text);
     }
@@ -49,12 +58,11 @@ protected:
 TEST_F(TitleIni, IsReadFromTitleStorageFirst) {
     Ship(Title, "[Songs]\nFrom=title\n");
     Ship(Base, "[Songs]\nFrom=base\nMore=base\n");
-    const SdlWatch watch;
     EXPECT_TRUE(Read());
     EXPECT_EQ(Value("From"), "title");
     EXPECT_EQ(Value("More"), "none");
-    EXPECT_EQ(watch.Count("SDL_GetBasePath"), 0);
-    EXPECT_FALSE(Calls.IsTitleAsked);
+    EXPECT_EQ(Watch.GetBasePath.Count(), 0);
+    EXPECT_EQ(Watch.OpenTitleStorage.OnlyCall(), std::tuple(std::nullopt, 0U)); // of its own choice
     EXPECT_EQ(Printed, "");
     ExpectNoStagingFile();
 }
@@ -86,7 +94,7 @@ TEST_F(TitleIni, IsReadBesideTheProgramIfTitleStoragesIsRefused) {
 }
 
 TEST_F(TitleIni, IsRefusedTwiceWhereTitleStorageIsTheProgramsFolder) {
-    Calls.TitleFolder = BaseText;
+    TellTitle(BaseText);
     Ship(Base, "a=b\r\n");
     EXPECT_FALSE(Read());
     EXPECT_EQ(Printed, std::string(TooShort) + TooShort);
@@ -111,9 +119,9 @@ TEST_F(TitleIni, IsFalseWhereNothingIsShipped) {
 
 TEST_F(TitleIni, IsFalseWithoutTheProgramsFolder) {
     Ship(Base, "[Songs]\nFrom=base\n");
-    Calls.BaseFolder = nullptr;
+    TellBase(std::nullopt);
     EXPECT_FALSE(Read());
-    Calls.BaseFolder = "";
+    TellBase("");
     EXPECT_FALSE(Read());
     EXPECT_EQ(Printed, "");
     ExpectNoStagingFile();
@@ -124,12 +132,11 @@ TEST_F(TitleIni, JoinsTheProgramsFolderWithASeparatorUnlessItEndsInOne) {
     WriteBytes(BaseText + "\\a.ini", "[Songs]\nFrom=backslash\n");
     EXPECT_TRUE(Read("a.ini"));
     EXPECT_EQ(Value("From"), "folder");
-    BaseText += '/';
-    Calls.BaseFolder = BaseText.c_str();
+    TellBase(BaseText + '/');
     Document = {};
     EXPECT_TRUE(Read("a.ini"));
     EXPECT_EQ(Value("From"), "folder");
-    BaseText.back() = '\\';
+    TellBase(BaseText + '\\');
     Document = {};
     EXPECT_TRUE(Read("a.ini"));
     EXPECT_EQ(Value("From"), "backslash");
@@ -137,44 +144,41 @@ TEST_F(TitleIni, JoinsTheProgramsFolderWithASeparatorUnlessItEndsInOne) {
 
 TEST_F(TitleIni, IsNotLookedForOnAnUnsafePath) {
     WriteBytes(Home.FilePath("outside.ini"), "[Songs]\nFrom=outside\n");
-    const SdlWatch watch;
     for (const char *path :
         {"", "../outside.ini", "Music/../../outside.ini", "/etc/hostname", "\\a", "C:a", "./a"}) {
         EXPECT_FALSE(Read(path)) << path;
         EXPECT_EQ(Printed, "") << path;
     }
-    EXPECT_EQ(watch.Calls, std::vector<SdlCall>{});
+    EXPECT_EQ(Watch.Order(), CallNames());
     EXPECT_EQ(Value("From"), "none");
 }
 
 TEST_F(TitleIni, FallsBackWhateverFailsOnTheWayThroughTitleStorage) {
     Ship(Title, "[Songs]\nFrom=title\n");
     Ship(Base, "[Songs]\nFrom=base\n");
-    SdlWatch watch;
-    const Lines failed = FailEach(
+    const CallNames failed = FailEach(
         [this] {
             Document = {};
             return Read();
         },
-        [this, &watch](bool IsUntouched, bool Result) {
+        [this](bool IsUntouched, bool Result) {
             EXPECT_TRUE(Result);
             EXPECT_EQ(Value("From"), IsUntouched ? "title" : "base");
-            EXPECT_EQ(watch.Count("SDL_CloseStorage"), watch.Count("SDL_StorageReady") > 0 ? 1 : 0);
+            EXPECT_EQ(Watch.CloseStorage.Count(), Watch.StorageReady.Count() > 0 ? 1 : 0);
             ExpectNoStagingFile();
-            watch.Calls.clear();
+            Watch.Forget();
         });
-    EXPECT_EQ(failed, (Lines{"SDL_GetPrefPath", "SDL_OpenTitleStorage", "SDL_StorageReady",
-                          "SDL_GetStoragePathInfo", "SDL_ReadStorageFile", "SDL_SaveFile"}));
+    EXPECT_EQ(failed, (CallNames{Watch.GetPrefPath, Watch.OpenTitleStorage, Watch.StorageReady,
+                          Watch.GetStoragePathInfo, Watch.ReadStorageFile, Watch.SaveFile}));
 }
 
 TEST_F(TitleIni, DoesNotOpenTitleStorageWithoutThePreferencesFolder) {
     Ship(Title, "[Songs]\nFrom=title\n");
     Ship(Base, "[Songs]\nFrom=base\n");
-    Calls.PrefFolder = "";
-    const SdlWatch watch;
+    MovePreferences("");
     EXPECT_TRUE(Read());
     EXPECT_EQ(Value("From"), "base");
-    EXPECT_EQ(watch.Count("SDL_OpenTitleStorage"), 0);
+    EXPECT_EQ(Watch.OpenTitleStorage.Count(), 0);
 }
 
 TEST_F(TitleIni, TakesNothingFromALeftStagingFile) {

@@ -344,10 +344,10 @@ TEST_F(ValueStreamReaderTest, BeginsAnewWithEveryFile) {
 
 TEST_F(ValueStreamReaderTest, ReadsOnWhereTheSizeIsNotTold) {
     WriteBytes(Path, Int32Token(5));
-    Calls.IsTellRefused = true;
+    Watch.TellPosition.Refuse();
     testing::internal::CaptureStderr();
     EXPECT_TRUE(Reader.Load(Path));
-    Calls.IsTellRefused = false; // for the test framework
+    Watch.TellPosition.Refuse(0); // for the test framework
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
         "Warning: Unable to determine file size, proceeding without reservation!\n");
     ExpectScalar<std::int32_t>(ValueTag::Int32, 5);

@@ -18,26 +18,36 @@ std::uint32_t Picture::At(int X, int Y) const {
     return Pixels.at(index);
 }
 
+std::span<const std::uint32_t> Picture::Row(int Y) const {
+    const auto width = static_cast<std::size_t>(PixelWidth);
+    return std::span(Pixels).subspan(static_cast<std::size_t>(Y) * width, width);
+}
+
 SDL_Rect Picture::BoundsOfAllBut(std::uint32_t PackedColor) const {
     int left = PixelWidth;
     int top = PixelHeight;
     int right = 0;
     int bottom = 0;
     for (int y = 0; y < PixelHeight; ++y) {
-        for (int x = 0; x < PixelWidth; ++x) {
-            if (At(x, y) != PackedColor) {
-                left = std::min(left, x);
-                top = std::min(top, y);
-                right = std::max(right, x + 1);
-                bottom = std::max(bottom, y + 1);
-            }
+        const std::span<const std::uint32_t> row = Row(y);
+        const auto isOther = [PackedColor](std::uint32_t Color) {
+            return Color != PackedColor;
+        };
+        const auto first = std::find_if(row.begin(), row.end(), isOther);
+        if (first == row.end()) {
+            continue;
         }
+        const auto last = std::find_if(row.rbegin(), row.rend(), isOther);
+        left = std::min(left, static_cast<int>(first - row.begin()));
+        top = std::min(top, y);
+        right = std::max(right, static_cast<int>(row.rend() - last));
+        bottom = y + 1;
     }
     return right == 0 ? SDL_Rect{0, 0, 0, 0} : SDL_Rect{left, top, right - left, bottom - top};
 }
 
 Canvas::Canvas(int Width, int Height, std::uint32_t Background)
-    : Surface(SDL_CreateSurface(Width, Height, SDL_PIXELFORMAT_RGBA8888)),
+    : Surface(SDL_CreateSurface(Width, Height, SDL_PIXELFORMAT_ARGB8888)),
       SoftwareRenderer(SDL_CreateSoftwareRenderer(Surface)) {
     EXPECT_NE(SoftwareRenderer, nullptr) << SDL_GetError();
     SDL_SetRenderDrawBlendMode(SoftwareRenderer, SDL_BLENDMODE_BLEND);

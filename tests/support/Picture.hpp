@@ -3,6 +3,7 @@
 #include <SDL3/SDL.h>
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 // Real frames in memory, and their pixels. Colours are packed 0xAABBGGRR, red in the lowest byte.
@@ -25,6 +26,9 @@ public:
 
     /// The colour at a place inside the picture.
     std::uint32_t At(int X, int Y) const;
+
+    /// The colours of a whole row.
+    std::span<const std::uint32_t> Row(int Y) const;
 
     /// The smallest box around all that is not of one colour; of width 0 if there is nothing else.
     SDL_Rect BoundsOfAllBut(std::uint32_t PackedColor) const;

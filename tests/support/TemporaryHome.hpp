@@ -1,19 +1,20 @@
 #pragma once
 
+#include "tests/support/EnvironmentScope.hpp"
+#include "tools/support/TemporaryFolder.hpp"
+
 #include <filesystem>
 
 /// A new folder in which SDL keeps the user's files while this lives, so that a person's own are neither read
-/// nor written. It goes with everything in it.
+/// nor written. It goes with everything in it, and what was told of a home before is told again.
 class TemporaryHome {
 public:
-    TemporaryHome();
-    ~TemporaryHome();
-    TemporaryHome(const TemporaryHome &) = delete;
-    TemporaryHome &operator=(const TemporaryHome &) = delete;
-
     /// Where a file of the game lies in it.
-    std::filesystem::path FilePath(const char *Name) const;
+    std::filesystem::path FilePath(const char *Name) const {
+        return Folder.Path() / "Orrin" / "KestrelVolley" / Name;
+    }
 
 private:
-    std::filesystem::path Folder;
+    TemporaryFolder Folder;
+    EnvironmentScope DataHome{"XDG_DATA_HOME", Folder.Path().string()};
 };

@@ -3,7 +3,7 @@
 #include "state/GameState.hpp"
 #include "state/LanguageCode.hpp"
 #include "tests/support/Sdl.hpp"
-#include "tests/support/program/ProgramFolder.hpp"
+#include "tests/support/watch/ProgramFolder.hpp"
 
 #include <gtest/gtest.h>
 
@@ -73,7 +73,8 @@ protected:
         EXPECT_EQ(Localization.FallbackLanguage, Fallback);
     }
 
-    ProgramFolder Folder;
+    SdlWatch Watch;
+    const ProgramFolder Folder{Watch};
     LogCatcher Log;
     GameState State;
 
@@ -318,10 +319,10 @@ TEST_F(LanguagesTest, FilesAreReadInOrderAndTheFallbackIsNotReadTwice) {
     Folder.Write(English, "[T]\nHud.Stage = STAGE-EN\n");
     Folder.Write(German, "[T]\nHud.Stage = STAGE-DE\n");
     Load("en");
-    EXPECT_EQ(Folder.FilesRead, (Lines{Catalogue, English}));
-    Folder.FilesRead.clear();
+    EXPECT_EQ(Folder.FilesRead(), (Lines{Catalogue, English}));
+    Watch.Forget();
     Load("de");
-    EXPECT_EQ(Folder.FilesRead, (Lines{Catalogue, English, German}));
+    EXPECT_EQ(Folder.FilesRead(), (Lines{Catalogue, English, German}));
 }
 
 TEST_F(LanguagesTest, TextsAreLoadedIfEitherFileCouldBeRead) {

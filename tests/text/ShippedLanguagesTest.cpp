@@ -1,17 +1,16 @@
 #include "quillini/quillini.hpp"
 #include "state/GameState.hpp"
 #include "tests/support/Sdl.hpp"
-#include "tests/support/program/ProgramFolder.hpp"
+#include "tests/support/watch/ProgramFolder.hpp"
 #include "text/Languages.hpp"
 #include "text/Utf8.hpp"
+#include "tools/support/Files.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <set>
 #include <utility>
@@ -40,12 +39,6 @@ bool IsPrompt(const std::string &Key) {
 
 std::filesystem::path ShippedPath(const std::string &Name) {
     return std::filesystem::path(SHIPPED_DATA) / Name;
-}
-
-std::string BytesOf(const std::string &Name) {
-    std::ifstream file(ShippedPath(Name), std::ios::binary);
-    EXPECT_TRUE(file.is_open()) << Name;
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 /// A shipped file, read without a word of the reader's.
@@ -122,7 +115,8 @@ std::size_t Count(const std::string &Text, const std::string &Piece) {
 
 TEST(ShippedLanguages, AreFourWithEnglishAsDefaultAndFallback) {
     const LocalizationTable old = std::exchange(Localization, {});
-    const ProgramFolder folder(SHIPPED_DATA);
+    SdlWatch watch;
+    const ProgramFolder folder(watch, SHIPPED_DATA);
     GameState state;
     LoadLanguage(state);
     Lines codes;
@@ -143,10 +137,11 @@ TEST(ShippedLanguages, AreFourWithEnglishAsDefaultAndFallback) {
 
 TEST(ShippedLanguages, LoadWithoutAWord) {
     const LocalizationTable old = std::exchange(Localization, {});
-    ProgramFolder folder(SHIPPED_DATA);
+    SdlWatch watch;
+    const ProgramFolder folder(watch, SHIPPED_DATA);
     for (std::size_t i = 0; i < Codes.size(); ++i) {
         const LogCatcher log;
-        folder.FilesRead.clear();
+        watch.Forget();
         GameState state;
         state.Language = Codes[i];
         testing::internal::CaptureStdout();
@@ -156,7 +151,7 @@ TEST(ShippedLanguages, LoadWithoutAWord) {
         EXPECT_EQ(state.Language, Codes[i]);
         EXPECT_TRUE(Localization.TextsLoaded) << Codes[i];
         EXPECT_EQ(Localization.Texts.size(), TextTable.size()) << Codes[i];
-        EXPECT_EQ(folder.FilesRead.back(), Files[i]);
+        EXPECT_EQ(folder.FilesRead().back(), Files[i]);
     }
     Localization = old;
 }
@@ -188,7 +183,7 @@ TEST(ShippedLanguages, HaveEveryTextOnceAndNoOther) {
             EXPECT_TRUE(keys.contains(key)) << file << ": missing " << key;
         }
         // A key that stands twice in one section is one entry to the reader.
-        EXPECT_EQ(Count(BytesOf(file), " = \""), expected.size()) << file;
+        EXPECT_EQ(Count(ReadBytes(ShippedPath(file)), " = \""), expected.size()) << file;
     }
 }
 
@@ -204,7 +199,7 @@ TEST(ShippedLanguages, QuoteEveryText) {
 
 TEST(ShippedLanguages, AreUtf8WithoutAByteOrderMarkAndWithPlainLineEnds) {
     for (const std::string &file : Files) {
-        const std::string bytes = BytesOf(file);
+        const std::string bytes = ReadBytes(ShippedPath(file));
         EXPECT_FALSE(bytes.starts_with("\xEF\xBB\xBF")) << file;
         EXPECT_EQ(bytes.find('\r'), std::string::npos) << file;
         EXPECT_TRUE(bytes.ends_with("\n")) << file;

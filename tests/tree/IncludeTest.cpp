@@ -1,102 +1,236 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <regex>
+#include <sstream>
 #include <string>
-#include <string_view>
 #include <vector>
 
-// Which room may include which. An arrow that is not here is a mistake in the code, or a change of the house
-// that belongs into this table in the same commit.
+// Which room may use which stands once, in the kestrel_room of its CMakeLists.txt. Here the rooms are held to
+// it: each links only rooms that stand above it, includes only what it links, and links only what it
+// includes.
 
 namespace {
 
+namespace fs = std::filesystem;
+
+using Names = std::vector<std::string>;
+
 struct Room {
-    std::string_view Name;
-    std::vector<std::string_view> MayInclude; ///< other rooms, and "SDL3" and "SDL3_mixer"
+    std::string Name;
+    Names Links; ///< as the folders that they let in: other rooms, "SDL3", "SDL3_mixer"
 };
 
-const std::array<Room, 10> &Rooms() {
-    static const std::array<Room, 10> rooms{{
-        {"quillini", {}},
-        {"state", {}},
-        {"sim", {"state"}},
-        {"store", {"state", "sim", "quillini", "SDL3"}},
-        {"text", {"state", "store", "quillini", "SDL3"}},
-        {"input", {"state", "text", "sim", "SDL3"}},
-        {"options", {"state", "sim", "text", "SDL3"}},
-        {"audio", {"state", "sim", "store", "quillini", "SDL3", "SDL3_mixer"}},
-        {"gfx", {"state", "sim", "text", "input", "SDL3"}},
-        {"app", {"quillini", "state", "sim", "store", "text", "input", "options", "audio", "gfx", "SDL3"}},
-    }};
+/// An include that names a folder, as in "sim" of "sim/Lanes.hpp".
+struct Include {
+    std::string Folder;
+    std::string Place; ///< the file and the line, for a failure's words
+};
+
+const fs::path &Tree() {
+    static const fs::path tree(SOURCE_TREE);
+    return tree;
+}
+
+std::string TextOf(const fs::path &File) {
+    std::ostringstream text;
+    text << std::ifstream(File).rdbuf();
+    return text.str();
+}
+
+/// What the first group of a pattern matches, from the beginning of a text to its end.
+Names AllMatches(const std::string &Text, const std::string &Pattern) {
+    const std::regex pattern(Pattern, std::regex::ECMAScript | std::regex::multiline);
+    Names found;
+    for (std::sregex_iterator match(Text.begin(), Text.end(), pattern), end; match != end; ++match) {
+        found.push_back((*match)[1].str());
+    }
+    return found;
+}
+
+/// The rooms that a CMakeLists.txt declares, comments left aside.
+std::vector<Room> DeclaredRooms(const std::string &CMakeText) {
+    const std::string code = std::regex_replace(CMakeText, std::regex("#[^\n]*"), "");
+    std::vector<Room> rooms;
+    for (const std::string &arguments : AllMatches(code, R"(\bkestrel_room\s*\(([^)]*)\))")) {
+        std::istringstream words(arguments);
+        Room room;
+        words >> room.Name;
+        for (std::string link; words >> link;) {
+            room.Links.push_back(link.substr(0, link.find("::")));
+        }
+        rooms.push_back(room);
+    }
     return rooms;
 }
 
-/// The folder that an include names, as in "sim" of "sim/Lanes.hpp"; nothing for the standard library.
+/// The folders of the build, from top to bottom.
+Names FoldersOfTheBuild() {
+    return AllMatches(TextOf(Tree() / "CMakeLists.txt"), R"(^\s*add_subdirectory\(([^)\s]+)\))");
+}
+
+/// All rooms, from top to bottom.
+const std::vector<Room> &Rooms() {
+    static const std::vector<Room> rooms = [] {
+        std::vector<Room> found;
+        for (const std::string &folder : FoldersOfTheBuild()) {
+            std::ranges::copy(
+                DeclaredRooms(TextOf(Tree() / folder / "CMakeLists.txt")), std::back_inserter(found));
+        }
+        return found;
+    }();
+    return rooms;
+}
+
+Names NamesOf(const std::vector<Room> &Rooms) {
+    Names names;
+    std::ranges::transform(Rooms, std::back_inserter(names), &Room::Name);
+    return names;
+}
+
+/// The rooms in the order of a table whose first cells name them.
+Names RoomsOfTable(const std::string &Markdown) {
+    return AllMatches(Markdown, R"(^\| `([^`/]+)/` \|)");
+}
+
+/// The folder that a line of code includes from; nothing for other lines and the standard library.
 std::string FolderOfInclude(const std::string &Line) {
     static const std::regex pattern(R"(^\s*#\s*include\s*["<]([^"<>/]+)/)");
     std::smatch match;
     return std::regex_search(Line, match, pattern) ? match[1].str() : std::string();
 }
 
-bool Allows(const Room &Room, const std::string &Folder) {
-    return Folder == Room.Name || std::ranges::find(Room.MayInclude, Folder) != Room.MayInclude.end();
-}
-
-bool IsSource(const std::filesystem::path &File) {
+bool IsSource(const fs::path &File) {
     return File.extension() == ".cpp" || File.extension() == ".hpp";
 }
 
-/// Every include of a room that the table does not allow, as "file: line".
-std::vector<std::string> WrongIncludes(const Room &Room, int &FilesRead) {
-    std::vector<std::string> wrong;
-    const std::filesystem::path folder = std::filesystem::path(SOURCE_TREE) / Room.Name;
-    if (!std::filesystem::exists(folder)) {
-        return wrong;
-    }
-    for (const auto &entry : std::filesystem::recursive_directory_iterator(folder)) {
+std::vector<Include> IncludesOfRoom(const std::string &Name) {
+    std::vector<Include> includes;
+    for (const auto &entry : fs::recursive_directory_iterator(Tree() / Name)) {
         if (!IsSource(entry.path())) {
             continue;
         }
-        ++FilesRead;
         std::ifstream file(entry.path());
         for (std::string line; std::getline(file, line);) {
-            const std::string included = FolderOfInclude(line);
-            if (!included.empty() && !Allows(Room, included)) {
-                wrong.push_back(entry.path().filename().string() + ": " + line);
+            const std::string folder = FolderOfInclude(line);
+            if (!folder.empty()) {
+                includes.push_back({folder, entry.path().filename().string() + ": " + line});
             }
+        }
+    }
+    return includes;
+}
+
+bool Holds(const Names &List, const std::string &Entry) {
+    return std::ranges::find(List, Entry) != List.end();
+}
+
+/// Every link to a room that does not stand above the one that links it.
+Names LinksThatRunBack(const std::vector<Room> &Rooms) {
+    const Names all = NamesOf(Rooms);
+    Names above;
+    Names wrong;
+    for (const Room &room : Rooms) {
+        for (const std::string &link : room.Links) {
+            if (Holds(all, link) && !Holds(above, link)) {
+                wrong.push_back(room.Name + " links " + link);
+            }
+        }
+        above.push_back(room.Name);
+    }
+    return wrong;
+}
+
+/// Every include from a folder that the room does not link.
+Names IncludesWithoutLink(const Room &Room, const std::vector<Include> &Includes) {
+    Names wrong;
+    for (const Include &include : Includes) {
+        if (include.Folder != Room.Name && !Holds(Room.Links, include.Folder)) {
+            wrong.push_back(include.Place);
         }
     }
     return wrong;
 }
 
-} // namespace
-
-TEST(Includes, OnlyArrowsOfTheTableAreDrawn) {
-    int filesRead = 0;
-    for (const Room &room : Rooms()) {
-        EXPECT_EQ(WrongIncludes(room, filesRead), std::vector<std::string>{}) << "in " << room.Name;
-    }
-    EXPECT_GT(filesRead, 50) << "the rooms were not found";
+/// Every link that no include needs.
+Names LinksWithoutInclude(const Room &Room, const std::vector<Include> &Includes) {
+    Names unused;
+    std::ranges::copy_if(Room.Links, std::back_inserter(unused), [&Includes](const std::string &Link) {
+        return std::ranges::find(Includes, Link, &Include::Folder) == Includes.end();
+    });
+    return unused;
 }
 
-TEST(Includes, NoTwoRoomsMayIncludeEachOther) {
-    for (const Room &room : Rooms()) {
-        for (const Room &other : Rooms()) {
-            const bool both = room.Name != other.Name && Allows(room, std::string(other.Name)) &&
-                              Allows(other, std::string(room.Name));
-            EXPECT_FALSE(both) << room.Name << " and " << other.Name;
+} // namespace
+
+TEST(Rooms, EachIsTheLibraryOfItsOwnFolder) {
+    for (const std::string &folder : FoldersOfTheBuild()) {
+        for (const Room &room : DeclaredRooms(TextOf(Tree() / folder / "CMakeLists.txt"))) {
+            EXPECT_EQ(room.Name, folder);
         }
     }
 }
 
-TEST(Includes, AForbiddenArrowIsSeen) {
-    const Room &state = Rooms()[1];
-    EXPECT_FALSE(Allows(state, FolderOfInclude("#include \"sim/Lanes.hpp\"")));
-    EXPECT_FALSE(Allows(state, FolderOfInclude("#include <SDL3/SDL.h>")));
-    EXPECT_TRUE(Allows(state, FolderOfInclude("#include \"state/Screen.hpp\"")));
+TEST(Rooms, StandInTheReadmeInTheOrderOfTheBuild) {
+    EXPECT_EQ(RoomsOfTable(TextOf(Tree() / "README.md")), NamesOf(Rooms()));
+    EXPECT_GE(Rooms().size(), 10U) << "the rooms were not found";
+}
+
+TEST(Rooms, LinkOnlyThoseAboveThem) {
+    EXPECT_EQ(LinksThatRunBack(Rooms()), Names{});
+}
+
+TEST(Rooms, IncludeOnlyWhatTheyLink) {
+    for (const Room &room : Rooms()) {
+        const std::vector<Include> includes = IncludesOfRoom(room.Name);
+        EXPECT_FALSE(includes.empty()) << "in " << room.Name;
+        EXPECT_EQ(IncludesWithoutLink(room, includes), Names{}) << "in " << room.Name;
+    }
+}
+
+TEST(Rooms, LinkOnlyWhatTheyInclude) {
+    for (const Room &room : Rooms()) {
+        EXPECT_EQ(LinksWithoutInclude(room, IncludesOfRoom(room.Name)), Names{}) << "in " << room.Name;
+    }
+}
+
+TEST(Arrows, AreReadFromTheBuild) {
+    const std::vector<Room> rooms = DeclaredRooms("# kestrel_room(ghost)\n"
+                                                  "kestrel_room(sim state SDL3::SDL3) # not gfx\n"
+                                                  "target_link_libraries(sim PRIVATE text)\n"
+                                                  "kestrel_room(app\n    sim\n    SDL3_mixer::SDL3_mixer)\n");
+    ASSERT_EQ(NamesOf(rooms), (Names{"sim", "app"}));
+    EXPECT_EQ(rooms[0].Links, (Names{"state", "SDL3"}));
+    EXPECT_EQ(rooms[1].Links, (Names{"sim", "SDL3_mixer"}));
+    EXPECT_EQ(RoomsOfTable("| Folder | Holds |\n|---|---|\n| `sim/` | rules |\n| `Config.ini` | `gfx/` |\n"),
+        Names{"sim"});
+}
+
+TEST(Arrows, AreReadFromIncludes) {
+    EXPECT_EQ(FolderOfInclude("#include \"sim/Lanes.hpp\""), "sim");
+    EXPECT_EQ(FolderOfInclude("#include <SDL3/SDL.h>"), "SDL3");
+    EXPECT_EQ(FolderOfInclude("  # include \"../sim/Lanes.hpp\""), "..");
     EXPECT_EQ(FolderOfInclude("#include <vector>"), "");
+    EXPECT_EQ(FolderOfInclude("// #include \"sim/Lanes.hpp\""), "");
+}
+
+TEST(Arrows, ThoseThatRunBackAreSeen) {
+    EXPECT_EQ(
+        LinksThatRunBack({{"state", {}}, {"sim", {"state", "SDL3"}}, {"gfx", {"sim", "state"}}}), Names{});
+    EXPECT_EQ(LinksThatRunBack({{"state", {"gfx"}}, {"sim", {"state"}}, {"gfx", {"sim"}}}),
+        Names{"state links gfx"});
+    EXPECT_EQ(LinksThatRunBack({{"state", {}}, {"sim", {"sim"}}}), Names{"sim links sim"});
+}
+
+TEST(Arrows, ThoseOfOneSideOnlyAreSeen) {
+    const Room room{"gfx", {"sim", "SDL3"}};
+    const std::vector<Include> both{{"gfx", "own"}, {"sim", "Hud.cpp"}, {"SDL3", "Hud.hpp"}};
+    EXPECT_EQ(IncludesWithoutLink(room, both), Names{});
+    EXPECT_EQ(LinksWithoutInclude(room, both), Names{});
+    const std::vector<Include> wrong{{"sim", "Hud.cpp"}, {"store", "Hud.hpp"}};
+    EXPECT_EQ(IncludesWithoutLink(room, wrong), Names{"Hud.hpp"});
+    EXPECT_EQ(LinksWithoutInclude(room, wrong), Names{"SDL3"});
 }

@@ -2,9 +2,11 @@
 
 #include "tools/desktop/WaitUntil.hpp"
 
+#include <csignal>
 #include <filesystem>
 #include <initializer_list>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -27,6 +29,11 @@ Environment PrivateEnvironment(const std::filesystem::path &Home, const std::str
     }
     variables["LANG"] = "C.UTF-8";
     variables["DISPLAY"] = DisplayName;
+    // SDL's own renderer: it takes less of a processor than OpenGL does where no graphics card draws for it.
+    variables["SDL_RENDER_DRIVER"] = "software";
+    variables["SDL_FRAMEBUFFER_ACCELERATION"] = "0";
+    // A sanitizer that finds something tells where, unless we were started with settings of our own for it.
+    variables.try_emplace("UBSAN_OPTIONS", "print_stacktrace=1");
     // No session bus: it would be that of the person's own desktop.
     variables["DBUS_SESSION_BUS_ADDRESS"] = "disabled:";
     variables["SDL_AUDIO_DRIVER"] = "dummy";
@@ -38,6 +45,9 @@ Environment PrivateEnvironment(const std::filesystem::path &Home, const std::str
 Environment Joined(Environment Base, const Environment &Settings) {
     for (const auto &[name, value] : Settings) {
         Base[name] = value;
+        if (value.empty()) {
+            Base.erase(name);
+        }
     }
     return Base;
 }
@@ -51,6 +61,12 @@ GameSession::GameSession(const std::filesystem::path &Program, ScreenSize Screen
       Manager(Kind == Desk::Managed ? std::make_unique<WindowManager>(Display.Name(), UsedHome.Path(), Client)
                                     : nullptr),
       Game(Program, {}, Joined(PrivateEnvironment(UsedHome.Path(), Display.Name()), Settings)) {}
+
+// One that is still there when nobody looks any more has nothing left to show, and its fade-out is not waited
+// for.
+GameSession::~GameSession() {
+    Game.Send(SIGKILL);
+}
 
 std::optional<DesktopWindow> GameSession::WaitForWindow() {
     // While the renderer is made, SDL may put another window in the place of the first one.
@@ -72,22 +88,24 @@ std::optional<int> GameSession::Close() {
     return Game.WaitForExit(PatientDeadline);
 }
 
-std::optional<Picture> GameSession::WaitForPicture(const Sight &Shows, std::chrono::milliseconds Deadline) {
-    Picture seen;
+std::optional<Screenshot> GameSession::WaitForPicture(
+    const Sight &Shows, std::chrono::milliseconds Deadline, std::chrono::milliseconds Rest) {
+    Screenshot seen;
     bool shown = false;
     WaitUntil(
         [&] {
-            seen = Client.Screenshot();
+            seen = Client.Look();
             shown = Shows(seen);
             return shown || !Game.IsRunning();
         },
-        Deadline);
-    return shown ? std::optional(seen) : std::nullopt;
+        Deadline, Rest);
+    return shown ? std::optional(std::move(seen)) : std::nullopt;
 }
 
-std::optional<Picture> GameSession::Tap(Key Tapped, const Sight &Shows, std::chrono::milliseconds Deadline) {
+std::optional<Screenshot> GameSession::Tap(
+    Key Tapped, const Sight &Shows, std::chrono::milliseconds Deadline) {
     Client.PressKey(Tapped);
-    std::optional<Picture> seen = WaitForPicture(Shows, Deadline);
+    std::optional<Screenshot> seen = WaitForPicture(Shows, Deadline);
     Client.ReleaseKey(Tapped);
     return seen;
 }

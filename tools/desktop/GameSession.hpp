@@ -13,20 +13,25 @@
 #include <optional>
 
 // What a picture is asked for.
-using Sight = std::function<bool(const Picture &)>;
+using Sight = std::function<bool(const Screenshot &)>;
 
 // Whether a window manager looks after the display. Without one a window stays as large as it was opened.
 enum class Desk { Bare, Managed };
 
 // The real game on a display of its own, with a home folder of its own: it finds no options, no saved run and
-// no controller of the person whose machine this is, and makes no sound.
+// no controller of the person whose machine this is, makes no sound, and is drawn by SDL's own renderer. It
+// is killed with this record if it still runs.
 class GameSession {
 public:
-    // Starts the program. Settings are environment variables that come on top or replace ours. Prepared is
-    // the home folder, which must outlive this record; without one it is a new, empty one. Throws
-    // std::runtime_error if the display, its window manager or the program cannot be started.
+    // Starts the program. Settings are environment variables that come on top or replace ours, or take ours
+    // away where they are empty. Prepared is the home folder, which must outlive this record; without one it
+    // is a new, empty one. Throws std::runtime_error if the display, its window manager or the program cannot
+    // be started.
     GameSession(const std::filesystem::path &Program, ScreenSize Screen = {},
         const Environment &Settings = {}, const PreparedHome *Prepared = nullptr, Desk Kind = Desk::Bare);
+    ~GameSession();
+    GameSession(const GameSession &) = delete;
+    GameSession &operator=(const GameSession &) = delete;
 
     // Waits until the game shows its window, and gives it the keyboard. Nothing if it shows none in time, or
     // ends before.
@@ -34,13 +39,13 @@ public:
     // Asks the game's window to close and gives the program's result; nothing if it does not end in time.
     std::optional<int> Close();
 
-    // Takes pictures until one satisfies Shows, and gives that one; nothing if none did in time, or the game
-    // ended before.
-    std::optional<Picture> WaitForPicture(
-        const Sight &Shows, std::chrono::milliseconds Deadline = PatientDeadline);
+    // Takes pictures, with a rest after each, until one satisfies Shows, and gives that one; nothing if none
+    // did in time, or the game ended before.
+    std::optional<Screenshot> WaitForPicture(const Sight &Shows,
+        std::chrono::milliseconds Deadline = PatientDeadline, std::chrono::milliseconds Rest = ShortRest);
     // Presses the key, waits until the screen shows what that does, and releases it: so a frame of the game
     // has surely seen the key, however slow the game is. Gives the picture, as above.
-    std::optional<Picture> Tap(
+    std::optional<Screenshot> Tap(
         Key Tapped, const Sight &Shows, std::chrono::milliseconds Deadline = PatientDeadline);
 
     XClient &Person();

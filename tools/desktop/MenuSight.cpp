@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 namespace {
 
@@ -65,7 +66,7 @@ Area CellsAt(int Left, int Top, int Letters, int Scale) {
 
 // Whether the word fills its cells but for the blank squares at their sides, and nothing of its colour stands
 // in the cells before and after it, where a longer word would go on.
-bool Stands(const Picture &Seen, const Title &Word) {
+bool Stands(const Screenshot &Seen, const Title &Word) {
     const int cell = CellColumns * Word.Scale;
     const Area cells = CellsAt(Seen.Width / 2 + Word.Left, Word.Top, Word.Letters, Word.Scale);
     const Area around{cells.Left - cell, cells.Top - 1, cells.Right + cell, cells.Bottom + 1};
@@ -75,13 +76,13 @@ bool Stands(const Picture &Seen, const Title &Word) {
            ink.Right >= cells.Right - blank && ink.Top == cells.Top && ink.Bottom <= cells.Bottom;
 }
 
-bool IsLit(const Picture &Seen, const Area &Cells) {
+bool IsLit(const Screenshot &Seen, const Area &Cells) {
     return BoundsOfColor(Seen, Cells, SelectedColor) != Area{};
 }
 
 // The one row of the menu that is bright and marked; nothing unless that is exactly one, and all others are
 // neither.
-std::optional<int> FindSelectedRow(const Picture &Seen, const MenuPlace &Menu) {
+std::optional<int> FindSelectedRow(const Screenshot &Seen, const MenuPlace &Menu) {
     const int left = Seen.Width / 2 + CentredLeft(Menu.WidestLetters, Menu.Scale);
     std::optional<int> selected;
     for (int row = 0; row < Menu.Rows; ++row) {
@@ -108,22 +109,22 @@ const MenuPlace *PlaceOfMenu(const Title &Word) {
     return found == Menus.end() ? nullptr : &*found;
 }
 
-const Title *FindTitle(const Picture &Seen) {
+const Title *FindTitle(const Screenshot &Seen) {
     const auto *const found = std::find_if(Titles.begin(), Titles.end(), [&Seen](const Title &Word) {
         return Stands(Seen, Word);
     });
     return found == Titles.end() ? nullptr : &*found;
 }
 
-bool IsCredits(const Picture &Seen) {
-    return CountPixels(Seen, {0, 0, Seen.Width, Seen.Height}, [](const Pixel &Dot) {
-        return Dot != Black && Dot != SelectedColor && Dot != NameColor;
-    }) == 0;
+bool IsCredits(const Screenshot &Seen) {
+    return std::all_of(Seen.Pixels.begin(), Seen.Pixels.end(), [](std::uint32_t Dot) {
+        return Dot == Packed(Black) || Dot == Packed(SelectedColor) || Dot == Packed(NameColor);
+    });
 }
 
 } // namespace
 
-SeenScreen FindScreen(const Picture &Seen) {
+SeenScreen FindScreen(const Screenshot &Seen) {
     if (const Title *const title = FindTitle(Seen)) {
         return title->Screen;
     }
@@ -133,14 +134,14 @@ SeenScreen FindScreen(const Picture &Seen) {
     return IsCredits(Seen) ? SeenScreen::Credits : SeenScreen::None;
 }
 
-std::optional<SeenMenu> FindMenu(const Picture &Seen) {
+std::optional<SeenMenu> FindMenu(const Screenshot &Seen) {
     const Title *const title = FindTitle(Seen);
     const MenuPlace *const menu = title != nullptr ? PlaceOfMenu(*title) : nullptr;
     const std::optional<int> row = menu != nullptr ? FindSelectedRow(Seen, *menu) : std::nullopt;
     return row ? std::optional(SeenMenu{menu->Screen, menu->Rows, *row}) : std::nullopt;
 }
 
-std::optional<Area> FindCreditsText(const Picture &Seen) {
+std::optional<Area> FindCreditsText(const Screenshot &Seen) {
     if (FindScreen(Seen) != SeenScreen::Credits) {
         return std::nullopt;
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/desktop/Picture.hpp"
+#include "tools/desktop/Screenshot.hpp"
 
 #include <optional>
 
@@ -12,7 +12,7 @@ enum class SeenScreen { None, MainMenu, Options, Help, Playing, Paused, Credits,
 
 // Which screen is shown, None if it is none of the game's. A black one counts as the credits, which begin and
 // end so.
-SeenScreen FindScreen(const Picture &Seen);
+SeenScreen FindScreen(const Screenshot &Seen);
 
 // A menu: how many rows it has, and which of them, counted from 0, is bright and has the marker before it.
 struct SeenMenu {
@@ -24,8 +24,8 @@ struct SeenMenu {
 };
 
 // The menu of the screen that is shown. Nothing if it has none, or not exactly one row is selected.
-std::optional<SeenMenu> FindMenu(const Picture &Seen);
+std::optional<SeenMenu> FindMenu(const Screenshot &Seen);
 
 // The text lines of the credits that can be seen, as the area around them all; nothing if there is none, or
 // these are not the credits.
-std::optional<Area> FindCreditsText(const Picture &Seen);
+std::optional<Area> FindCreditsText(const Screenshot &Seen);

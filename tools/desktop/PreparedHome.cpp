@@ -1,27 +1,14 @@
 #include "tools/desktop/PreparedHome.hpp"
 
-#include <fstream>
-#include <sstream>
-#include <stdexcept>
+#include "tools/support/Files.hpp"
 
 void PreparedHome::Put(const std::string &Name, const std::string &Text) const {
-    const std::filesystem::path path = FileOf(Name);
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream file(path, std::ios::binary);
-    file << Text << std::flush;
-    if (!file) {
-        throw std::runtime_error(path.string() + " cannot be written");
-    }
+    WriteBytes(FileOf(Name), Text);
 }
 
 std::optional<std::string> PreparedHome::Read(const std::string &Name) const {
-    std::ifstream file(FileOf(Name), std::ios::binary);
-    if (!file) {
-        return std::nullopt;
-    }
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
+    const std::filesystem::path path = FileOf(Name);
+    return std::filesystem::is_regular_file(path) ? std::optional(ReadBytes(path)) : std::nullopt;
 }
 
 const std::filesystem::path &PreparedHome::Path() const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/desktop/TemporaryFolder.hpp"
+#include "tools/support/TemporaryFolder.hpp"
 
 #include <filesystem>
 #include <optional>

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <initializer_list>
+#include <span>
 
 namespace {
 
@@ -56,30 +58,31 @@ constexpr int KitRowTop = 167;
 constexpr int IconSize = 26;
 constexpr std::array<int, 3> IconLefts{0, 30, 60};
 
-int RoadCentre(const Picture &Seen) {
+int RoadCentre(const Screenshot &Seen) {
     return Seen.Width / 2;
 }
 
-Area RoadArea(const Picture &Seen, int Top, int Bottom) {
+Area RoadArea(const Screenshot &Seen, int Top, int Bottom) {
     return {RoadCentre(Seen) - RoadWidth / 2, Top, RoadCentre(Seen) + RoadWidth / 2, Bottom};
 }
 
-int PanelLeft(const Picture &Seen) {
+int PanelLeft(const Screenshot &Seen) {
     return Seen.Width - PanelMargin - PanelWidth;
 }
 
-// Things on the road may cover a stretch of an edge line, so a little more than half of it is enough.
-bool IsEdgeLine(const Picture &Seen, int X) {
-    const Area column{X, 0, X + 1, Seen.Height};
-    return CountPixels(Seen, column,
-               [](const Pixel &Dot) {
-                   return Dot == EdgeLineColor;
-               }) *
-               2 >
-           Seen.Height;
+// How many pixels of each column have the colour of the road's edge lines.
+std::vector<int> EdgeLinePixels(const Screenshot &Seen) {
+    std::vector<int> counts(static_cast<std::size_t>(Seen.Width));
+    for (int y = 0; y < Seen.Height; ++y) {
+        const std::span<const std::uint32_t> row = RowOf(Seen, y, 0, Seen.Width);
+        for (std::size_t x = 0; x < row.size(); ++x) {
+            counts[x] += row[x] == Packed(EdgeLineColor) ? 1 : 0;
+        }
+    }
+    return counts;
 }
 
-bool IsWholeDash(const Picture &Seen, int X, int Top) {
+bool IsWholeDash(const Screenshot &Seen, int X, int Top) {
     if (Top < 1 || Top + DashHeight >= Seen.Height) {
         return false;
     }
@@ -100,7 +103,7 @@ bool Touches(const Area &Shot, int X, int Y) {
 }
 
 // How wide a bar's fill is: the run of its colour in the middle row of the bar.
-int BarShown(const Picture &Seen, int Top, Pixel Color) {
+int BarShown(const Screenshot &Seen, int Top, Pixel Color) {
     const Area row{PanelLeft(Seen), Top + BarHeight / 2, Seen.Width, Top + BarHeight / 2 + 1};
     return CountPixels(Seen, row, [Color](const Pixel &Dot) {
         return Dot == Color;
@@ -108,7 +111,7 @@ int BarShown(const Picture &Seen, int Top, Pixel Color) {
 }
 
 // The lane in which a thing of one of these colours is lowest on the road, but not below the car.
-std::optional<int> LaneOfLowest(const Picture &Seen, std::initializer_list<Pixel> Colors) {
+std::optional<int> LaneOfLowest(const Screenshot &Seen, std::initializer_list<Pixel> Colors) {
     constexpr int halfBody = 8;
     std::optional<int> lane;
     int lowest = 0;
@@ -124,7 +127,7 @@ std::optional<int> LaneOfLowest(const Picture &Seen, std::initializer_list<Pixel
 }
 
 // How many icons with this colour stand in the row of the panel.
-int IconsShown(const Picture &Seen, int Top, Pixel Color) {
+int IconsShown(const Screenshot &Seen, int Top, Pixel Color) {
     return static_cast<int>(std::count_if(IconLefts.begin(), IconLefts.end(), [&](int Left) {
         const int x = PanelLeft(Seen) + Left;
         return BoundsOfColor(Seen, {x, Top, x + IconSize, Top + IconSize}, Color) != Area{};
@@ -132,7 +135,7 @@ int IconsShown(const Picture &Seen, int Top, Pixel Color) {
 }
 
 // Which pixels of eight digits in the left column are lit.
-std::vector<bool> DigitsAt(const Picture &Seen, int Top) {
+std::vector<bool> DigitsAt(const Screenshot &Seen, int Top) {
     std::vector<bool> lit;
     ForEachPixel(
         Seen, {TextLeft, Top, TextLeft + ScoreWidth, Top + TextHeight}, [&lit](int, int, const Pixel &Dot) {
@@ -143,10 +146,12 @@ std::vector<bool> DigitsAt(const Picture &Seen, int Top) {
 
 } // namespace
 
-std::optional<RoadPlace> FindRoad(const Picture &Seen) {
+std::optional<RoadPlace> FindRoad(const Screenshot &Seen) {
+    const std::vector<int> counts = EdgeLinePixels(Seen);
     std::vector<int> columns;
     for (int x = 0; x < Seen.Width; ++x) {
-        if (IsEdgeLine(Seen, x)) {
+        // Things on the road may cover a stretch of an edge line, so a little more than half of it is enough.
+        if (counts[static_cast<std::size_t>(x)] * 2 > Seen.Height) {
             columns.push_back(x);
         }
     }
@@ -158,12 +163,12 @@ std::optional<RoadPlace> FindRoad(const Picture &Seen) {
     return RoadPlace{columns.front(), columns.back() + 1};
 }
 
-std::optional<Area> FindCar(const Picture &Seen) {
+std::optional<Area> FindCar(const Screenshot &Seen) {
     const Area body = BoundsOfColor(Seen, RoadArea(Seen, CarTop, CarBottom), CarBodyColor);
     return body == Area{} ? std::nullopt : std::optional(body);
 }
 
-std::optional<int> FindCarLane(const Picture &Seen) {
+std::optional<int> FindCarLane(const Screenshot &Seen) {
     const std::optional<Area> car = FindCar(Seen);
     if (!car) {
         return std::nullopt;
@@ -176,7 +181,7 @@ std::optional<int> FindCarLane(const Picture &Seen) {
                                      : std::optional(static_cast<int>(lane - LaneOffsets.begin()));
 }
 
-std::vector<Area> FindShots(const Picture &Seen) {
+std::vector<Area> FindShots(const Screenshot &Seen) {
     std::vector<Area> shots;
     ForEachPixel(Seen, RoadArea(Seen, 0, CarBottom), [&](int X, int Y, const Pixel &Dot) {
         if (Dot != ShotColor) {
@@ -194,21 +199,21 @@ std::vector<Area> FindShots(const Picture &Seen) {
     return shots;
 }
 
-bool SeesEnemy(const Picture &Seen) {
+bool SeesEnemy(const Screenshot &Seen) {
     return CountPixels(Seen, RoadArea(Seen, 0, CarTop), [](const Pixel &Dot) {
         return Dot == EnemyColor || Dot == ToughEnemyColor;
     }) > 0;
 }
 
-std::optional<int> FindEnemyLane(const Picture &Seen) {
+std::optional<int> FindEnemyLane(const Screenshot &Seen) {
     return LaneOfLowest(Seen, {EnemyColor, ToughEnemyColor});
 }
 
-std::optional<int> FindKitLane(const Picture &Seen) {
+std::optional<int> FindKitLane(const Screenshot &Seen) {
     return LaneOfLowest(Seen, {KitColor});
 }
 
-std::optional<int> FindDashPhase(const Picture &Seen) {
+std::optional<int> FindDashPhase(const Screenshot &Seen) {
     for (int top = 1; top < CarTop; ++top) {
         if (IsWholeDash(Seen, RoadCentre(Seen), top)) {
             return top % DashPeriod;
@@ -219,7 +224,7 @@ std::optional<int> FindDashPhase(const Picture &Seen) {
 
 // The road itself is bluish throughout; under that light, red outweighs blue. It takes more than half of the
 // road around the car to be lit, so that no shot, item or burst counts.
-bool SeesBlast(const Picture &Seen) {
+bool SeesBlast(const Screenshot &Seen) {
     const Area patch = RoadArea(Seen, CarTop - 60, CarBottom);
     const int lit = CountPixels(Seen, patch, [](const Pixel &Dot) {
         return Dot.Red > Dot.Blue + 4;
@@ -227,31 +232,31 @@ bool SeesBlast(const Picture &Seen) {
     return lit * 2 > (patch.Right - patch.Left) * (patch.Bottom - patch.Top);
 }
 
-int HealthShown(const Picture &Seen) {
+int HealthShown(const Screenshot &Seen) {
     return BarShown(Seen, HealthBarTop, HealthColor);
 }
 
-int AmmoShown(const Picture &Seen) {
+int AmmoShown(const Screenshot &Seen) {
     return BarShown(Seen, AmmoBarTop, AmmoColor);
 }
 
-int BombsShown(const Picture &Seen) {
+int BombsShown(const Screenshot &Seen) {
     return IconsShown(Seen, BombRowTop, BombColor);
 }
 
-int KitsShown(const Picture &Seen) {
+int KitsShown(const Screenshot &Seen) {
     return IconsShown(Seen, KitRowTop, KitColor);
 }
 
-bool ScoreEqualsHighScore(const Picture &Seen) {
+bool ScoreEqualsHighScore(const Screenshot &Seen) {
     return DigitsAt(Seen, ScoreTop) == DigitsAt(Seen, HighScoreTop);
 }
 
-bool ScoreEquals(const Picture &Seen, const Picture &Other) {
+bool ScoreEquals(const Screenshot &Seen, const Screenshot &Other) {
     return DigitsAt(Seen, ScoreTop) == DigitsAt(Other, ScoreTop);
 }
 
-bool ScoreIsZero(const Picture &Seen) {
+bool ScoreIsZero(const Screenshot &Seen) {
     constexpr int scale = 3;
     for (int digit = 0; digit < 8; ++digit) {
         const int left = TextLeft + digit * DigitAdvance;

@@ -7,11 +7,14 @@
 // sanitizer are slow, and a wait that succeeds ends at once.
 inline constexpr std::chrono::milliseconds PatientDeadline{30000};
 
-// Asks IsTrue again and again, with a short rest between, until it holds. False if it never held within
+// How long a wait rests before it asks again.
+inline constexpr std::chrono::milliseconds ShortRest{10};
+
+// Asks IsTrue again and again, with a rest between, until it holds. False if it never held within
 // Deadline; it is asked at least once, and once more after the time is up.
 template <typename Predicate>
 bool WaitUntil(Predicate IsTrue, std::chrono::milliseconds Deadline = PatientDeadline,
-    std::chrono::milliseconds Rest = std::chrono::milliseconds{4}) {
+    std::chrono::milliseconds Rest = ShortRest) {
     const auto end = std::chrono::steady_clock::now() + Deadline;
     while (std::chrono::steady_clock::now() < end) {
         if (IsTrue()) {

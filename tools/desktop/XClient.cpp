@@ -3,12 +3,15 @@
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
+#include <X11/extensions/XShm.h>
 #include <X11/extensions/XTest.h>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <stdexcept>
+#include <sys/ipc.h>
+#include <sys/shm.h>
 #include <vector>
 
 namespace {
@@ -95,22 +98,84 @@ std::optional<DesktopWindow> FindBelow(Display *Server, Window Parent, const std
     return std::nullopt;
 }
 
-// Whether each pixel of the image is a number of four bytes, in our byte order, as a Picture holds it.
-bool HoldsPictureNumbers(const XImage &Image) {
+// Whether each pixel of the image is a number of four bytes, in our byte order, with the colours where a
+// packed pixel has them.
+bool HoldsPixelNumbers(const XImage &Image) {
     constexpr int ownByteOrder = std::endian::native == std::endian::little ? LSBFirst : MSBFirst;
     return Image.bits_per_pixel == 32 && Image.byte_order == ownByteOrder && Image.red_mask == 0xFF0000 &&
            Image.green_mask == 0xFF00 && Image.blue_mask == 0xFF;
 }
 
-Picture ToPicture(const XImage &Image) {
+// A memory image has rows without gaps where a pixel has 32 bits, as Xlib pads rows to no more than that.
+Screenshot ToScreenshot(const XImage &Image) {
     const auto width = static_cast<std::size_t>(Image.width);
     const auto height = static_cast<std::size_t>(Image.height);
-    const auto stride = static_cast<std::size_t>(Image.bytes_per_line);
-    Picture picture{Image.width, Image.height, std::vector<std::uint32_t>(width * height)};
-    for (std::size_t y = 0; y < height; ++y) {
-        std::memcpy(&picture.Pixels[y * width], Image.data + y * stride, width * sizeof(std::uint32_t));
+    Screenshot seen{Image.width, Image.height, std::vector<std::uint32_t>(width * height)};
+    std::memcpy(seen.Pixels.data(), Image.data, seen.Pixels.size() * sizeof(std::uint32_t));
+    for (std::uint32_t &dot : seen.Pixels) {
+        dot &= 0xFFFFFFU;
     }
-    return picture;
+    return seen;
+}
+
+// Memory into which the X server writes what the screen shows: a picture that it sends costs both sides
+// several times as much.
+class SharedImage {
+public:
+    // For a screen of that size, which may not outlive the connection.
+    SharedImage(Display *Owner, int Width, int Height);
+    ~SharedImage();
+    SharedImage(const SharedImage &) = delete;
+    SharedImage &operator=(const SharedImage &) = delete;
+
+    bool HasSize(int Width, int Height) const;
+    // What the screen shows now; null if the server shares no memory with us.
+    const XImage *Read();
+
+private:
+    Display *Server;
+    XShmSegmentInfo Segment{};
+    std::unique_ptr<XImage, DestroyImage> Image;
+    bool IsAttached = false;
+};
+
+SharedImage::SharedImage(Display *Owner, int Width, int Height) : Server(Owner) {
+    const int screen = XDefaultScreen(Server);
+    Image.reset(XShmCreateImage(Server, XDefaultVisual(Server, screen),
+        static_cast<unsigned int>(XDefaultDepth(Server, screen)), ZPixmap, nullptr, &Segment,
+        static_cast<unsigned int>(Width), static_cast<unsigned int>(Height)));
+    if (XShmQueryExtension(Server) == False || Image == nullptr) {
+        return;
+    }
+    const auto bytes = static_cast<std::size_t>(Image->bytes_per_line) * static_cast<std::size_t>(Height);
+    Segment.shmid = shmget(IPC_PRIVATE, bytes, IPC_CREAT | 0600);
+    void *const memory = shmat(Segment.shmid, nullptr, 0);
+    if (std::bit_cast<std::intptr_t>(memory) != -1) {
+        Segment.shmaddr = Image->data = static_cast<char *>(memory);
+        IsAttached = XShmAttach(Server, &Segment) != 0;
+        XSync(Server, False);
+    }
+    shmctl(Segment.shmid, IPC_RMID, nullptr); // it goes with the last who uses it
+}
+
+SharedImage::~SharedImage() {
+    if (IsAttached) {
+        XShmDetach(Server, &Segment);
+        XSync(Server, False);
+    }
+    if (Segment.shmaddr != nullptr) {
+        shmdt(Segment.shmaddr);
+    }
+}
+
+bool SharedImage::HasSize(int Width, int Height) const {
+    return Image != nullptr && Image->width == Width && Image->height == Height;
+}
+
+const XImage *SharedImage::Read() {
+    const bool isRead = IsAttached && XShmGetImage(Server, XDefaultRootWindow(Server), Image.get(), 0, 0,
+                                          XAllPlanes()) != False;
+    return isRead ? Image.get() : nullptr;
 }
 
 } // namespace
@@ -122,6 +187,7 @@ struct XClient::Connection {
         }
     }
     ~Connection() {
+        Shared.reset();
         XCloseDisplay(Server);
     }
     Connection(const Connection &) = delete;
@@ -136,6 +202,7 @@ struct XClient::Connection {
     }
 
     Display *Server;
+    std::unique_ptr<SharedImage> Shared;
 };
 
 XClient::XClient(const std::string &DisplayName) {
@@ -231,15 +298,23 @@ bool XClient::KeysRepeat() {
     return keyboard.global_auto_repeat == AutoRepeatModeOn;
 }
 
-Picture XClient::Screenshot() {
+Screenshot XClient::Look() {
     Display *server = Server->Server;
     XWindowAttributes screen{};
     XGetWindowAttributes(server, XDefaultRootWindow(server), &screen);
-    const std::unique_ptr<XImage, DestroyImage> image(
-        XGetImage(server, XDefaultRootWindow(server), 0, 0, static_cast<unsigned int>(screen.width),
-            static_cast<unsigned int>(screen.height), XAllPlanes(), ZPixmap));
-    if (image == nullptr || !HoldsPictureNumbers(*image)) {
+    if (Server->Shared == nullptr || !Server->Shared->HasSize(screen.width, screen.height)) {
+        Server->Shared = std::make_unique<SharedImage>(server, screen.width, screen.height);
+    }
+    const XImage *seen = Server->Shared->Read();
+    std::unique_ptr<XImage, DestroyImage> sent;
+    if (seen == nullptr) {
+        sent.reset(
+            XGetImage(server, XDefaultRootWindow(server), 0, 0, static_cast<unsigned int>(screen.width),
+                static_cast<unsigned int>(screen.height), XAllPlanes(), ZPixmap));
+        seen = sent.get();
+    }
+    if (seen == nullptr || !HoldsPixelNumbers(*seen)) {
         throw std::runtime_error("The screen cannot be read as a picture of 24 bits a pixel");
     }
-    return ToPicture(*image);
+    return ToScreenshot(*seen);
 }

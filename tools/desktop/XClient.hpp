@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tools/desktop/Keys.hpp"
-#include "tools/desktop/Picture.hpp"
+#include "tools/desktop/Screenshot.hpp"
 #include "tools/desktop/WaitUntil.hpp"
 
 #include <chrono>
@@ -48,7 +48,7 @@ public:
     bool KeysRepeat();
 
     // What the whole screen shows now.
-    Picture Screenshot();
+    Screenshot Look();
 
 private:
     struct Connection;

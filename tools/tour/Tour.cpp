@@ -3,8 +3,8 @@
 
 #include "tools/desktop/GameSession.hpp"
 #include "tools/desktop/MenuSight.hpp"
-#include "tools/desktop/PictureFile.hpp"
 #include "tools/desktop/RoadSight.hpp"
+#include "tools/desktop/ScreenshotFile.hpp"
 #include "tools/desktop/WaitUntil.hpp"
 
 #include <array>
@@ -19,7 +19,7 @@
 
 namespace {
 
-using Expectation = bool (*)(const Picture &);
+using Expectation = bool (*)(const Screenshot &);
 
 constexpr std::size_t MostKeys = 4;
 
@@ -40,40 +40,40 @@ struct Stop {
 
 constexpr Key Nothing{};
 
-template <int Rows, int Selected> bool IsMainMenu(const Picture &Seen) {
+template <int Rows, int Selected> bool IsMainMenu(const Screenshot &Seen) {
     return FindMenu(Seen) == SeenMenu{SeenScreen::MainMenu, Rows, Selected};
 }
 
-template <int Selected> bool IsPauseMenu(const Picture &Seen) {
+template <int Selected> bool IsPauseMenu(const Screenshot &Seen) {
     return FindMenu(Seen) == SeenMenu{SeenScreen::Paused, 4, Selected};
 }
 
-bool IsOptionsMenu(const Picture &Seen) {
+bool IsOptionsMenu(const Screenshot &Seen) {
     return FindMenu(Seen) == SeenMenu{SeenScreen::Options, 4, 0};
 }
 
-bool IsHelp(const Picture &Seen) {
+bool IsHelp(const Screenshot &Seen) {
     return FindScreen(Seen) == SeenScreen::Help;
 }
 
-bool CreditsHaveRisen(const Picture &Seen) {
+bool CreditsHaveRisen(const Screenshot &Seen) {
     const std::optional<Area> text = FindCreditsText(Seen);
     return text && text->Top < Seen.Height / 2;
 }
 
-template <int Lane> bool CarIsInLane(const Picture &Seen) {
+template <int Lane> bool CarIsInLane(const Screenshot &Seen) {
     return FindScreen(Seen) == SeenScreen::Playing && FindCarLane(Seen) == Lane;
 }
 
-bool ShotsFly(const Picture &Seen) {
+bool ShotsFly(const Screenshot &Seen) {
     return FindShots(Seen).size() >= 3;
 }
 
-bool IsHurt(const Picture &Seen) {
+bool IsHurt(const Screenshot &Seen) {
     return HealthShown(Seen) < 110;
 }
 
-bool RoadIsQuiet(const Picture &Seen) {
+bool RoadIsQuiet(const Screenshot &Seen) {
     return FindCar(Seen) && FindShots(Seen).empty() && !SeesBlast(Seen);
 }
 
@@ -100,7 +100,7 @@ constexpr std::array Stops{
     Stop{"fire", Manner::Hold, {Key::LeftControl}, ShotsFly, "Left Ctrl is held: shots fly up the road."},
     Stop{"bomb", Manner::Hold, {Key::X}, SeesBlast, "X throws a bomb: its blast spreads around the car."},
     Stop{"drive-and-fire", Manner::Hold, {Key::Left, Key::LeftControl},
-        [](const Picture &Seen) {
+        [](const Screenshot &Seen) {
             return CarIsInLane<0>(Seen) && ShotsFly(Seen);
         },
         "Left and left Ctrl together: the car weaves to the left edge and shoots on its way."},
@@ -134,22 +134,22 @@ void TapKeys(XClient &Person, const Stop &Here) {
     }
 }
 
-std::optional<Picture> PressKeys(GameSession &Session, const Stop &Here) {
+std::optional<Screenshot> PressKeys(GameSession &Session, const Stop &Here) {
     if (Here.Pressed == Manner::Tap) {
         TapKeys(Session.Person(), Here);
         return Session.WaitForPicture(Here.Shows);
     }
     MoveKeys(Session.Person(), Here, &XClient::PressKey);
-    std::optional<Picture> seen = Session.WaitForPicture(Here.Shows);
+    std::optional<Screenshot> seen = Session.WaitForPicture(Here.Shows);
     MoveKeys(Session.Person(), Here, &XClient::ReleaseKey);
     return seen;
 }
 
 // Plays one stop and saves what was on the screen when it came out, or when time ran out.
 bool Play(GameSession &Session, const Stop &Here, std::size_t Number, const std::filesystem::path &Folder) {
-    const std::optional<Picture> seen = PressKeys(Session, Here);
+    const std::optional<Screenshot> seen = PressKeys(Session, Here);
     const std::string file = (Number < 10 ? "0" : "") + std::to_string(Number) + "-" + Here.Name + ".png";
-    SavePicture(seen ? *seen : Session.Person().Screenshot(), Folder / file);
+    SaveScreenshot(seen ? *seen : Session.Person().Look(), Folder / file);
     std::printf("%s  %s%s\n", file.c_str(), seen ? "" : "NOT SEEN: ", Here.Words);
     return seen.has_value();
 }

@@ -6,12 +6,14 @@
 
 namespace {
 
-FakeDisplays *LivingDisplays = nullptr;
-
 void TellCount(int *Count, std::size_t Value) {
     if (Count != nullptr) {
         *Count = static_cast<int>(Value);
     }
+}
+
+const SDL_DisplayMode *PointerTo(const std::optional<SDL_DisplayMode> &Mode) {
+    return Mode.has_value() ? &*Mode : nullptr;
 }
 
 } // namespace
@@ -26,17 +28,40 @@ SDL_DisplayMode Mode(int Width, int Height, float Rate, int Numerator, int Denom
     return mode;
 }
 
-FakeDisplays::FakeDisplays() {
-    SDL_assert_always(LivingDisplays == nullptr);
-    LivingDisplays = this;
+FakeDisplays::FakeDisplays(SdlWatch &Answering) : Watch(Answering) {
+    Watch.GetPrimaryDisplay.Answer = [this] {
+        return Primary;
+    };
+    Watch.GetDisplays.Answer = [this](int *Count) {
+        return ListDisplays(Count);
+    };
+    Watch.GetDisplayForWindow.Answer = [this](SDL_Window *) {
+        return OfWindow;
+    };
+    Watch.GetDesktopDisplayMode.Answer = [this](SDL_DisplayID Id) {
+        const FakeDisplay *display = Find(Id);
+        return display != nullptr ? PointerTo(display->Desktop) : nullptr;
+    };
+    Watch.GetCurrentDisplayMode.Answer = [this](SDL_DisplayID Id) {
+        const FakeDisplay *display = Find(Id);
+        return display != nullptr ? PointerTo(display->Current) : nullptr;
+    };
+    Watch.GetFullscreenDisplayModes.Answer = [this](SDL_DisplayID Id, int *Count) {
+        return ListModes(Id, Count);
+    };
+    Watch.Free.Before = [this](void *Memory) {
+        Lent.erase(Memory);
+    };
 }
 
 FakeDisplays::~FakeDisplays() {
-    LivingDisplays = nullptr;
-}
-
-FakeDisplays *FakeDisplays::Living() {
-    return LivingDisplays;
+    Watch.GetPrimaryDisplay.Answer = nullptr;
+    Watch.GetDisplays.Answer = nullptr;
+    Watch.GetDisplayForWindow.Answer = nullptr;
+    Watch.GetDesktopDisplayMode.Answer = nullptr;
+    Watch.GetCurrentDisplayMode.Answer = nullptr;
+    Watch.GetFullscreenDisplayModes.Answer = nullptr;
+    Watch.Free.Before = nullptr;
 }
 
 FakeDisplay &FakeDisplays::Add(SDL_DisplayID Id, int Width, int Height) {
@@ -83,8 +108,4 @@ SDL_DisplayMode **FakeDisplays::ListModes(SDL_DisplayID Id, int *Count) {
     TellCount(Count, count);
     Lent.insert(memory);
     return list;
-}
-
-void FakeDisplays::NoticeFree(void *Memory) {
-    Lent.erase(Memory);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <SDL3/SDL.h>
+#include "tests/support/watch/SdlWatch.hpp"
 
 #include <optional>
 #include <set>
@@ -14,33 +14,30 @@ struct FakeDisplay {
     std::vector<SDL_DisplayMode> Modes; ///< the fullscreen modes; without any, asking for them fails
 };
 
-/// While it lives, the program is told of these displays instead of the real ones. Only one lives at a time.
+/// While it lives, a watch answers for these displays instead of the real ones.
 class FakeDisplays {
 public:
-    FakeDisplays();
+    explicit FakeDisplays(SdlWatch &Answering);
     ~FakeDisplays();
     FakeDisplays(const FakeDisplays &) = delete;
     FakeDisplays &operator=(const FakeDisplays &) = delete;
 
-    /// The living one, or null.
-    static FakeDisplays *Living();
-
     /// Appends a display with a desktop of this size, and gives it to change.
     FakeDisplay &Add(SDL_DisplayID Id, int Width, int Height);
 
+    SDL_DisplayID Primary = 0;
+    SDL_DisplayID OfWindow = 0; ///< what any window is told to be on
+    std::vector<FakeDisplay> List;
+    std::set<void *> Lent; ///< lists given out and not freed yet
+
+private:
     const FakeDisplay *Find(SDL_DisplayID Id) const;
 
     /// The lists as SDL gives them out: one allocation each, to be freed with SDL_free.
     SDL_DisplayID *ListDisplays(int *Count);
     SDL_DisplayMode **ListModes(SDL_DisplayID Id, int *Count);
 
-    /// For the watched SDL_free.
-    void NoticeFree(void *Memory);
-
-    SDL_DisplayID Primary = 0;
-    SDL_DisplayID OfWindow = 0; ///< what any window is told to be on
-    std::vector<FakeDisplay> List;
-    std::set<void *> Lent; ///< lists given out and not freed yet
+    SdlWatch &Watch;
 };
 
 /// A mode of a size and a rate in Hz, with the exact rate as a fraction where one is given.

@@ -1,62 +1,91 @@
 #pragma once
 
-#include <cstdint>
-#include <functional>
-#include <map>
-#include <string>
-#include <vector>
+#include "tests/support/watch/StandIn.hpp"
 
-/// A call that the program made into SDL: numbers as they are, pointers as 1, or 0 for null.
-struct SdlCall {
-    std::string Name;
-    std::vector<std::int64_t> Arguments;
+#include <SDL3/SDL.h>
 
-    bool operator==(const SdlCall &) const = default;
-};
+/// The functions of SDL that are watched: how many parameters each has, its name, and its field. Those that
+/// draw, free or are asked at every text are called too often to be noted. The build reads the names here, so
+/// that a line is all that a function takes.
+#define WATCHED_SDL_FUNCTIONS(NOTED, STEERED)                                                                \
+    /* Start-up and shutdown. */                                                                             \
+    NOTED(1, SDL_Init, Init)                                                                                 \
+    NOTED(0, SDL_Quit, Quit)                                                                                 \
+    NOTED(4, SDL_CreateWindow, CreateWindow)                                                                 \
+    NOTED(1, SDL_HideWindow, HideWindow)                                                                     \
+    NOTED(1, SDL_DestroyWindow, DestroyWindow)                                                               \
+    NOTED(2, SDL_CreateRenderer, CreateRenderer)                                                             \
+    NOTED(1, SDL_DestroyRenderer, DestroyRenderer)                                                           \
+    NOTED(2, SDL_SetRenderDrawBlendMode, SetRenderDrawBlendMode)                                             \
+    NOTED(2, SDL_SetWindowResizable, SetWindowResizable)                                                     \
+    NOTED(2, SDL_SetWindowIcon, SetWindowIcon)                                                               \
+    NOTED(0, SDL_HideCursor, HideCursor)                                                                     \
+    STEERED(1, SDL_free, Free)                                                                               \
+    /* Time. */                                                                                              \
+    NOTED(0, SDL_GetTicks, GetTicks)                                                                         \
+    NOTED(1, SDL_Delay, Delay)                                                                               \
+    /* The window and how it is filled. */                                                                   \
+    NOTED(2, SDL_SetWindowFullscreenMode, SetWindowFullscreenMode)                                           \
+    NOTED(2, SDL_SetWindowFullscreen, SetWindowFullscreen)                                                   \
+    NOTED(3, SDL_SetWindowSize, SetWindowSize)                                                               \
+    NOTED(3, SDL_SetWindowPosition, SetWindowPosition)                                                       \
+    NOTED(2, SDL_SetRenderVSync, SetRenderVSync)                                                             \
+    NOTED(2, SDL_GetRenderVSync, GetRenderVSync)                                                             \
+    NOTED(4, SDL_SetRenderLogicalPresentation, SetRenderLogicalPresentation)                                 \
+    STEERED(2, SDL_GetRenderLogicalPresentationRect, GetRenderLogicalPresentationRect)                       \
+    /* Displays. */                                                                                          \
+    NOTED(0, SDL_GetPrimaryDisplay, GetPrimaryDisplay)                                                       \
+    NOTED(1, SDL_GetDisplays, GetDisplays)                                                                   \
+    NOTED(1, SDL_GetDisplayForWindow, GetDisplayForWindow)                                                   \
+    NOTED(1, SDL_GetDesktopDisplayMode, GetDesktopDisplayMode)                                               \
+    NOTED(1, SDL_GetCurrentDisplayMode, GetCurrentDisplayMode)                                               \
+    NOTED(2, SDL_GetFullscreenDisplayModes, GetFullscreenDisplayModes)                                       \
+    /* Drawing. */                                                                                           \
+    NOTED(5, SDL_CreateTexture, CreateTexture)                                                               \
+    NOTED(1, SDL_DestroyTexture, DestroyTexture)                                                             \
+    NOTED(2, SDL_SetRenderTarget, SetRenderTarget)                                                           \
+    NOTED(2, SDL_RenderReadPixels, RenderReadPixels)                                                         \
+    NOTED(3, SDL_CreateSurface, CreateSurface)                                                               \
+    NOTED(1, SDL_DestroySurface, DestroySurface)                                                             \
+    NOTED(5, SDL_BlitSurfaceScaled, BlitSurfaceScaled)                                                       \
+    NOTED(1, SDL_RenderPresent, RenderPresent)                                                               \
+    STEERED(1, SDL_RenderClear, RenderClear)                                                                 \
+    STEERED(5, SDL_SetRenderDrawColor, SetRenderDrawColor)                                                   \
+    STEERED(2, SDL_SetRenderClipRect, SetRenderClipRect)                                                     \
+    STEERED(2, SDL_RenderFillRect, RenderFillRect)                                                           \
+    STEERED(4, SDL_RenderTexture, RenderTexture)                                                             \
+    STEERED(4, SDL_SetTextureColorMod, SetTextureColorMod)                                                   \
+    STEERED(2, SDL_SetTextureAlphaMod, SetTextureAlphaMod)                                                   \
+    /* Devices. */                                                                                           \
+    NOTED(1, SDL_GetGamepads, GetGamepads)                                                                   \
+    NOTED(1, SDL_GetJoysticks, GetJoysticks)                                                                 \
+    NOTED(1, SDL_OpenGamepad, OpenGamepad)                                                                   \
+    NOTED(1, SDL_OpenJoystick, OpenJoystick)                                                                 \
+    NOTED(1, SDL_CloseGamepad, CloseGamepad)                                                                 \
+    NOTED(1, SDL_CloseJoystick, CloseJoystick)                                                               \
+    NOTED(2, SDL_GetGamepadAxis, GetGamepadAxis)                                                             \
+    NOTED(2, SDL_GetGamepadButton, GetGamepadButton)                                                         \
+    NOTED(2, SDL_GetJoystickButton, GetJoystickButton)                                                       \
+    NOTED(1, SDL_GetGamepadStringForButton, GetGamepadStringForButton)                                       \
+    /* Files. */                                                                                             \
+    NOTED(2, SDL_GetPrefPath, GetPrefPath)                                                                   \
+    NOTED(0, SDL_GetBasePath, GetBasePath)                                                                   \
+    NOTED(3, SDL_OpenUserStorage, OpenUserStorage)                                                           \
+    NOTED(2, SDL_OpenTitleStorage, OpenTitleStorage)                                                         \
+    NOTED(1, SDL_CloseStorage, CloseStorage)                                                                 \
+    NOTED(1, SDL_StorageReady, StorageReady)                                                                 \
+    NOTED(3, SDL_GetStoragePathInfo, GetStoragePathInfo)                                                     \
+    NOTED(4, SDL_ReadStorageFile, ReadStorageFile)                                                           \
+    NOTED(4, SDL_WriteStorageFile, WriteStorageFile)                                                         \
+    NOTED(2, SDL_LoadFile, LoadFile)                                                                         \
+    NOTED(3, SDL_SaveFile, SaveFile)                                                                         \
+    /* Properties. */                                                                                        \
+    NOTED(0, SDL_CreateProperties, CreateProperties)                                                         \
+    NOTED(3, SDL_SetNumberProperty, SetNumberProperty)                                                       \
+    NOTED(1, SDL_DestroyProperties, DestroyProperties)
 
-/// Makes a failed comparison readable.
-void PrintTo(const SdlCall &Call, std::ostream *Out);
-
-/// While it lives, it notes in order the watched calls that the test program makes into SDL, and lets those
-/// fail that the test picks. Only one lives at a time. Which calls are watched stands in WatchedCalls.cpp and
-/// in this folder's CMakeLists.txt; what SDL does inside itself is not seen.
-class SdlWatch {
+/// Watches the calls that the test program makes into SDL.
+class SdlWatch : public CallWatch {
 public:
-    static constexpr int Always = -1;
-
-    /// The SDL error of a refused call.
-    static constexpr const char *RefusalText = "refused for the test";
-
-    SdlWatch();
-    ~SdlWatch();
-    SdlWatch(const SdlWatch &) = delete;
-    SdlWatch &operator=(const SdlWatch &) = delete;
-
-    /// Makes the next calls of Function fail without reaching SDL.
-    void Refuse(const std::string &Function, int Times = Always);
-
-    /// Runs Action before each call of Function reaches SDL.
-    void Before(const std::string &Function, std::function<void()> Action);
-
-    /// How often Function was called.
-    int Count(const std::string &Function) const;
-
-    /// The calls of one function, or the names of all calls of several, in order.
-    std::vector<SdlCall> CallsOf(const std::string &Function) const;
-    std::vector<std::string> NamesAmong(const std::vector<std::string> &Functions) const;
-
-    /// Whether these functions were called in this order, whatever was called between them.
-    bool SawInOrder(const std::vector<std::string> &Functions) const;
-
-    /// For the watched calls themselves: notes the call and tells whether it is to fail.
-    static bool Notice(const char *Function, std::vector<std::int64_t> Arguments);
-
-    /// Everything noted so far. A test may clear it.
-    std::vector<SdlCall> Calls;
-
-private:
-    bool IsRefused(const std::string &Function);
-
-    std::map<std::string, int> Refusals;
-    std::map<std::string, std::function<void()>> Actions;
+    WATCHED_SDL_FUNCTIONS(NOTED_FIELD, STEERED_FIELD)
 };

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tools/desktop/Picture.hpp"
+#include "tools/desktop/Screenshot.hpp"
 
 #include <filesystem>
 
 // Writes the picture as a PNG file. Throws std::runtime_error with the reason if that fails.
-void SavePicture(const Picture &Seen, const std::filesystem::path &File);
+void SaveScreenshot(const Screenshot &Seen, const std::filesystem::path &File);

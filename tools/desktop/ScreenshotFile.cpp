@@ -1,12 +1,12 @@
-#include "tools/desktop/PictureFile.hpp"
+#include "tools/desktop/ScreenshotFile.hpp"
 
 #include <SDL3/SDL.h>
 #include <memory>
 #include <stdexcept>
 #include <string>
 
-void SavePicture(const Picture &Seen, const std::filesystem::path &File) {
-    Picture copy = Seen;
+void SaveScreenshot(const Screenshot &Seen, const std::filesystem::path &File) {
+    Screenshot copy = Seen;
     const std::unique_ptr<SDL_Surface, decltype(&SDL_DestroySurface)> surface(
         SDL_CreateSurfaceFrom(
             copy.Width, copy.Height, SDL_PIXELFORMAT_XRGB8888, copy.Pixels.data(), copy.Width * 4),

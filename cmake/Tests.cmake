@@ -1,0 +1,68 @@
+# How the tests are compiled and declared.
+
+# The tests' own code is compiled for a short wait, whatever the game around it is compiled for. A debugger and a
+# sanitizer tell its lines.
+add_library(test_options INTERFACE)
+target_link_libraries(test_options INTERFACE compile_options SDL3::Headers GTest::gtest)
+target_compile_definitions(test_options INTERFACE SOURCE_TREE="${PROJECT_SOURCE_DIR}")
+if(NOT MSVC)
+    target_compile_options(test_options INTERFACE -g1 $<IF:$<CXX_COMPILER_ID:Clang>,-O0,-Og>)
+endif()
+
+# Test programs are linked again after every change.
+find_program(KESTREL_LINKER NAMES mold ld.lld)
+mark_as_advanced(KESTREL_LINKER)
+if(KESTREL_LINKER MATCHES "mold$")
+    target_link_options(test_options INTERFACE -fuse-ld=mold)
+elseif(KESTREL_LINKER)
+    target_link_options(test_options INTERFACE -fuse-ld=lld)
+endif()
+
+# What nearly every test includes is compiled once: by test_support, for all.
+function(kestrel_compile_as_test target)
+    target_link_libraries(${target} PRIVATE test_options)
+    if(target STREQUAL "test_support")
+        target_precompile_headers(test_support PRIVATE
+            <SDL3/SDL.h> <gtest/gtest.h> <algorithm> <array> <filesystem> <fstream> <functional> <map> <optional>
+            <sstream> <string> <string_view> <tuple> <vector>)
+    else()
+        target_precompile_headers(${target} REUSE_FROM test_support)
+    endif()
+endfunction()
+
+# kestrel_test_library(<target> <sources>...): what several test programs share, linked whole.
+function(kestrel_test_library target)
+    add_library(${target} OBJECT ${ARGN})
+    kestrel_compile_as_test(${target})
+    target_link_libraries(${target} PUBLIC compile_options SDL3::SDL3 GTest::gtest)
+endfunction()
+
+# A job of ctest stands for a quarter of a core (the Makefile asks for four times as many as there are cores): most tests
+# in the window wait most of the time. What computes takes four.
+set(jobs_of_a_core 4)
+
+# kestrel_tests(<name> [LABEL <label>] [SHARDS <number>] [SOURCES <sources>...] [LINKS <targets>...])
+# The test program <name>_tests, of every source file in the folder <name> here unless others are named, and what runs
+# it: each shard is a process that takes every <number>-th of its tests. Label "rooms" unless another is given.
+function(kestrel_tests name)
+    cmake_parse_arguments(PARSE_ARGV 1 tests "" "LABEL;SHARDS" "SOURCES;LINKS")
+    if(NOT tests_SOURCES)
+        file(GLOB tests_SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+    endif()
+    add_executable(${name}_tests ${tests_SOURCES})
+    target_link_libraries(${name}_tests PRIVATE ${tests_LINKS} GTest::gtest_main)
+    kestrel_compile_as_test(${name}_tests)
+    if(NOT tests_LABEL)
+        set(tests_LABEL rooms)
+    endif()
+    if(NOT tests_SHARDS)
+        set(tests_SHARDS 1)
+    endif()
+    foreach(shard RANGE 1 ${tests_SHARDS})
+        math(EXPR index "${shard} - 1")
+        add_test(NAME ${name}.${shard}of${tests_SHARDS} COMMAND ${name}_tests --gtest_brief=1)
+        set_tests_properties(${name}.${shard}of${tests_SHARDS} PROPERTIES
+            LABELS "${tests_LABEL}" TIMEOUT 600 PROCESSORS ${jobs_of_a_core}
+            ENVIRONMENT "GTEST_TOTAL_SHARDS=${tests_SHARDS};GTEST_SHARD_INDEX=${index}")
+    endforeach()
+endfunction()
