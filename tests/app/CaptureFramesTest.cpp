@@ -196,21 +196,6 @@ TEST_F(CaptureFrames, OfAJoystickTakesEachOfItsButtonsBeforeItMeansAnything) {
     }
 }
 
-TEST_F(CaptureFrames, OfAGamepadEndsAtAButtonBeyondTheLastWithoutBindingIt) {
-    PlugInPad();
-    for (const int button : {26, 255}) {
-        Capture(ControlsDeviceGamepad);
-        SDL_Event event{};
-        event.type = SDL_EVENT_GAMEPAD_BUTTON_DOWN;
-        event.gbutton.which = Pad->Id;
-        event.gbutton.button = static_cast<Uint8>(button);
-        event.gbutton.down = true;
-        PushEvent(event);
-        DrainEvents(Program);
-        ExpectEnded(PendingKeys, PendingPad, PendingStick, {});
-    }
-}
-
 TEST_F(CaptureFrames, OfAKeyBindsWhatAGamepadsPressMeans) {
     PlugInPad();
     struct Case {
@@ -309,25 +294,6 @@ TEST_F(CaptureFrames, OfAJoystickOnlyHearsOtherPresses) {
     Press(SDL_SCANCODE_RETURN);
     ExpectWaiting(CaptureKindJoystick,
         {SfxId::UiConfirm, SfxId::UiMove, SfxId::UiMove, SfxId::UiMove, SfxId::UiConfirm});
-}
-
-TEST_F(CaptureFrames, ClearsTheRowByDeleteAndBackspace) {
-    for (const SDL_Scancode key : {SDL_SCANCODE_DELETE, SDL_SCANCODE_BACKSPACE}) {
-        BindingTable keys = PendingKeys;
-        BindingTable pad = PendingPad;
-        BindingTable stick = PendingStick;
-        keys[1] = 0;
-        pad[1] = stick[1] = -1;
-        Capture(ControlsDeviceKeyboard);
-        Press(key);
-        ExpectEnded(keys, PendingPad, PendingStick, {SfxId::UiConfirm});
-        Capture(ControlsDeviceGamepad);
-        Press(key);
-        ExpectEnded(PendingKeys, pad, PendingStick, {SfxId::UiConfirm});
-        Capture(ControlsDeviceJoystick);
-        Press(key);
-        ExpectEnded(PendingKeys, PendingPad, stick, {SfxId::UiConfirm});
-    }
 }
 
 TEST_F(CaptureFrames, OfAKeyIsDeafToRepeatsAndToScancodesThatAreNone) {

@@ -140,41 +140,6 @@ TEST_F(MainMenuKeys, ContinuingGoesOnExactlyWhereTheRunStood) {
     EXPECT_FALSE(State.SaveRequested); // continuing arms nothing
 }
 
-TEST_F(MainMenuKeys, NewGameThrowsTheRunAwayAndKeepsHighScoreOptionsAndRow) {
-    State.MainMenuSelection = 1;
-    State.MasterVolume = 33;
-    State.KeyboardBindings = {1, 2, 3, 4, 5};
-    Press(SpaceBar);
-    EXPECT_EQ(State.Screen, ScreenPlaying);
-    EXPECT_TRUE(State.HasRunState);
-    EXPECT_EQ(State.Score, 0);
-    EXPECT_EQ(State.Stage, 1);
-    EXPECT_EQ(State.GameTime, 0.0F);
-    EXPECT_EQ(State.Player.Hp, 100);
-    EXPECT_EQ(State.Player.Stocks, 2);
-    EXPECT_TRUE(State.Enemies.empty());
-    EXPECT_EQ(State.PauseSelection, 0);
-    EXPECT_EQ(State.OptionsReturnScreen, ScreenMainMenu);
-    EXPECT_EQ(State.HelpReturnScreen, ScreenMainMenu);
-    EXPECT_EQ(State.HighScore, 98765);
-    EXPECT_EQ(State.MainMenuSelection, 1U);
-    EXPECT_EQ(State.MasterVolume, 33);
-    EXPECT_EQ(State.KeyboardBindings, (BindingTable{1, 2, 3, 4, 5}));
-}
-
-TEST_F(MainMenuKeys, NewGameIsNeverHeard) {
-    State.MainMenuSelection = 1;
-    Press(EnterKey);
-    EXPECT_EQ(SoundsOf(State), Sounds{});
-}
-
-TEST_F(MainMenuKeys, NewGameMarksTheSaveAsDueAtOnce) {
-    State.MainMenuSelection = 1;
-    Press(EnterKey);
-    EXPECT_TRUE(State.SaveRequested);
-    EXPECT_EQ(State.SaveDelay, 0.0F);
-}
-
 TEST_F(MainMenuKeys, ARowPastTheLastBecomesTheFirstBeforeTheKeyActs) {
     for (const std::uint32_t row : {6U, 7U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU}) {
         State.MainMenuSelection = row;

@@ -21,16 +21,6 @@ TEST_F(SaveFrames, ANewRunsZeroMarkIsOvertakenInTheSameFrame) {
     EXPECT_EQ(State.SaveDelay, 0.8F);
 }
 
-TEST_F(SaveFrames, ANewRunReachesTheFile800MillisecondsLater) {
-    int frames = 0;
-    while (Written.SaveWrites == 0 && frames < 100) {
-        RunLongFrame();
-        ++frames;
-    }
-    EXPECT_EQ(frames, 25); // 24 frames make 0.792 seconds
-    EXPECT_FALSE(State.SaveRequested);
-}
-
 TEST_F(SaveFrames, OnAMenuAZeroMarkIsWrittenInTheSameFrame) {
     ShowWithoutWaiting(ScreenMainMenu);
     RunFrame(Program);

@@ -121,36 +121,4 @@ TEST_F(SaveTicks, AStreamOfMarksGivesOneWriteAboutEvery800Milliseconds) {
     EXPECT_EQ(Written.SaveWrites, 10);
 }
 
-class SaveRequests : public SaveTicks {};
-
-TEST_F(SaveRequests, ArmTheSave) {
-    RequestSave(State, 0.8F);
-    EXPECT_TRUE(State.SaveRequested);
-    EXPECT_EQ(State.SaveDelay, 0.8F);
-}
-
-TEST_F(SaveRequests, AtZeroOrBelowAreDueAtOnce) {
-    State.SaveDelay = 0.6F;
-    RequestSave(State, 0.0F);
-    EXPECT_EQ(State.SaveDelay, 0.0F);
-    State.SaveDelay = 0.6F;
-    RequestSave(State, -1.0F);
-    EXPECT_EQ(State.SaveDelay, 0.0F);
-}
-
-TEST_F(SaveRequests, OnlyBringAWriteNearer) {
-    RequestSave(State, 0.5F);
-    RequestSave(State, 0.8F);
-    EXPECT_EQ(State.SaveDelay, 0.5F);
-    RequestSave(State, 0.25F);
-    EXPECT_EQ(State.SaveDelay, 0.25F);
-}
-
-TEST_F(SaveRequests, OvertakeAZeroMark) {
-    RequestSave(State, 0.0F);
-    RequestSave(State, 0.8F);
-    EXPECT_EQ(State.SaveDelay, 0.8F);
-    EXPECT_TRUE(State.SaveRequested);
-}
-
 } // namespace

@@ -15,7 +15,7 @@ constexpr std::array<std::int32_t, 26> KeysInPlay{
 
 /// A button with bindings in the order Fire, Bomb, Heal, Confirm, Back.
 struct ButtonRow {
-    std::string Case;
+    const char *Case;
     BindingTable Bindings;
     std::int32_t Button;
     std::int32_t KeyInPlay;
@@ -50,44 +50,45 @@ TEST_F(GamepadPress, EveryButtonHasItsKeyInPlay) {
     }
 }
 
+constexpr auto RowsOfSeveralCases = std::to_array<ButtonRow>({
+    {"START bound to Back pauses all the same", {0, 2, 3, 0, Start}, Start, 41, 40},
+    {"START bound to Heal pauses, and means nothing in menus", {0, 2, Start, 0, 1}, Start, 41, 0},
+    {"START bound to Confirm", {0, 2, 3, Start, 1}, Start, 41, 40},
+    {"START bound to Fire and Bomb still confirms", {Start, Start, 3, 0, 1}, Start, 41, 40},
+    {"BACK bound to Heal", {0, 2, Back, 0, 1}, Back, 0, 0},
+    {"BACK bound to Confirm", {0, 2, 3, Back, 1}, Back, 0, 40},
+    {"BACK bound to Fire", {Back, 2, 3, 0, 1}, Back, 0, 0},
+    {"BACK bound to Bomb", {0, Back, 3, 0, 1}, Back, 0, 0},
+    {"BACK bound to Back and Fire", {Back, 2, 3, 0, Back}, Back, 0, 0},
+    {"BACK beside a Back binding that fires", {1, 2, 3, 0, 1}, Back, 0, 41},
+    {"up bound to Back", {0, 2, 3, 0, PadUp}, PadUp, 0, 82},
+    {"down bound to Heal", {0, 2, PadDown, 0, 1}, PadDown, 81, 81},
+    {"left bound to Confirm", {0, 2, 3, PadLeft, 1}, PadLeft, 80, 80},
+    {"right bound to Fire", {PadRight, 2, 3, 0, 1}, PadRight, 79, 79},
+    {"Heal alone", {0, 2, Free, 0, 1}, Free, 44, 0},
+    {"Heal and Confirm", {0, 2, Free, Free, 1}, Free, 44, 0},
+    {"Heal and Back", {0, 2, Free, 0, Free}, Free, 0, 0},
+    {"Heal and Fire", {Free, 2, Free, 0, 1}, Free, 44, 0},
+    {"Confirm alone", {0, 2, 3, Free, 1}, Free, 40, 40},
+    {"Confirm and Back", {0, 2, 3, Free, Free}, Free, 0, 40},
+    {"Confirm and Bomb", {0, Free, 3, Free, 1}, Free, 40, 40},
+    {"Back alone", {0, 2, 3, 0, Free}, Free, 0, 41},
+    {"Back and Fire", {Free, 2, 3, 0, Free}, Free, 0, 0},
+    {"Back and Bomb", {0, Free, 3, 0, Free}, Free, 0, 0},
+    {"Confirm, Back and Fire", {Free, 2, 3, Free, Free}, Free, 0, 40},
+    {"Fire alone", {Free, 2, 3, 0, 1}, Free, 0, 0},
+    {"Bomb alone", {0, Free, 3, 0, 1}, Free, 0, 0},
+    {"not bound", {0, 2, 3, 0, 1}, Free, 0, 0},
+    {"SOUTH no longer bound", {1, 2, 3, Free, 1}, South, 0, 0},
+    {"START with nothing bound", {None, None, None, None, None}, Start, 41, 40},
+    {"BACK with nothing bound", {None, None, None, None, None}, Back, 0, 41},
+    {"the first button with nothing bound", {None, None, None, None, None}, South, 0, 0},
+    {"the last button bound to Confirm", {0, 2, 3, 25, 1}, 25, 40, 40},
+    {"the last button with impossible values bound", {26, 281, -231, 26, 26}, 25, 0, 0},
+});
+
 TEST_F(GamepadPress, TheFirstCaseThatFitsWins) {
-    const std::vector<ButtonRow> rows{
-        {"START bound to Back pauses all the same", {0, 2, 3, 0, Start}, Start, 41, 40},
-        {"START bound to Heal pauses, and means nothing in menus", {0, 2, Start, 0, 1}, Start, 41, 0},
-        {"START bound to Confirm", {0, 2, 3, Start, 1}, Start, 41, 40},
-        {"START bound to Fire and Bomb still confirms", {Start, Start, 3, 0, 1}, Start, 41, 40},
-        {"BACK bound to Heal", {0, 2, Back, 0, 1}, Back, 0, 0},
-        {"BACK bound to Confirm", {0, 2, 3, Back, 1}, Back, 0, 40},
-        {"BACK bound to Fire", {Back, 2, 3, 0, 1}, Back, 0, 0},
-        {"BACK bound to Bomb", {0, Back, 3, 0, 1}, Back, 0, 0},
-        {"BACK bound to Back and Fire", {Back, 2, 3, 0, Back}, Back, 0, 0},
-        {"BACK beside a Back binding that fires", {1, 2, 3, 0, 1}, Back, 0, 41},
-        {"up bound to Back", {0, 2, 3, 0, PadUp}, PadUp, 0, 82},
-        {"down bound to Heal", {0, 2, PadDown, 0, 1}, PadDown, 81, 81},
-        {"left bound to Confirm", {0, 2, 3, PadLeft, 1}, PadLeft, 80, 80},
-        {"right bound to Fire", {PadRight, 2, 3, 0, 1}, PadRight, 79, 79},
-        {"Heal alone", {0, 2, Free, 0, 1}, Free, 44, 0},
-        {"Heal and Confirm", {0, 2, Free, Free, 1}, Free, 44, 0},
-        {"Heal and Back", {0, 2, Free, 0, Free}, Free, 0, 0},
-        {"Heal and Fire", {Free, 2, Free, 0, 1}, Free, 44, 0},
-        {"Confirm alone", {0, 2, 3, Free, 1}, Free, 40, 40},
-        {"Confirm and Back", {0, 2, 3, Free, Free}, Free, 0, 40},
-        {"Confirm and Bomb", {0, Free, 3, Free, 1}, Free, 40, 40},
-        {"Back alone", {0, 2, 3, 0, Free}, Free, 0, 41},
-        {"Back and Fire", {Free, 2, 3, 0, Free}, Free, 0, 0},
-        {"Back and Bomb", {0, Free, 3, 0, Free}, Free, 0, 0},
-        {"Confirm, Back and Fire", {Free, 2, 3, Free, Free}, Free, 0, 40},
-        {"Fire alone", {Free, 2, 3, 0, 1}, Free, 0, 0},
-        {"Bomb alone", {0, Free, 3, 0, 1}, Free, 0, 0},
-        {"not bound", {0, 2, 3, 0, 1}, Free, 0, 0},
-        {"SOUTH no longer bound", {1, 2, 3, Free, 1}, South, 0, 0},
-        {"START with nothing bound", {None, None, None, None, None}, Start, 41, 40},
-        {"BACK with nothing bound", {None, None, None, None, None}, Back, 0, 41},
-        {"the first button with nothing bound", {None, None, None, None, None}, South, 0, 0},
-        {"the last button bound to Confirm", {0, 2, 3, 25, 1}, 25, 40, 40},
-        {"the last button with impossible values bound", {26, 281, -231, 26, 26}, 25, 0, 0},
-    };
-    for (const ButtonRow &row : rows) {
+    for (const ButtonRow &row : RowsOfSeveralCases) {
         State.GamepadBindings = row.Bindings;
         State.Screen = ScreenPlaying;
         EXPECT_EQ(GamepadButton(row.Button), row.KeyInPlay) << row.Case << ", in play";

@@ -9,7 +9,7 @@ using JoystickPress = PressTest;
 
 /// A button with bindings in the order Fire, Bomb, Heal, Confirm, Back.
 struct ButtonRow {
-    std::string Case;
+    const char *Case;
     BindingTable Bindings;
     std::int32_t Button;
     std::int32_t KeyInPlay;

@@ -29,6 +29,10 @@ using Change = std::function<void(GameState &Expected)>;
 
 const Change Nothing = [](GameState &) {};
 
+template <auto Field, auto Value> void Set(GameState &State) {
+    State.*Field = Value;
+}
+
 void ExpectPendingAsApplied(GameState &Expected) {
     Expected.PendingMasterVolume = Expected.MasterVolume;
     Expected.PendingMusicVolume = Expected.MusicVolume;
@@ -167,29 +171,17 @@ TEST_F(AudioPage, BeginsWithTheLanguagesCodeInOrder) {
 
 TEST_F(AudioPage, IsDirtyByEachOfItsValues) {
     BeginAudioEdit(State);
-    const std::vector<Change> changes{
-        [](GameState &Changed) {
-            Changed.PendingMasterVolume = 1;
-        },
-        [](GameState &Changed) {
-            Changed.PendingMusicVolume = 1;
-        },
-        [](GameState &Changed) {
-            Changed.PendingSfxVolume = 1;
-        },
-        [](GameState &Changed) {
-            Changed.PendingMusicEnabled = true;
-        },
-        [](GameState &Changed) {
-            Changed.PendingSfxEnabled = true;
-        },
-        [](GameState &Changed) {
-            Changed.PendingLanguage = "fr";
-        },
-    };
+    constexpr std::array changes{Set<&GameState::PendingMasterVolume, 1>,
+        Set<&GameState::PendingMusicVolume, 1>, Set<&GameState::PendingSfxVolume, 1>,
+        Set<&GameState::PendingMusicEnabled, true>, Set<&GameState::PendingSfxEnabled, true>};
+    GameState changed = State;
+    changed.PendingLanguage = "fr";
+    EXPECT_TRUE(AudioEditDirty(changed));
+    changed.PendingAudioValid = false;
+    EXPECT_FALSE(AudioEditDirty(changed));
     for (std::size_t i = 0; i < changes.size(); ++i) {
-        GameState changed = State;
-        changes[i](changed);
+        changed = State;
+        changes.at(i)(changed);
         EXPECT_TRUE(AudioEditDirty(changed)) << i;
         changed.PendingAudioValid = false;
         EXPECT_FALSE(AudioEditDirty(changed)) << i;
@@ -374,46 +366,24 @@ TEST_F(AudioPage, ApplyTakesEveryValueOverAndLoadsTheLanguage) {
     EXPECT_EQ(Localization.CurrentLanguage, "de");
 }
 
+/// A value of the page, changed while it waits and when it is applied.
+struct ValueCase {
+    void (*Pend)(GameState &Pending);
+    void (*Apply)(GameState &Expected);
+};
+
+constexpr std::array ValueCases{
+    ValueCase{Set<&GameState::PendingMasterVolume, 1>, Set<&GameState::MasterVolume, 1>},
+    ValueCase{Set<&GameState::PendingMusicVolume, 2>, Set<&GameState::MusicVolume, 2>},
+    ValueCase{Set<&GameState::PendingSfxVolume, 3>, Set<&GameState::SfxVolume, 3>},
+    ValueCase{Set<&GameState::PendingMusicEnabled, true>, Set<&GameState::MusicEnabled, true>},
+    ValueCase{Set<&GameState::PendingSfxEnabled, true>, Set<&GameState::SfxEnabled, true>},
+};
+
 TEST_F(AudioPage, ApplyOfEachValueAloneMarksTheOptions) {
     BeginAudioEdit(State);
-    struct Case {
-        Change Pend;
-        Change Apply;
-    };
-    const std::vector<Case> cases{
-        {[](GameState &Pending) {
-             Pending.PendingMasterVolume = 1;
-         },
-            [](GameState &Expected) {
-                Expected.MasterVolume = 1;
-            }},
-        {[](GameState &Pending) {
-             Pending.PendingMusicVolume = 2;
-         },
-            [](GameState &Expected) {
-                Expected.MusicVolume = 2;
-            }},
-        {[](GameState &Pending) {
-             Pending.PendingSfxVolume = 3;
-         },
-            [](GameState &Expected) {
-                Expected.SfxVolume = 3;
-            }},
-        {[](GameState &Pending) {
-             Pending.PendingMusicEnabled = true;
-         },
-            [](GameState &Expected) {
-                Expected.MusicEnabled = true;
-            }},
-        {[](GameState &Pending) {
-             Pending.PendingSfxEnabled = true;
-         },
-            [](GameState &Expected) {
-                Expected.SfxEnabled = true;
-            }},
-    };
     const GameState fresh = State;
-    for (const Case &value : cases) {
+    for (const ValueCase &value : ValueCases) {
         State = fresh;
         value.Pend(State);
         ExpectKeys(ApplyRow, ActivateKeys, [&](GameState &Expected) {

@@ -148,7 +148,7 @@ TEST_F(GraphicsPage, KeepsARateThatIsGoneInItsSnapshot) {
 }
 
 TEST_F(GraphicsPage, IsDirtyByEachOfItsOptions) {
-    const std::vector<Change> changes{
+    constexpr auto changes = std::to_array<void (*)(GameState &)>({
         [](GameState &Changed) {
             Changed.ResolutionIndex = 2;
         },
@@ -170,10 +170,10 @@ TEST_F(GraphicsPage, IsDirtyByEachOfItsOptions) {
         [](GameState &Changed) {
             Changed.GraphicsSnapshot.Height = 1079;
         },
-    };
+    });
     for (std::size_t i = 0; i < changes.size(); ++i) {
         GameState changed = State;
-        changes[i](changed);
+        changes.at(i)(changed);
         EXPECT_TRUE(GraphicsEditDirty(changed)) << i;
         changed.GraphicsSnapshotValid = false;
         EXPECT_FALSE(GraphicsEditDirty(changed)) << i;

@@ -9,9 +9,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <initializer_list>
 #include <random>
 #include <string>
-#include <utility>
 
 // Whole runs, from the first step to the game over, with steps of any length: what must hold after each step.
 
@@ -28,10 +28,23 @@ template <typename Thing> bool IsOnItsLane(const Thing &Other) {
     return Other.Lane >= 0 && Other.Lane < LaneCount && Other.X == LaneCenterX(Other.Lane);
 }
 
-/// The first broken promise of the record by name; empty if it is whole.
-std::string BrokenField(const GameState &State) {
-    const Player &player = State.Player;
-    const std::pair<const char *, bool> promises[]{
+struct Promise {
+    const char *Field;
+    bool Holds;
+};
+
+/// The first broken promise by name; empty if all hold.
+std::string FirstBroken(std::initializer_list<Promise> Promises) {
+    for (const Promise &promise : Promises) {
+        if (!promise.Holds) {
+            return promise.Field;
+        }
+    }
+    return {};
+}
+
+std::string BrokenFieldOfRun(const GameState &State) {
+    return FirstBroken({
         {"Score", State.Score >= 0 && State.HighScore >= State.Score},
         {"Stage", State.Stage == static_cast<std::int32_t>(State.GameTime / 26.0F) + 1},
         {"PreviousStage", State.PreviousStage >= 1 && State.PreviousStage <= State.Stage},
@@ -55,6 +68,12 @@ std::string BrokenField(const GameState &State) {
         {"InvincibilityPowerTimer", IsTimer(State.InvincibilityPowerTimer, 6.0F)},
         {"DualWeaponPowerTimer", IsTimer(State.DualWeaponPowerTimer, 8.0F)},
         {"DeathTimer", IsTimer(State.DeathTimer, 0.85F)},
+    });
+}
+
+std::string BrokenFieldOfPlayer(const GameState &State) {
+    const Player &player = State.Player;
+    return FirstBroken({
         {"Hp", player.Hp >= 0 && player.Hp <= player.MaxHp &&
                    (player.Hp > 0 || State.PlayerDying || State.Screen == ScreenGameOver)},
         {"MaxHp", player.MaxHp == 100},
@@ -63,6 +82,11 @@ std::string BrokenField(const GameState &State) {
         {"FireCooldown", IsTimer(player.FireCooldown, 0.1F)},
         {"PlayerLane", State.PlayerLane >= 0 && State.PlayerLane < LaneCount &&
                            player.X == LaneCenterX(State.PlayerLane)},
+    });
+}
+
+std::string BrokenList(const GameState &State) {
+    return FirstBroken({
         {"Bullets", std::ranges::all_of(State.Bullets,
                         [](const Bullet &Shot) {
                             return Shot.Y >= -20.0F && Shot.Y <= 656.0F;
@@ -93,10 +117,15 @@ std::string BrokenField(const GameState &State) {
                                return Burst.Age >= 0.0F && Burst.Age < Burst.Life;
                            })},
         {"PendingSounds", State.PendingSounds.Count <= SoundQueue::Capacity},
-    };
-    for (const auto &[name, holds] : promises) {
-        if (!holds) {
-            return name;
+    });
+}
+
+/// The first broken promise of the record by name; empty if it is whole.
+std::string BrokenField(const GameState &State) {
+    for (const auto broken : {BrokenFieldOfRun, BrokenFieldOfPlayer, BrokenList}) {
+        const std::string field = broken(State);
+        if (!field.empty()) {
+            return field;
         }
     }
     return {};

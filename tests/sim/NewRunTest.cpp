@@ -10,6 +10,40 @@
 
 namespace {
 
+void UseRun(GameState &State) {
+    State.Score = 1234;
+    State.HighScore = 98765;
+    State.Stage = 7;
+    State.PreviousStage = 6;
+    State.WaterFlowDirection = -1;
+    State.PreviousWaterFlowDirection = -1;
+    State.GameTime = 170.0F;
+    State.RoadScroll = 5000.0F;
+    State.CurrentScrollSpeed = 156.0F;
+    State.StageTransition = 0.25F;
+    State.SpawnTimer = 0.5F;
+    State.ObstacleSpawnTimer = 0.5F;
+    State.ItemSpawnTimer = 0.5F;
+    State.ReadyBanner = 0.5F;
+    State.InvulnerabilityTimer = 0.5F;
+    State.LaneMoveCooldown = 0.5F;
+    State.AmmoRegenPause = 0.5F;
+    State.AmmoMeter = 12.0F;
+    State.Bombs = 1;
+    State.FirstAidKits = 2;
+    State.PlayerLane = 7;
+    State.SpecialActive = true;
+    State.SpecialTimer = 0.5F;
+    State.InvincibilityPowerTimer = 0.5F;
+    State.DualWeaponPowerTimer = 0.5F;
+    State.PlayerDying = true;
+    State.DeathTimer = 0.5F;
+    State.HasRunState = false;
+    State.SaveRequested = false;
+    State.SaveDelay = 0.5F;
+    State.Player = {111.0F, 222.0F, 33.0F, 44, 55, 0, 0.5F};
+}
+
 /// A state in which no field that a new run sets has the value that it sets. The next flow directions of its
 /// generator are +1, -1.
 GameState UsedState() {
@@ -22,37 +56,7 @@ GameState UsedState() {
     state.OptionsReturnScreen = ScreenPaused;
     state.HelpReturnScreen = ScreenPaused;
     state.CreditsScroll = 17.0F;
-    state.Score = 1234;
-    state.HighScore = 98765;
-    state.Stage = 7;
-    state.PreviousStage = 6;
-    state.WaterFlowDirection = -1;
-    state.PreviousWaterFlowDirection = -1;
-    state.GameTime = 170.0F;
-    state.RoadScroll = 5000.0F;
-    state.CurrentScrollSpeed = 156.0F;
-    state.StageTransition = 0.25F;
-    state.SpawnTimer = 0.5F;
-    state.ObstacleSpawnTimer = 0.5F;
-    state.ItemSpawnTimer = 0.5F;
-    state.ReadyBanner = 0.5F;
-    state.InvulnerabilityTimer = 0.5F;
-    state.LaneMoveCooldown = 0.5F;
-    state.AmmoRegenPause = 0.5F;
-    state.AmmoMeter = 12.0F;
-    state.Bombs = 1;
-    state.FirstAidKits = 2;
-    state.PlayerLane = 7;
-    state.SpecialActive = true;
-    state.SpecialTimer = 0.5F;
-    state.InvincibilityPowerTimer = 0.5F;
-    state.DualWeaponPowerTimer = 0.5F;
-    state.PlayerDying = true;
-    state.DeathTimer = 0.5F;
-    state.HasRunState = false;
-    state.SaveRequested = false;
-    state.SaveDelay = 0.5F;
-    state.Player = {111.0F, 222.0F, 33.0F, 44, 55, 0, 0.5F};
+    UseRun(state);
     state.Bullets.resize(2);
     state.EnemyBullets.resize(2);
     state.Enemies.resize(2);

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -54,29 +55,55 @@ GameState StateWith(std::vector<Resolution> Resolutions, std::int32_t Index) {
 
 } // namespace
 
+TEST(RatioMatches, TakesTheExactShape) {
+    EXPECT_TRUE(RatioMatches(1920, 1080, 16, 9));
+    EXPECT_TRUE(RatioMatches(1024, 768, 4, 3));
+    EXPECT_FALSE(RatioMatches(1920, 1080, 4, 3));
+    EXPECT_FALSE(RatioMatches(1920, 1080, 9, 16));
+}
+
 TEST(RatioMatches, NeedsASizeAboveZero) {
-    EXPECT_FALSE(RatioMatches(0, 9, 16, 9));
-    EXPECT_FALSE(RatioMatches(16, 0, 16, 9));
-    EXPECT_FALSE(RatioMatches(0, 0, 16, 9));
-    EXPECT_FALSE(RatioMatches(-16, -9, 16, 9));
-    EXPECT_FALSE(RatioMatches(-1, 720, 16, 9));
-    EXPECT_FALSE(RatioMatches(1280, -1, 16, 9));
+    constexpr std::array sizes{Resolution{0, 0}, Resolution{0, 1}, Resolution{1, 0}, Resolution{0, 9},
+        Resolution{16, 0}, Resolution{-16, -9}, Resolution{-1, 720}, Resolution{1280, -1},
+        Resolution{-1920, -1080}, Resolution{-1, 1}, Resolution{1, -1}};
+    for (const Resolution &size : sizes) {
+        EXPECT_FALSE(RatioMatches(size.Width, size.Height, 16, 9)) << size.Width << "x" << size.Height;
+        EXPECT_FALSE(RatioMatches(size.Width, size.Height, 1, 1)) << size.Width << "x" << size.Height;
+    }
 }
 
 TEST(RatioMatches, ToleratesADifferenceOfOneWhereTheProductsAreBelow400) {
     EXPECT_TRUE(RatioMatches(3, 2, 4, 3));     // 9 and 8
     EXPECT_FALSE(RatioMatches(2, 2, 4, 3));    // 6 and 8
     EXPECT_FALSE(RatioMatches(130, 98, 4, 3)); // 390 and 392
+    EXPECT_TRUE(RatioMatches(399, 398, 1, 1));
+    EXPECT_FALSE(RatioMatches(399, 397, 1, 1));
+    EXPECT_TRUE(RatioMatches(7, 4, 16, 9));    // 63 and 64
+    EXPECT_FALSE(RatioMatches(21, 12, 16, 9)); // 189 and 192
 }
 
 TEST(RatioMatches, ToleratesAHalfPercentFrom400On) {
-    EXPECT_TRUE(RatioMatches(134, 100, 4, 3));    // 402 and 400; 402 / 200 is 2
-    EXPECT_TRUE(RatioMatches(400, 199, 2, 1));    // 400 and 398, where 400 / 200 is 2
+    EXPECT_TRUE(RatioMatches(134, 100, 4, 3)); // 402 and 400; 402 / 200 is 2
+    EXPECT_TRUE(RatioMatches(400, 199, 2, 1)); // 400 and 398, where 400 / 200 is 2
+    EXPECT_TRUE(RatioMatches(400, 398, 1, 1));
+    EXPECT_FALSE(RatioMatches(400, 397, 1, 1));
     EXPECT_FALSE(RatioMatches(398, 198, 2, 1));   // 398 and 396: tolerance 1
     EXPECT_TRUE(RatioMatches(1286, 720, 16, 9));  // 11574 and 11520: 54 of 57
     EXPECT_FALSE(RatioMatches(1287, 720, 16, 9)); // 11583 and 11520: 63 of 57
     EXPECT_TRUE(RatioMatches(1274, 720, 16, 9));  // 11466 and 11520: 54 of 57
     EXPECT_FALSE(RatioMatches(1273, 720, 16, 9)); // 11457 and 11520: 63 of 57
+    EXPECT_FALSE(RatioMatches(1280, 1024, 4, 3)); // 3840 and 4096
+}
+
+TEST(RatioMatches, TruncatesTheHalfPercent) {
+    EXPECT_TRUE(RatioMatches(599, 597, 1, 1));
+    EXPECT_FALSE(RatioMatches(599, 596, 1, 1));
+    EXPECT_TRUE(RatioMatches(600, 597, 1, 1));
+}
+
+TEST(RatioMatches, TakesTheToleranceFromTheLargerProduct) {
+    EXPECT_TRUE(RatioMatches(398, 400, 1, 1));
+    EXPECT_FALSE(RatioMatches(397, 400, 1, 1));
 }
 
 TEST(RatioMatches, Takes1366By768For16To9) {
@@ -88,6 +115,7 @@ TEST(IsUltrawide, KnowsItsFourShapes) {
     EXPECT_TRUE(IsUltrawide(2560, 1080)); // 64:27
     EXPECT_TRUE(IsUltrawide(3440, 1440)); // 43:18
     EXPECT_TRUE(IsUltrawide(1680, 720));  // 21:9
+    EXPECT_TRUE(IsUltrawide(2520, 1080)); // 21:9
     EXPECT_TRUE(IsUltrawide(3840, 1600)); // 12:5
 }
 
@@ -107,6 +135,7 @@ TEST(ResolutionAllowed, WidescreenTakesAllItsShapes) {
     EXPECT_TRUE(ResolutionAllowed(AspectWidescreen, 2560, 1080));
     EXPECT_TRUE(ResolutionAllowed(AspectWidescreen, 5120, 1440));
     EXPECT_FALSE(ResolutionAllowed(AspectWidescreen, 1600, 1200));
+    EXPECT_FALSE(ResolutionAllowed(AspectWidescreen, 1080, 1920));
     EXPECT_FALSE(ResolutionAllowed(AspectWidescreen, 0, 0));
 }
 
@@ -172,12 +201,15 @@ TEST(ComputeLogicalWidth, Is960InClassicWhateverTheScreen) {
     }
     EXPECT_EQ(WidthFor(AspectClassic4x3, 5120, 1440), 960);
     EXPECT_EQ(WidthFor(AspectClassic4x3, 1920, 1080), 960);
+    EXPECT_EQ(WidthFor(AspectClassic4x3, 3840, 2160), 960);
     EXPECT_EQ(WidthFor(AspectClassic4x3, 0, 0), 960);
 }
 
 TEST(ComputeLogicalWidth, Is1280ForShapesThatItDoesNotKnow) {
     EXPECT_EQ(WidthFor(AspectWidescreen, 1280, 1024), 1280);
     EXPECT_EQ(WidthFor(AspectWidescreen, 640, 480), 1280);
+    EXPECT_EQ(WidthFor(AspectWidescreen, 1024, 768), 1280);
+    EXPECT_EQ(WidthFor(AspectWidescreen, 1080, 1920), 1280);
     EXPECT_EQ(WidthFor(AspectWidescreen, 720, 1280), 1280);
     EXPECT_EQ(WidthFor(AspectWidescreen, 0, 0), 1280);
     EXPECT_EQ(WidthFor(AspectWidescreen, -1920, -1080), 1280);
@@ -185,7 +217,12 @@ TEST(ComputeLogicalWidth, Is1280ForShapesThatItDoesNotKnow) {
 
 TEST(ComputeLogicalWidth, KnowsEveryUltrawideShape) {
     EXPECT_EQ(WidthFor(AspectWidescreen, 1680, 720), 1728); // 21:9, which no built-in row has
+    EXPECT_EQ(WidthFor(AspectWidescreen, 2520, 1080), 1728);
     EXPECT_EQ(WidthFor(AspectWidescreen, 3840, 1080), 2560);
+}
+
+TEST(LogicalScreen, Is720High) {
+    EXPECT_EQ(LogicalHeight, 720);
 }
 
 TEST(Resolution, OrdersByWidthAndThenByHeight) {
@@ -195,8 +232,8 @@ TEST(Resolution, OrdersByWidthAndThenByHeight) {
 }
 
 TEST(CurrentResolution, ReadsTheListOfTheDisplay) {
-    const GameState state = StateWith({{1920, 1080}, {2560, 1440}}, 1);
-    EXPECT_EQ(CurrentResolution(state), (Resolution{2560, 1440}));
+    const GameState state = StateWith({{1280, 720}, {1920, 1080}, {2560, 1440}}, 1);
+    EXPECT_EQ(CurrentResolution(state), (Resolution{1920, 1080}));
 }
 
 TEST(CurrentResolution, FallsBackToTheTableOfTheAspectMode) {
@@ -213,6 +250,9 @@ TEST(CurrentResolution, ClampsTheIndexForTheLookUpOnly) {
     state.ResolutionIndex = -5;
     EXPECT_EQ(CurrentResolution(state), (Resolution{1920, 1080}));
     EXPECT_EQ(state.ResolutionIndex, -5);
+    state.ResolutionIndex = std::numeric_limits<std::int32_t>::max();
+    EXPECT_EQ(CurrentResolution(state), (Resolution{2560, 1440}));
+    EXPECT_EQ(state.ResolutionIndex, std::numeric_limits<std::int32_t>::max());
 
     state.Resolutions.clear();
     state.ResolutionIndex = 21;
@@ -234,9 +274,13 @@ TEST(FindResolutionIndex, FindsAnExactPairInTheDisplaysList) {
 TEST(FindResolutionIndex, FindsAnExactPairInTheBuiltInTableWhileTheListIsEmpty) {
     GameState state;
     EXPECT_EQ(FindResolutionIndex(state, 1280, 720, 0), 3);
+    EXPECT_EQ(FindResolutionIndex(state, 1920, 1080, 0), 9);
     EXPECT_EQ(FindResolutionIndex(state, 5120, 1440, 0), 20);
+    EXPECT_EQ(FindResolutionIndex(state, 1024, 768, 30), 20); // which the other table has
     state.AspectMode = AspectClassic4x3;
     EXPECT_EQ(FindResolutionIndex(state, 960, 720, 0), 2);
+    EXPECT_EQ(FindResolutionIndex(state, 1024, 768, 0), 3);
+    EXPECT_EQ(FindResolutionIndex(state, 1920, 1080, 30), 6);
 }
 
 TEST(FindResolutionIndex, NeedsBothNumbersToMatch) {
@@ -257,7 +301,9 @@ TEST(FindResolutionIndex, ClampsTheFallback) {
     GameState state = StateWith({{1280, 720}, {1920, 1080}}, 0);
     EXPECT_EQ(FindResolutionIndex(state, 1, 1, -3), 0);
     EXPECT_EQ(FindResolutionIndex(state, 1, 1, 1), 1);
+    EXPECT_EQ(FindResolutionIndex(state, 1, 1, 2), 1);
     EXPECT_EQ(FindResolutionIndex(state, 1, 1, 9), 1);
+    EXPECT_EQ(FindResolutionIndex(state, 1, 1, std::numeric_limits<std::int32_t>::max()), 1);
     state.Resolutions.clear();
     EXPECT_EQ(FindResolutionIndex(state, 1, 1, 99), 20);
     state.AspectMode = AspectClassic4x3;

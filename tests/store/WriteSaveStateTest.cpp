@@ -65,6 +65,16 @@ TEST_F(WriteSaveStateTest, WritesADefaultRunToTheByte) {
                                   {"HasRunState", BoolToken(1)}, {"RunState", ObjectBytes(run)}})));
 }
 
+std::string BulletBytes(double X, double Y, double Speed, double Radius) {
+    return ObjectBytes({{"X", DoubleToken(X)}, {"Y", DoubleToken(Y)}, {"Speed", DoubleToken(Speed)},
+        {"Radius", DoubleToken(Radius)}});
+}
+
+std::string ColorEntryBytes(int R, int G, int B, int A) {
+    return ObjectBytes(
+        {{"R", Int32Token(R)}, {"G", Int32Token(G)}, {"B", Int32Token(B)}, {"A", Int32Token(A)}});
+}
+
 TEST_F(WriteSaveStateTest, WritesEveryEntryOfTheListsInOrder) {
     State.HasRunState = true;
     const std::string empty = Written();
@@ -74,20 +84,12 @@ TEST_F(WriteSaveStateTest, WritesEveryEntryOfTheListsInOrder) {
     State.Obstacles = {{1, 2, 3, 4, 5, 6, 7, 8, 9, 2}};
     State.Items = {{1, 2, 3, 4, 5, 3}};
     State.Explosions = {{1, 2, 3, 4, 5, {0, 128, 254, 255}}};
-    const auto bullet = [](double X, double Y, double Speed, double Radius) {
-        return ObjectBytes({{"X", DoubleToken(X)}, {"Y", DoubleToken(Y)}, {"Speed", DoubleToken(Speed)},
-            {"Radius", DoubleToken(Radius)}});
-    };
-    const auto color = [](int R, int G, int B, int A) {
-        return ObjectBytes(
-            {{"R", Int32Token(R)}, {"G", Int32Token(G)}, {"B", Int32Token(B)}, {"A", Int32Token(A)}});
-    };
     const std::string enemyBullet = ObjectBytes({{"X", DoubleToken(1)}, {"Y", DoubleToken(2)},
         {"Speed", DoubleToken(3)}, {"Radius", DoubleToken(4)}, {"Damage", Int32Token(5)}});
     const std::string enemy = ObjectBytes({{"X", DoubleToken(1)}, {"Y", DoubleToken(2)},
         {"Speed", DoubleToken(3)}, {"Radius", DoubleToken(4)}, {"HitFlash", DoubleToken(5)},
         {"AiTimer", DoubleToken(6)}, {"FireCooldown", DoubleToken(7)}, {"Lane", Int32Token(8)},
-        {"Hp", Int32Token(9)}, {"Score", Int32Token(10)}, {"Color", color(11, 12, 13, 255)}});
+        {"Hp", Int32Token(9)}, {"Score", Int32Token(10)}, {"Color", ColorEntryBytes(11, 12, 13, 255)}});
     const std::string obstacle = ObjectBytes(
         {{"X", DoubleToken(1)}, {"Y", DoubleToken(2)}, {"Speed", DoubleToken(3)}, {"Width", DoubleToken(4)},
             {"Height", DoubleToken(5)}, {"HitFlash", DoubleToken(6)}, {"Lane", Int32Token(7)},
@@ -95,15 +97,15 @@ TEST_F(WriteSaveStateTest, WritesEveryEntryOfTheListsInOrder) {
     const std::string item =
         ObjectBytes({{"X", DoubleToken(1)}, {"Y", DoubleToken(2)}, {"Speed", DoubleToken(3)},
             {"Radius", DoubleToken(4)}, {"Lane", Int32Token(5)}, {"Type", Int32Token(3)}});
-    const std::string explosion =
-        ObjectBytes({{"X", DoubleToken(1)}, {"Y", DoubleToken(2)}, {"Age", DoubleToken(3)},
-            {"Life", DoubleToken(4)}, {"MaxRadius", DoubleToken(5)}, {"Color", color(0, 128, 254, 255)}});
-    const std::string lists = EntryBytes({"Bullets", ArrayBytes({bullet(1, 2, 3, 4), bullet(5, 6, 7, 8)})}) +
-                              EntryBytes({"EnemyBullets", ArrayBytes({enemyBullet})}) +
-                              EntryBytes({"Enemies", ArrayBytes({enemy})}) +
-                              EntryBytes({"Obstacles", ArrayBytes({obstacle})}) +
-                              EntryBytes({"Items", ArrayBytes({item})}) +
-                              EntryBytes({"Explosions", ArrayBytes({explosion})}) + "\x01\x01";
+    const std::string explosion = ObjectBytes(
+        {{"X", DoubleToken(1)}, {"Y", DoubleToken(2)}, {"Age", DoubleToken(3)}, {"Life", DoubleToken(4)},
+            {"MaxRadius", DoubleToken(5)}, {"Color", ColorEntryBytes(0, 128, 254, 255)}});
+    const std::string lists =
+        EntryBytes({"Bullets", ArrayBytes({BulletBytes(1, 2, 3, 4), BulletBytes(5, 6, 7, 8)})}) +
+        EntryBytes({"EnemyBullets", ArrayBytes({enemyBullet})}) +
+        EntryBytes({"Enemies", ArrayBytes({enemy})}) + EntryBytes({"Obstacles", ArrayBytes({obstacle})}) +
+        EntryBytes({"Items", ArrayBytes({item})}) + EntryBytes({"Explosions", ArrayBytes({explosion})}) +
+        "\x01\x01";
     const std::string bytes = Written();
     ASSERT_GT(bytes.size(), lists.size());
     EXPECT_EQ(Hex(bytes.substr(bytes.size() - lists.size())), Hex(lists));
