@@ -9,6 +9,7 @@
 namespace {
 
 constexpr double secondsForLoudness = 26.0;
+constexpr std::size_t framesBehindTheSeam = 4096; ///< far more than the meter's filter is long
 
 struct MeterEnd {
     void operator()(ebur128_state *Meter) const {
@@ -17,16 +18,9 @@ struct MeterEnd {
 };
 using Meter = std::unique_ptr<ebur128_state, MeterEnd>;
 
-/// A meter that has heard the piece at least twice, and for the given time.
-Meter Listen(const Piece &Piece, int Mode, double Seconds) {
-    Meter meter(
+Meter NewMeter(const Piece &Piece, int Mode) {
+    return Meter(
         ebur128_init(static_cast<unsigned>(Piece.Channels), static_cast<unsigned long>(Piece.Rate), Mode));
-    const double length = static_cast<double>(FrameCount(Piece)) / Piece.Rate;
-    const int passes = std::max(2, static_cast<int>(std::ceil(Seconds / length)));
-    for (int pass = 0; pass < passes; ++pass) {
-        ebur128_add_frames_float(meter.get(), Piece.Samples.data(), FrameCount(Piece));
-    }
-    return meter;
 }
 
 double Decibels(double Amplitude) {
@@ -56,13 +50,22 @@ double Step(const Piece &Piece, std::size_t From, std::size_t To) {
 } // namespace
 
 double Loudness(const Piece &Piece) {
+    const Meter meter = NewMeter(Piece, EBUR128_MODE_I);
+    const double length = static_cast<double>(FrameCount(Piece)) / Piece.Rate;
+    const int passes = std::max(2, static_cast<int>(std::ceil(secondsForLoudness / length)));
+    for (int pass = 0; pass < passes; ++pass) {
+        ebur128_add_frames_float(meter.get(), Piece.Samples.data(), FrameCount(Piece));
+    }
     double loudness = 0.0;
-    ebur128_loudness_global(Listen(Piece, EBUR128_MODE_I, secondsForLoudness).get(), &loudness);
+    ebur128_loudness_global(meter.get(), &loudness);
     return loudness;
 }
 
 double TruePeak(const Piece &Piece) {
-    const Meter meter = Listen(Piece, EBUR128_MODE_TRUE_PEAK, 0.0);
+    const Meter meter = NewMeter(Piece, EBUR128_MODE_TRUE_PEAK);
+    ebur128_add_frames_float(meter.get(), Piece.Samples.data(), FrameCount(Piece));
+    const auto again = std::min(FrameCount(Piece), framesBehindTheSeam);
+    ebur128_add_frames_float(meter.get(), Piece.Samples.data(), again);
     double peak = 0.0;
     for (unsigned channel = 0; channel < static_cast<unsigned>(Piece.Channels); ++channel) {
         double ofChannel = 0.0;
