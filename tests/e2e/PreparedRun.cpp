@@ -2,9 +2,8 @@
 
 #include "store/SaveState.hpp"
 #include "tests/support/TemporaryHome.hpp"
+#include "tools/desktop/FileText.hpp"
 
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 
@@ -18,8 +17,7 @@ std::string SavedText(const GameState &Run) {
     if (!WriteSaveState(Run)) {
         throw std::runtime_error("the run cannot be saved");
     }
-    std::ifstream file(home.FilePath(SaveStateFileName), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    return TextOf(home.FilePath(SaveStateFileName)).value();
 }
 
 } // namespace

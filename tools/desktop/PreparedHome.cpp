@@ -1,7 +1,8 @@
 #include "tools/desktop/PreparedHome.hpp"
 
+#include "tools/desktop/FileText.hpp"
+
 #include <fstream>
-#include <sstream>
 #include <stdexcept>
 
 void PreparedHome::Put(const std::string &Name, const std::string &Text) const {
@@ -15,13 +16,7 @@ void PreparedHome::Put(const std::string &Name, const std::string &Text) const {
 }
 
 std::optional<std::string> PreparedHome::Read(const std::string &Name) const {
-    std::ifstream file(FileOf(Name), std::ios::binary);
-    if (!file) {
-        return std::nullopt;
-    }
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
+    return TextOf(FileOf(Name));
 }
 
 const std::filesystem::path &PreparedHome::Path() const {
