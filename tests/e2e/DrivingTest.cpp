@@ -20,14 +20,9 @@ struct Sighting {
 
 std::vector<Sighting> WatchUntilLane(PlayedGame &Game, int Lane) {
     std::vector<Sighting> sightings;
-    std::optional<int> phase;
+    ScrollMeter meter;
     Game.WaitForPicture([&](const Screenshot &Seen) {
-        int scrolled = sightings.empty() ? 0 : sightings.back().Scrolled;
-        if (const std::optional<int> now = FindDashPhase(Seen)) {
-            scrolled += (*now - phase.value_or(*now) + DashPeriod) % DashPeriod;
-            phase = now;
-        }
-        sightings.push_back({FindCarLane(Seen).value_or(-1), scrolled});
+        sightings.push_back({FindCarLane(Seen).value_or(-1), meter.Watch(Seen)});
         return sightings.back().Lane == Lane;
     });
     return sightings;

@@ -1,8 +1,8 @@
 #include "tests/e2e/GameProgram.hpp"
 
+#include "tools/support/Files.hpp"
+
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 namespace {
@@ -14,9 +14,7 @@ std::filesystem::path NamedProgram() {
 
 // Every program with AddressSanitizer calls its runtime by this name first of all.
 bool HoldsSanitizer(const std::filesystem::path &Program) {
-    std::ifstream file(Program, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    return bytes.find("__asan_init") != std::string::npos;
+    return FindBytes(Program).value_or("").find("__asan_init") != std::string::npos;
 }
 
 } // namespace

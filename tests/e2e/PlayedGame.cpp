@@ -8,6 +8,14 @@ Sight CarInLane(int Lane) {
     };
 }
 
+int ScrollMeter::Watch(const Screenshot &Seen) {
+    if (const std::optional<int> now = FindDashPhase(Seen)) {
+        Scrolled += (*now - Phase.value_or(*now) + DashPeriod) % DashPeriod;
+        Phase = now;
+    }
+    return Scrolled;
+}
+
 PlayedGame::PlayedGame(ScreenSize Screen, const Environment &Settings, const PreparedHome *Prepared)
     : OpenedGame(Screen, Settings, Prepared) {
     if (!StartRun()) {
@@ -29,7 +37,7 @@ void PlayedGame::SteerTowards(const Screenshot &Seen, std::optional<int> Lane) {
 }
 
 bool PlayedGame::RamUntil(const Sight &Shows) {
-    constexpr std::chrono::minutes patience{3};
+    constexpr std::chrono::minutes patience{6};
     return WaitForPicture(
         [&](const Screenshot &Seen) {
             const bool shown = Shows(Seen);

@@ -19,8 +19,8 @@ public:
     // Brings the car one lane nearer to that one; nothing happens if it is there or cannot be seen.
     void SteerTowards(const Screenshot &Seen, std::optional<int> Lane);
 
-    // Drives into one enemy car after the other until a picture satisfies Shows. False if none did in three
-    // minutes, which is several times as long as three lives last.
+    // Drives into one enemy car after the other until a picture satisfies Shows. False if none did in six
+    // minutes, which is many times as long as three lives last.
     bool RamUntil(const Sight &Shows);
 
     // Whether each of the next Frames pictures in which the road has moved on satisfies Shows. Those in which
@@ -29,3 +29,15 @@ public:
 };
 
 Sight CarInLane(int Lane);
+
+// Tells from picture to picture how far the road has scrolled.
+class ScrollMeter {
+public:
+    // The pixels that the road has scrolled since the first picture; whole dash periods that pass between two
+    // pictures are missed.
+    int Watch(const Screenshot &Seen);
+
+private:
+    std::optional<int> Phase;
+    int Scrolled = 0;
+};

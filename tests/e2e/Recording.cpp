@@ -1,12 +1,13 @@
 #include "tests/e2e/Recording.hpp"
 
+#include "tools/support/Files.hpp"
+
 #include <SDL3_mixer/SDL_mixer.h>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <fstream>
 #include <initializer_list>
 #include <memory>
 #include <stdexcept>
@@ -70,8 +71,7 @@ bool IsHeardAt(const Sound &Heard, const Sound &Piece, std::size_t Start) {
 } // namespace
 
 Sound ReadRecording(const std::filesystem::path &File) {
-    std::ifstream file(File, std::ios::binary);
-    const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
+    const std::string bytes = FindBytes(File).value_or("");
     const auto byte = [&bytes](std::size_t Index) {
         return static_cast<std::uint8_t>(bytes[Index]);
     };

@@ -41,7 +41,7 @@ TEST(Run, ABombGoesFromThePanel) {
 // A car that stands still and shoots for a while scores; one that then drives into the traffic loses its
 // three lives in about half a minute of play.
 TEST(Run, PlayedToItsDeathTheHudTellsAllOfIt) {
-    constexpr std::chrono::minutes patience{2};
+    constexpr std::chrono::minutes patience{4};
     PlayedGame game;
     game.Person().PressKey(Key::LeftControl);
     EXPECT_TRUE(game.WaitForPicture(

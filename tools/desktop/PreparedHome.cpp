@@ -7,8 +7,7 @@ void PreparedHome::Put(const std::string &Name, const std::string &Text) const {
 }
 
 std::optional<std::string> PreparedHome::Read(const std::string &Name) const {
-    const std::filesystem::path path = FileOf(Name);
-    return std::filesystem::is_regular_file(path) ? std::optional(ReadBytes(path)) : std::nullopt;
+    return FindBytes(FileOf(Name));
 }
 
 const std::filesystem::path &PreparedHome::Path() const {

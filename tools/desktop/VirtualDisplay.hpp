@@ -13,7 +13,7 @@ struct ScreenSize {
 class VirtualDisplay {
 public:
     // Starts Xvfb on a free display number. Throws std::runtime_error if Xvfb is missing, ends, or is not
-    // ready within thirty seconds.
+    // ready in time.
     explicit VirtualDisplay(ScreenSize Size);
 
     // What a client puts into DISPLAY, such as ":7".

@@ -5,7 +5,7 @@
 
 // How long a wait lasts before it counts as failed. Generous: a loaded machine and a program under a
 // sanitizer are slow, and a wait that succeeds ends at once.
-inline constexpr std::chrono::milliseconds PatientDeadline{30000};
+inline constexpr std::chrono::milliseconds PatientDeadline{60000};
 
 // How long a wait rests before it asks again.
 inline constexpr std::chrono::milliseconds ShortRest{10};

@@ -10,7 +10,7 @@
 class WindowManager {
 public:
     // Starts evilwm, with that home folder, and waits until it looks after the display. Throws
-    // std::runtime_error if it is missing, ends, or is not ready within thirty seconds.
+    // std::runtime_error if it is missing, ends, or is not ready in time.
     WindowManager(const std::string &DisplayName, const std::filesystem::path &Home, XClient &OnThatDisplay);
 
 private:
