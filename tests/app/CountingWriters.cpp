@@ -13,7 +13,7 @@ bool Succeeds(int &Failures) {
     return true;
 }
 
-bool CountOptions(const GameState &) {
+bool CountOptions(const GameState & /*State*/) {
     ++Written.OptionsWrites;
     if (Written.OnOptionsWrite) {
         Written.OnOptionsWrite();
@@ -21,7 +21,7 @@ bool CountOptions(const GameState &) {
     return Succeeds(Written.OptionsFailures);
 }
 
-bool CountSave(const GameState &) {
+bool CountSave(const GameState & /*State*/) {
     ++Written.SaveWrites;
     if (Written.OnSaveWrite) {
         Written.OnSaveWrite();

@@ -49,7 +49,7 @@ protected:
         return frames;
     }
 
-    void ExpectFileWithARunWithoutHealth() const {
+    static void ExpectFileWithARunWithoutHealth() {
         GameState read;
         ASSERT_TRUE(LoadSaveState(read));
         EXPECT_TRUE(read.HasRunState);

@@ -349,7 +349,7 @@ TEST_P(KeyTables, DoNotDependOnTheOtherBindings) {
         for (std::int32_t scancode = 1; scancode < 512; ++scancode) {
             GameState pressed = rebound.Before;
             DispatchKey(pressed, nullptr, nullptr, scancode);
-            const bool acts = rebound.Table.count(scancode) != 0;
+            const bool acts = rebound.Table.contains(scancode);
             EXPECT_EQ(!(pressed == rebound.Before), acts) << "scancode " << scancode;
         }
     }

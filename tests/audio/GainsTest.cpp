@@ -14,7 +14,7 @@ struct GainRow {
     std::int32_t Percent;
 };
 
-constexpr std::array<GainRow, 18> gains{{
+constexpr std::array<GainRow, 18> Gains{{
     {true, 100, 50, 50},
     {true, 100, 100, 100}, // a product of 10000
     {true, 101, 100, 100},
@@ -47,7 +47,7 @@ class VoiceGains : public MixerTest {};
 } // namespace
 
 TEST(EffectiveGain, OfTheMusicIsTheProductOfItsVolumesInPercent) {
-    for (const GainRow &row : gains) {
+    for (const GainRow &row : Gains) {
         GameState state;
         state.SfxEnabled = !row.Enabled;
         state.SfxVolume = 77;
@@ -60,7 +60,7 @@ TEST(EffectiveGain, OfTheMusicIsTheProductOfItsVolumesInPercent) {
 }
 
 TEST(EffectiveGain, OfTheSoundsIsTheProductOfItsVolumesInPercent) {
-    for (const GainRow &row : gains) {
+    for (const GainRow &row : Gains) {
         GameState state;
         state.MusicEnabled = !row.Enabled;
         state.MusicVolume = 77;

@@ -12,11 +12,11 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr int rate = 44100;
-constexpr int framesPerUpdate = 441; // ten milliseconds
+constexpr int Rate = 44100;
+constexpr int FramesPerUpdate = 441; // ten milliseconds
 
 /// Pieces of 200 milliseconds, 20 updates: the menu's, and two of the game that follow each other.
-constexpr int updatesPerLoop = 20;
+constexpr int UpdatesPerLoop = 20;
 constexpr const char *Document = R"([Music]
 MenuPattern = MENU
 GameplayPattern = GAME
@@ -43,10 +43,10 @@ protected:
     MusicOnTheMixer() {
         for (const char *const file :
             {"Music/Menu.ogg", "Music/Game.ogg", "Music/GameB.ogg", "Music/Water.ogg"}) {
-            AddMusic(file, updatesPerLoop * framesPerUpdate);
+            AddMusic(file, UpdatesPerLoop * FramesPerUpdate);
         }
         EXPECT_TRUE(MIX_Init());
-        const SDL_AudioSpec format{SDL_AUDIO_F32LE, 1, rate};
+        const SDL_AudioSpec format{SDL_AUDIO_F32LE, 1, Rate};
         Runtime.Mixer = MIX_CreateMixer(&format);
         Runtime.MusicTrack = MIX_CreateTrack(Runtime.Mixer);
         Runtime.Player.Track = Runtime.MusicTrack;
@@ -64,7 +64,7 @@ protected:
     /// One update, and the ten milliseconds of music after it; gives the loudest sample of those.
     float Update() {
         UpdateMusicRuntime(State, Runtime);
-        std::vector<float> samples(framesPerUpdate);
+        std::vector<float> samples(FramesPerUpdate);
         MIX_Generate(Runtime.Mixer, samples.data(), static_cast<int>(samples.size() * sizeof(float)));
         return std::abs(*std::ranges::max_element(samples, {}, [](float Sample) {
             return std::abs(Sample);
@@ -114,7 +114,7 @@ TEST_F(MusicOnTheMixer, BeginsWithTheMenusMusic) {
 }
 
 TEST_F(MusicOnTheMixer, LoopsWithoutEndAndWithoutAnotherPlay) {
-    UpdateTimes(10 * updatesPerLoop);
+    UpdateTimes(10 * UpdatesPerLoop);
     EXPECT_EQ(Heard(), "MENU");
     EXPECT_EQ(Watch.PlayTrack.Count(), 1);
     EXPECT_EQ(Log.Lines, Lines());
@@ -151,8 +151,8 @@ TEST_F(MusicOnTheMixer, AlternatesBetweenTwoHalves) {
     Lines heard{Heard()};
     for (int loop = 0; loop < 4; ++loop) {
         const int updates = UpdatesUntilChange();
-        EXPECT_GE(updates, updatesPerLoop - 2);
-        EXPECT_LE(updates, updatesPerLoop + 2);
+        EXPECT_GE(updates, UpdatesPerLoop - 2);
+        EXPECT_LE(updates, UpdatesPerLoop + 2);
         heard.push_back(Heard());
     }
     EXPECT_EQ(heard, (Lines{"GAME", "GAME_B", "GAME", "GAME_B", "GAME"}));
@@ -169,7 +169,7 @@ TEST_F(MusicOnTheMixer, NeverStopsTheGamesMusicForALookAtTheOptions) {
     UpdateTimes(5);
     ASSERT_NE(Runtime.Player.RequestedPattern, nullptr);
     State.Screen = ScreenPaused;
-    UpdateTimes(3 * updatesPerLoop);
+    UpdateTimes(3 * UpdatesPerLoop);
     EXPECT_EQ(Heard(), "WATER");
     EXPECT_EQ(Watch.PlayTrack.Count(), 1);
 }
@@ -219,7 +219,7 @@ TEST_F(MusicOnTheMixer, RisesFromTwentyEightPercentAtFirst) {
 TEST_F(GameFolderTest, TheWholeMusicRunsOnADeviceInItsOwnTime) {
     for (const char *const file :
         {"Music/Menu.ogg", "Music/Game.ogg", "Music/GameB.ogg", "Music/Water.ogg"}) {
-        AddMusic(file, rate / 5);
+        AddMusic(file, Rate / 5);
     }
     AddText("Music/MusicPatterns.ini", Document);
     GameState state;

@@ -17,7 +17,7 @@ struct Role {
     const char *Name;
 };
 
-constexpr std::array<Role, 6> roles{{
+constexpr std::array<Role, 6> Roles{{
     {"MenuPattern", &MusicRuntime::MenuPattern, "MENU"},
     {"GameplayPattern", &MusicRuntime::GameplayPattern, "GAMEPLAY"},
     {"WaterPattern", &MusicRuntime::WaterPattern, "WATER"},
@@ -31,7 +31,7 @@ struct Fade {
     std::int32_t MusicRuntime::*Milliseconds;
 };
 
-constexpr std::array<Fade, 2> fades{{
+constexpr std::array<Fade, 2> Fades{{
     {"FadeInMs", &MusicRuntime::FadeInMs},
     {"FadeOutMs", &MusicRuntime::FadeOutMs},
 }};
@@ -188,23 +188,23 @@ TEST_F(MusicPatterns, AreDecodedWhileTheyPlay) {
 }
 
 TEST_F(MusicPatterns, KeepTheRolesThatTheDocumentDoesNotName) {
-    for (const Role &role : roles) {
+    for (const Role &role : Roles) {
         MusicRuntime runtime;
         runtime.Mixer = Runtime.Mixer;
         runtime.*role.Pattern = "KEPT";
         EXPECT_FALSE(LoadMusicPatterns(Read("[Music]\nOther = 1\n"), runtime));
-        for (const Role &other : roles) {
+        for (const Role &other : Roles) {
             EXPECT_EQ(runtime.*other.Pattern, other.Key == role.Key ? "KEPT" : other.Name) << other.Key;
         }
     }
 }
 
 TEST_F(MusicPatterns, TakeEachRoleFromItsKey) {
-    for (const Role &role : roles) {
+    for (const Role &role : Roles) {
         MusicRuntime runtime;
         runtime.Mixer = Runtime.Mixer;
         EXPECT_FALSE(LoadMusicPatterns(Read(std::string("[Music]\n") + role.Key + " = \"Mine\"\n"), runtime));
-        for (const Role &other : roles) {
+        for (const Role &other : Roles) {
             EXPECT_EQ(runtime.*other.Pattern, other.Key == role.Key ? "Mine" : other.Name) << other.Key;
         }
     }
@@ -240,12 +240,12 @@ TEST_F(MusicPatterns, BringTheFadesIntoTheirRange) {
         {"\" 5\"", 777},
         {"1.5", 777},
     }};
-    for (const Fade &fade : fades) {
+    for (const Fade &fade : Fades) {
         for (const Row &row : rows) {
             Runtime.FadeInMs = 777;
             Runtime.FadeOutMs = 777;
             Load(std::string("[Music]\n") + fade.Key + " = " + row.Text + "\n");
-            for (const Fade &other : fades) {
+            for (const Fade &other : Fades) {
                 EXPECT_EQ(Runtime.*other.Milliseconds, other.Key == fade.Key ? row.Milliseconds : 777)
                     << other.Key << " of " << row.Text;
             }
@@ -270,7 +270,7 @@ TEST_F(MusicPatterns, BringAPresentFadeIntoItsRangeToo) {
 TEST_F(MusicPatterns, WithoutASectionOfRolesGiveEveryRoleToTheOnlyPattern) {
     EXPECT_TRUE(Load("[Pattern.ONLY]\nFileName = Music/A.ogg\n"));
     Lines lines;
-    for (const Role &role : roles) {
+    for (const Role &role : Roles) {
         lines.push_back(MissingRole(role.Key, role.Name, "ONLY"));
         EXPECT_EQ(Runtime.*role.Pattern, "ONLY") << role.Key;
     }
@@ -306,7 +306,7 @@ TEST_F(MusicPatterns, GiveEachMissingRoleItsOwnFallback) {
             Runtime.DualWeaponPattern = "DUALWEAPON";
             EXPECT_TRUE(Load(text));
             EXPECT_EQ(Log.Lines, Lines{MissingRole(row.Key, name, row.Fallback)});
-            for (const Role &role : roles) {
+            for (const Role &role : Roles) {
                 const bool isMissing = std::string(role.Key) == row.Key;
                 EXPECT_EQ(Runtime.*role.Pattern, isMissing ? row.Fallback : role.Name) << role.Key;
             }

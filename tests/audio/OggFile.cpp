@@ -12,14 +12,14 @@
 
 namespace {
 
-constexpr int rate = 44100;
+constexpr int Rate = 44100;
 
 /// One stream of music on its way into a file.
 class OggEncoder {
 public:
     OggEncoder() {
         vorbis_info_init(&Info);
-        EXPECT_EQ(vorbis_encode_init_vbr(&Info, 2, rate, 0.2F), 0);
+        EXPECT_EQ(vorbis_encode_init_vbr(&Info, 2, Rate, 0.2F), 0);
         vorbis_comment_init(&Comment);
         vorbis_analysis_init(&Dsp, &Info);
         vorbis_block_init(&Dsp, &Block);
@@ -52,7 +52,7 @@ public:
     void WriteTone(int Frames, float Hertz) {
         float **const channels = vorbis_analysis_buffer(&Dsp, Frames);
         for (int frame = 0; frame < Frames; ++frame) {
-            const float seconds = static_cast<float>(frame) / static_cast<float>(rate);
+            const float seconds = static_cast<float>(frame) / static_cast<float>(Rate);
             channels[0][frame] = 0.4F * std::sin(2.0F * std::numbers::pi_v<float> * Hertz * seconds);
             channels[1][frame] = channels[0][frame];
         }

@@ -16,7 +16,7 @@ struct ExpectedSound {
     int Milliseconds;
 };
 
-constexpr std::array<ExpectedSound, 11> sounds{{
+constexpr std::array<ExpectedSound, 11> Sounds{{
     {0, "UiMove", 900, 0.16F, 45},
     {1, "UiConfirm", 1220, 0.24F, 70},
     {2, "UiBack", 680, 0.22F, 85},
@@ -38,8 +38,8 @@ static_assert(std::is_same_v<decltype(SfxRecipe::Duration), std::int64_t>);
 } // namespace
 
 TEST(SfxRecipes, HaveElevenRowsInTheOrderOfTheIds) {
-    ASSERT_EQ(SfxRecipes.size(), sounds.size());
-    for (const ExpectedSound &sound : sounds) {
+    ASSERT_EQ(SfxRecipes.size(), Sounds.size());
+    for (const ExpectedSound &sound : Sounds) {
         const SfxRecipe &recipe = SfxRecipes.at(static_cast<std::size_t>(sound.Id));
         EXPECT_EQ(static_cast<int>(recipe.Id), sound.Id) << sound.Name;
         EXPECT_EQ(recipe.Frequency, sound.Frequency) << sound.Name;
@@ -49,7 +49,7 @@ TEST(SfxRecipes, HaveElevenRowsInTheOrderOfTheIds) {
 }
 
 TEST(SfxName, IsTheWordOfEachSound) {
-    for (const ExpectedSound &sound : sounds) {
+    for (const ExpectedSound &sound : Sounds) {
         EXPECT_STREQ(SfxName(static_cast<SfxId>(sound.Id)), sound.Name);
     }
 }

@@ -119,7 +119,7 @@ TEST_F(AudioShutdown, FadesTheMusicOfADeviceOutAndWaits) {
 TEST_F(AudioShutdown, TakesEverythingDownInOrder) {
     Runtime.FadeOutMs = 0;
     Runtime.NextSfxTrack = 4;
-    Runtime.Player.RequestedPattern = &Runtime.Player.Patterns[0];
+    Runtime.Player.RequestedPattern = Runtime.Player.Patterns.data();
     MIX_Audio *const music = Runtime.Player.Patterns[0].Audio;
     ShutdownMusicRuntime(Runtime, true);
     CallNames order{Watch.StopTrack, Watch.DestroyAudio};

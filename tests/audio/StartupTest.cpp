@@ -297,7 +297,7 @@ TEST_F(AudioStartup, LogsTheVoicesThatRefuseTheirGain) {
 }
 
 TEST_F(AudioStartup, DestroysTheVoicesAndSoundsOfAnEarlierRunBeforeItMakesNewOnes) {
-    auto *const oldVoice = reinterpret_cast<MIX_Track *>(&Things[0]);
+    auto *const oldVoice = reinterpret_cast<MIX_Track *>(Things.data());
     auto *const oldSound = reinterpret_cast<MIX_Audio *>(&Things[1]);
     Runtime.SfxTracks = {oldVoice};
     Runtime.SfxAudio[7] = oldSound;

@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr std::array<int, 8> rates{44100, 48000, 22050, 8000, 1000, 999, 320, 319};
-constexpr std::array<int, 3> channelCounts{1, 2, 6};
+constexpr std::array<int, 8> Rates{44100, 48000, 22050, 8000, 1000, 999, 320, 319};
+constexpr std::array<int, 3> ChannelCounts{1, 2, 6};
 
 /// What reached MIX_LoadRawAudio.
 struct RawAudio {
@@ -23,7 +23,7 @@ struct EnvelopeRow {
     int Release;
 };
 
-constexpr std::array<EnvelopeRow, 8> envelopes{{
+constexpr std::array<EnvelopeRow, 8> Envelopes{{
     {44100, 88, 275},
     {48000, 96, 300},
     {22050, 44, 137},
@@ -71,7 +71,7 @@ struct LengthRow {
     std::array<std::size_t, 11> Frames;
 };
 
-constexpr std::array<LengthRow, 8> lengths{{
+constexpr std::array<LengthRow, 8> Lengths{{
     {44100, {1984, 3087, 3748, 1984, 7938, 5733, 3969, 11466, 4189, 3969, 4851}},
     {48000, {2160, 3360, 4080, 2160, 8640, 6240, 4320, 12480, 4560, 4320, 5280}},
     {22050, {992, 1543, 1874, 992, 3969, 2866, 1984, 5733, 2094, 1984, 2425}},
@@ -135,8 +135,8 @@ protected:
 } // namespace
 
 TEST_F(Synthesis, TakesTheMixersActualRateAndChannelsAndHandsOverFloats) {
-    for (const int rate : rates) {
-        for (const int channels : channelCounts) {
+    for (const int rate : Rates) {
+        for (const int channels : ChannelCounts) {
             Reported = {SDL_AUDIO_S16LE, channels, rate};
             ASSERT_EQ(SynthesiseSfx(FakeMixer(), RecipeOf(SfxId::PlayerHit)), FakeAudio());
             EXPECT_EQ(Loaded.Format.format, SDL_AUDIO_F32LE);
@@ -149,8 +149,8 @@ TEST_F(Synthesis, TakesTheMixersActualRateAndChannelsAndHandsOverFloats) {
 }
 
 TEST_F(Synthesis, GivesEverySoundItsLengthTruncatedToFrames) {
-    for (const LengthRow &row : lengths) {
-        for (const int channels : channelCounts) {
+    for (const LengthRow &row : Lengths) {
+        for (const int channels : ChannelCounts) {
             Reported = {SDL_AUDIO_S16LE, channels, row.Rate};
             for (std::size_t i = 0; i < SfxRecipes.size(); ++i) {
                 SynthesiseSfx(FakeMixer(), SfxRecipes.at(i));
@@ -162,8 +162,8 @@ TEST_F(Synthesis, GivesEverySoundItsLengthTruncatedToFrames) {
 }
 
 TEST_F(Synthesis, GivesEverySoundTheSamplesOfTheFormulaOnAllChannels) {
-    for (const EnvelopeRow &row : envelopes) {
-        for (const int channels : channelCounts) {
+    for (const EnvelopeRow &row : Envelopes) {
+        for (const int channels : ChannelCounts) {
             Reported = {SDL_AUDIO_S16LE, channels, row.Rate};
             for (const SfxRecipe &recipe : SfxRecipes) {
                 SynthesiseSfx(FakeMixer(), recipe);
@@ -223,7 +223,7 @@ TEST_F(Synthesis, TakesAnAmplitudeOutsideItsRangeAsTheNearestInIt) {
     recipe.Amplitude = 1.5F;
     SynthesiseSfx(FakeMixer(), recipe);
     recipe.Amplitude = 1.0F;
-    EXPECT_TRUE(Loaded.Samples == ExpectedSamples(recipe, envelopes[3], 1));
+    EXPECT_TRUE(Loaded.Samples == ExpectedSamples(recipe, Envelopes[3], 1));
     recipe.Amplitude = -0.5F;
     SynthesiseSfx(FakeMixer(), recipe);
     ASSERT_EQ(Loaded.Samples.size(), 360U);
@@ -319,9 +319,9 @@ TEST_F(MixerTest, TheMixerPlaysTheComputedSamples) {
     MIX_Track *const track = MIX_CreateTrack(mixer);
     ASSERT_TRUE(MIX_SetTrackAudio(track, audio) && MIX_PlayTrack(track, 0)) << SDL_GetError();
 
-    std::vector<float> heard(3360 * 2);
+    std::vector<float> heard(std::size_t{3360} * 2);
     MIX_Generate(mixer, heard.data(), static_cast<int>(heard.size() * sizeof(float)));
-    const std::vector<float> expected = ExpectedSamples(recipe, envelopes[1], 2);
+    const std::vector<float> expected = ExpectedSamples(recipe, Envelopes[1], 2);
     ASSERT_EQ(heard.size(), expected.size());
     for (std::size_t i = 0; i < heard.size(); ++i) {
         ASSERT_NEAR(heard[i], expected[i], 1e-5F) << i;

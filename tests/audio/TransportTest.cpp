@@ -7,7 +7,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr std::array<Screen, 7> screens{
+constexpr std::array<Screen, 7> Screens{
     ScreenMainMenu, ScreenOptions, ScreenHelp, ScreenPlaying, ScreenPaused, ScreenCredits, ScreenGameOver};
 
 /// With a pattern for each role, each following itself, and one that no role wants.
@@ -45,7 +45,7 @@ struct WantedRow {
     const char *Wanted;
 };
 
-constexpr std::array<WantedRow, 32> wantedRows{{
+constexpr std::array<WantedRow, 32> WantedRows{{
     {ScreenPlaying, 0.0F, 0.0F, 1, "GAMEPLAY"},
     {ScreenPlaying, 0.0F, 0.0F, 2, "WATER"},
     {ScreenPlaying, 0.0F, 0.0F, 3, "WATER"},
@@ -85,7 +85,7 @@ constexpr std::array<WantedRow, 32> wantedRows{{
 // What is wanted.
 
 TEST_F(Transport, WantsWhatScreenPowerUpsAndStageSay) {
-    for (const WantedRow &row : wantedRows) {
+    for (const WantedRow &row : WantedRows) {
         LetPlay("OTHER");
         Enter(row.At, row.At);
         State.InvincibilityPowerTimer = row.Invincibility;
@@ -152,8 +152,8 @@ TEST_F(Transport, WithNothingWantedLeavesARequestForTheBoundary) {
 // When it moves.
 
 TEST_F(Transport, CutsAtOnceForThreeOfThe49ChangesOfScreen) {
-    for (const Screen previous : screens) {
-        for (const Screen present : screens) {
+    for (const Screen previous : Screens) {
+        for (const Screen present : Screens) {
             LetPlay("OTHER");
             Played.clear();
             Enter(previous, present);
@@ -169,8 +169,8 @@ TEST_F(Transport, CutsAtOnceForThreeOfThe49ChangesOfScreen) {
 }
 
 TEST_F(Transport, PlaysAtOnceOnAnyScreenWhereNothingPlays) {
-    for (const Screen previous : screens) {
-        for (const Screen present : screens) {
+    for (const Screen previous : Screens) {
+        for (const Screen present : Screens) {
             LetPlay("OTHER");
             Played.clear();
             IsPlaying = false;
@@ -273,7 +273,7 @@ struct BoundaryRow {
 };
 
 /// The loop is 1000 ms long, which is 2000 frames of the track.
-constexpr std::array<BoundaryRow, 24> boundaryRows{{
+constexpr std::array<BoundaryRow, 24> BoundaryRows{{
     {500, -1, true, 400, false, 500},
     {500, -1, true, 500, false, 500},
     {500, -1, true, 501, true, 500},
@@ -303,7 +303,7 @@ constexpr std::array<BoundaryRow, 24> boundaryRows{{
 } // namespace
 
 TEST_F(Transport, SeesTheBoundaryByPositionAndLoops) {
-    for (const BoundaryRow &row : boundaryRows) {
+    for (const BoundaryRow &row : BoundaryRows) {
         for (const bool follows : {false, true}) {
             LetPlay("MENU");
             Played.clear();
@@ -543,7 +543,7 @@ TEST_F(Transport, BringsTheVolumesToTheTrackInOneUpdate) {
 
 TEST_F(Transport, BringsTheVolumesToTheVoicesInOneUpdate) {
     std::array<char, 2> things{};
-    auto *const first = reinterpret_cast<MIX_Track *>(&things[0]);
+    auto *const first = reinterpret_cast<MIX_Track *>(things.data());
     auto *const second = reinterpret_cast<MIX_Track *>(&things[1]);
     Runtime.SfxTracks = {first, second};
     Watch.SetTrackGain.Answer = [](MIX_Track *, float) {

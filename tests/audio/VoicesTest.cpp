@@ -12,14 +12,14 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr int rate = 44100;
+constexpr int Rate = 44100;
 
 /// All voices and sounds on a real mixer that renders to memory: time passes when the test says so.
 class Voices : public MixerTest {
 protected:
     Voices() {
         EXPECT_TRUE(MIX_Init());
-        const SDL_AudioSpec format{SDL_AUDIO_F32LE, 1, rate};
+        const SDL_AudioSpec format{SDL_AUDIO_F32LE, 1, Rate};
         Runtime.Mixer = MIX_CreateMixer(&format);
         for (const SfxRecipe &recipe : SfxRecipes) {
             Runtime.SfxAudio.at(static_cast<std::size_t>(recipe.Id)) = SynthesiseSfx(Runtime.Mixer, recipe);
@@ -47,8 +47,8 @@ protected:
     }
 
     /// Lets time pass, and gives what is heard in it.
-    std::vector<float> Hear(int Milliseconds) {
-        std::vector<float> samples(static_cast<std::size_t>(rate * Milliseconds / 1000));
+    std::vector<float> Hear(int Milliseconds) const {
+        std::vector<float> samples(static_cast<std::size_t>(Rate * Milliseconds / 1000));
         MIX_Generate(Runtime.Mixer, samples.data(), static_cast<int>(samples.size() * sizeof(float)));
         return samples;
     }
@@ -108,7 +108,7 @@ TEST_F(Voices, TwoEqualSoundsOfAFrameTakeTwoVoicesAndSoundTwice) {
     EXPECT_EQ(PlayedBy(1), AudioOf(SfxId::PlayerHit));
     EXPECT_EQ(BusyVoices(), 2);
     const std::vector<float> heard = Hear(20);
-    const std::vector<float> once = SfxSamples(SfxRecipes[6], rate, 1);
+    const std::vector<float> once = SfxSamples(SfxRecipes[6], Rate, 1);
     for (std::size_t i = 0; i < heard.size(); ++i) {
         ASSERT_NEAR(heard[i], 2.0F * once[i], 1e-5F) << i;
     }

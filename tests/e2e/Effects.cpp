@@ -107,7 +107,7 @@ double Milliseconds(const Stretch &Place) {
 testing::AssertionResult HasTone(const Sound &Heard, const Stretch &Place, const Effect &Effect, float Gain) {
     // The part that is neither rising nor falling.
     const Tone tone = LoudestTone(Heard, {Place.Begin + 88, Place.End - 275});
-    const double wanted = static_cast<double>(Effect.Amplitude * Gain);
+    const auto wanted = static_cast<double>(Effect.Amplitude * Gain);
     std::printf("    %-12s at %7.3f s: %6.0f Hz (%d), amplitude %.4f (%.4f), %5.1f ms (%d)\n", Effect.Name,
         Seconds(Place.Begin), tone.Frequency, Effect.Frequency, tone.Amplitude, wanted, Milliseconds(Place),
         Effect.Duration);

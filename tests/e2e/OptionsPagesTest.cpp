@@ -34,12 +34,9 @@ Sight AsksForKey(const std::string &Action) {
 
 Sight All(const std::vector<Sight> &Sights) {
     return [Sights](const Screenshot &Seen) {
-        for (const Sight &sight : Sights) {
-            if (!sight(Seen)) {
-                return false;
-            }
-        }
-        return true;
+        return std::ranges::all_of(Sights, [&Seen](const Sight &Sight) {
+            return Sight(Seen);
+        });
     };
 }
 

@@ -38,7 +38,7 @@ std::size_t RecordedGame::FramesSoFar() const {
     return std::filesystem::file_size(Home.Path() / RecordingName) / BytesPerFrame;
 }
 
-bool RecordedGame::Listen(double Time) {
+bool RecordedGame::Listen(double Time) const {
     const std::size_t end = FramesSoFar() + static_cast<std::size_t>(Time * FrameRate);
     return WaitUntil([&] {
         return FramesSoFar() >= end;

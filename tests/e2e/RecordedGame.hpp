@@ -22,7 +22,7 @@ public:
     // How many frames that is, without reading them.
     std::size_t FramesSoFar() const;
     // Rests until Time seconds more are recorded. False if they are not within the patient deadline.
-    bool Listen(double Time);
+    bool Listen(double Time) const;
     // Taps the key as Tap does, and goes on when the game has sounded, and is quiet since. False if it shows
     // or sounds nothing in time. For a game without music.
     bool TapAndHear(Key Tapped, const Sight &Shows);

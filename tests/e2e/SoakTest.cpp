@@ -117,7 +117,7 @@ private:
         std::this_thread::sleep_for(Held * (static_cast<int>(Keys.size()) + 4));
     }
 
-    void Repeat(std::vector<Key> &Keys, Key Repeated, int Times) {
+    static void Repeat(std::vector<Key> &Keys, Key Repeated, int Times) {
         Keys.insert(Keys.end(), static_cast<std::size_t>(Times), Repeated);
     }
 

@@ -17,7 +17,9 @@ struct LitSquares {
     std::vector<bool> Lit;
 
     bool At(int Column, int Row) const {
-        return Column >= 0 && Column < Columns && Lit[static_cast<std::size_t>(Row * Columns + Column)];
+        return Column >= 0 && Column < Columns &&
+               Lit[static_cast<std::size_t>(Row) * static_cast<std::size_t>(Columns) +
+                   static_cast<std::size_t>(Column)];
     }
 };
 

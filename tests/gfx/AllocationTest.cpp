@@ -53,22 +53,22 @@ void operator delete(void *Memory) noexcept {
 void operator delete[](void *Memory) noexcept {
     std::free(Memory);
 }
-void operator delete(void *Memory, std::size_t) noexcept {
+void operator delete(void *Memory, std::size_t /*Size*/) noexcept {
     std::free(Memory);
 }
-void operator delete[](void *Memory, std::size_t) noexcept {
+void operator delete[](void *Memory, std::size_t /*Size*/) noexcept {
     std::free(Memory);
 }
-void operator delete(void *Memory, std::align_val_t) noexcept {
+void operator delete(void *Memory, std::align_val_t /*Alignment*/) noexcept {
     std::free(Memory);
 }
-void operator delete[](void *Memory, std::align_val_t) noexcept {
+void operator delete[](void *Memory, std::align_val_t /*Alignment*/) noexcept {
     std::free(Memory);
 }
-void operator delete(void *Memory, std::size_t, std::align_val_t) noexcept {
+void operator delete(void *Memory, std::size_t /*Size*/, std::align_val_t /*Alignment*/) noexcept {
     std::free(Memory);
 }
-void operator delete[](void *Memory, std::size_t, std::align_val_t) noexcept {
+void operator delete[](void *Memory, std::size_t /*Size*/, std::align_val_t /*Alignment*/) noexcept {
     std::free(Memory);
 }
 

@@ -3,6 +3,8 @@
 #include "gfx/SpriteId.hpp"
 #include "tests/gfx/ScreenTest.hpp"
 
+#include <array>
+#include <cmath>
 #include <string>
 
 namespace {
@@ -53,7 +55,7 @@ void ExpectHelp(ExpectedScreen &Expected, const Told &Told) {
     constexpr std::array stepsFromCenter{-1.5, -0.5, 0.5, 1.5};
     for (std::size_t i = 0; i < sprites.size(); ++i) {
         const double x = center + stepsFromCenter[i] * Told.Step;
-        Expected.Sprite(sprites[i], static_cast<int>(x + 0.5), 258, 24);
+        Expected.Sprite(sprites[i], static_cast<int>(std::floor(x + 0.5)), 258, 24);
     }
     for (std::size_t i = 0; i < sprites.size(); ++i) {
         Expected.Centered(Told.Names[i], center + stepsFromCenter[i] * Told.Step, 280, 2, NameColor);

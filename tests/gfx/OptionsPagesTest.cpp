@@ -29,7 +29,7 @@ constexpr std::array PauseMenuCases{
 
 struct Told {
     int Width = ScreenWidth;
-    double Left = ScreenWidth / 2 - 84; // the widest row has 8 letters of 21
+    double Left = ScreenWidth / 2.0 - 84; // the widest row has 8 letters of 21
     int SelectedRow = 0;
     std::u32string_view Hint = MainMenuHint;
     std::u32string_view DeviceLine{};
@@ -40,8 +40,8 @@ struct Told {
 
 void ExpectHeadings(
     ExpectedScreen &Expected, int Width, std::u32string_view Title, std::u32string_view Section) {
-    Expected.Centered(Title, Width / 2, 42, 6, TitleColor);
-    Expected.Centered(Section, Width / 2, 100, 4, SectionColor);
+    Expected.Centered(Title, Width / 2.0, 42, 6, TitleColor);
+    Expected.Centered(Section, Width / 2.0, 100, 4, SectionColor);
 }
 
 void ExpectMainPage(ExpectedScreen &Expected, const Told &Told) {
@@ -54,8 +54,8 @@ void ExpectMainPage(ExpectedScreen &Expected, const Told &Told) {
         }
         Expected.Text(Told.Rows[i], Told.Left, rowTops[i], 3, isSelected ? Selected : Other);
     }
-    Expected.Centered(Told.Hint, Told.Width / 2, 430, 2, HintColor);
-    Expected.Centered(Told.DeviceLine, Told.Width / 2, 458, 2, HintColor);
+    Expected.Centered(Told.Hint, Told.Width / 2.0, 430, 2, HintColor);
+    Expected.Centered(Told.DeviceLine, Told.Width / 2.0, 458, 2, HintColor);
 }
 
 } // namespace

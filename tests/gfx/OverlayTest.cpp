@@ -144,9 +144,9 @@ TEST_F(Overlay, BlastLetsTheWorldShowThrough) {
     Clear(0xFF000000);
     DrawGameplayOverlays(Renderer(), State);
     const std::uint32_t shown = Shown().At(640, 400); // 130 of 255 parts
-    EXPECT_NEAR(static_cast<int>(shown & 0xFFU), 0xFF * 130 / 255, 2);
-    EXPECT_NEAR(static_cast<int>(shown >> 8U & 0xFFU), 0xF5 * 130 / 255, 2);
-    EXPECT_NEAR(static_cast<int>(shown >> 16U & 0xFFU), 0x78 * 130 / 255, 2);
+    EXPECT_NEAR(static_cast<int>(shown & 0xFFU), 0xFF * 130 / 255.0, 2);
+    EXPECT_NEAR(static_cast<int>(shown >> 8U & 0xFFU), 0xF5 * 130 / 255.0, 2);
+    EXPECT_NEAR(static_cast<int>(shown >> 16U & 0xFFU), 0x78 * 130 / 255.0, 2);
 }
 
 TEST_F(Overlay, BlastLiesOverTheBanner) {

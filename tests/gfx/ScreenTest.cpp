@@ -23,9 +23,11 @@ void ExpectedScreen::Text(
         const ExpectedGlyph *const glyph = FindExpectedGlyph(letter);
         EXPECT_TRUE(glyph != nullptr || letter == U' ') << "no picture of a letter";
         for (std::size_t square = 0; glyph != nullptr && square < 56; ++square) {
-            if (glyph->Rows[square / 7][square % 7] == '#') {
-                const double x = left + static_cast<double>(square % 7) * Scale;
-                const double y = Y + static_cast<double>(square / 7) * Scale;
+            const std::size_t row = square / 7;
+            const std::size_t column = square % 7;
+            if (glyph->Rows[row][column] == '#') {
+                const double x = left + static_cast<double>(column) * Scale;
+                const double y = Y + static_cast<double>(row) * Scale;
                 Pixels.Fill(Physical(x), Physical(y), Scale * Zoom, Scale * Zoom, PackedColor);
             }
         }

@@ -100,9 +100,9 @@ TEST_F(TextDraw, BlendsEachSquareOnceByTheAlphaOfTheColor) {
     EXPECT_TRUE(expected.IsShownBy(Shown()));
     // The top left square of the H: 100 parts of the colour and 155 of the ground.
     const std::uint32_t shown = Shown().At(13, 20);
-    EXPECT_NEAR(static_cast<int>(shown & 0xFFU), (0xC8 * 100 + 0xFF * 155) / 255, 2);
-    EXPECT_NEAR(static_cast<int>(shown >> 8U & 0xFFU), 0x3C * 100 / 255, 2);
-    EXPECT_NEAR(static_cast<int>(shown >> 16U & 0xFFU), (0x14 * 100 + 0xFF * 155) / 255, 2);
+    EXPECT_NEAR(static_cast<int>(shown & 0xFFU), (0xC8 * 100 + 0xFF * 155) / 255.0, 2);
+    EXPECT_NEAR(static_cast<int>(shown >> 8U & 0xFFU), 0x3C * 100 / 255.0, 2);
+    EXPECT_NEAR(static_cast<int>(shown >> 16U & 0xFFU), (0x14 * 100 + 0xFF * 155) / 255.0, 2);
 }
 
 TEST_F(TextDraw, InATransparentColorShowsNothing) {

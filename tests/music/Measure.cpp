@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr double secondsForLoudness = 26.0;
-constexpr std::size_t framesBehindTheSeam = 4096; ///< far more than the meter's filter is long
+constexpr double SecondsForLoudness = 26.0;
+constexpr std::size_t FramesBehindTheSeam = 4096; ///< far more than the meter's filter is long
 
 struct MeterEnd {
     void operator()(ebur128_state *Meter) const {
@@ -31,7 +31,7 @@ double ChannelPower(const Piece &Piece, std::size_t Channel, std::size_t First, 
     const auto channels = static_cast<std::size_t>(Piece.Channels);
     double sum = 0.0;
     for (std::size_t frame = First; frame < Last; ++frame) {
-        const double sample = static_cast<double>(Piece.Samples[frame * channels + Channel]);
+        const auto sample = static_cast<double>(Piece.Samples[frame * channels + Channel]);
         sum += sample * sample;
     }
     return sum / static_cast<double>(Last - First);
@@ -52,7 +52,7 @@ double Step(const Piece &Piece, std::size_t From, std::size_t To) {
 double Loudness(const Piece &Piece) {
     const Meter meter = NewMeter(Piece, EBUR128_MODE_I);
     const double length = static_cast<double>(FrameCount(Piece)) / Piece.Rate;
-    const int passes = std::max(2, static_cast<int>(std::ceil(secondsForLoudness / length)));
+    const int passes = std::max(2, static_cast<int>(std::ceil(SecondsForLoudness / length)));
     for (int pass = 0; pass < passes; ++pass) {
         ebur128_add_frames_float(meter.get(), Piece.Samples.data(), FrameCount(Piece));
     }
@@ -64,7 +64,7 @@ double Loudness(const Piece &Piece) {
 double TruePeak(const Piece &Piece) {
     const Meter meter = NewMeter(Piece, EBUR128_MODE_TRUE_PEAK);
     ebur128_add_frames_float(meter.get(), Piece.Samples.data(), FrameCount(Piece));
-    const auto again = std::min(FrameCount(Piece), framesBehindTheSeam);
+    const auto again = std::min(FrameCount(Piece), FramesBehindTheSeam);
     ebur128_add_frames_float(meter.get(), Piece.Samples.data(), again);
     double peak = 0.0;
     for (unsigned channel = 0; channel < static_cast<unsigned>(Piece.Channels); ++channel) {

@@ -20,11 +20,11 @@ namespace {
 namespace fs = std::filesystem;
 using Pieces = std::map<std::string, Piece>;
 
-constexpr int rate = 44100;
-constexpr std::size_t unit = 286650;            // frames: 6.5 seconds
-constexpr std::size_t stage = 4 * unit;         // a stage lasts 26 seconds
-constexpr std::size_t beforeFirstBeat = 1102;   // frames: 25 ms
-constexpr std::uintmax_t largestFile = 1000000; // bytes
+constexpr int Rate = 44100;
+constexpr std::size_t Unit = 286650;            // frames: 6.5 seconds
+constexpr std::size_t Stage = 4 * Unit;         // a stage lasts 26 seconds
+constexpr std::size_t BeforeFirstBeat = 1102;   // frames: 25 ms
+constexpr std::uintmax_t LargestFile = 1000000; // bytes
 
 fs::path MusicFolder() {
     return fs::path(SOURCE_TREE) / "Music";
@@ -77,7 +77,7 @@ void Show(const std::string &Name, const std::string &What, double Figure, const
 
 /// Half a second of a tone of 441 Hz on both channels, cut off after the given number of frames.
 Piece Tone(std::size_t Frames, float Amplitude) {
-    Piece piece{rate, 2, {}};
+    Piece piece{Rate, 2, {}};
     for (std::size_t frame = 0; frame < Frames; ++frame) {
         const float phase = static_cast<float>(frame % 100) / 100.0F * 2.0F * std::numbers::pi_v<float>;
         piece.Samples.insert(piece.Samples.end(), 2, Amplitude * std::sin(phase));
@@ -109,29 +109,29 @@ TEST(MusicFiles, NoFileIsLargerThanAMegabyte) {
     for (const auto &[name, piece] : Shipped()) {
         const std::uintmax_t size = fs::file_size(MusicFolder() / (name + ".ogg"));
         Show(name, "size", static_cast<double>(size) / 1000.0, "kB");
-        EXPECT_LE(size, largestFile) << name;
+        EXPECT_LE(size, LargestFile) << name;
     }
 }
 
 TEST(Music, IsInStereoAtTheMixersRate) {
     for (const auto &[name, piece] : Shipped()) {
-        EXPECT_EQ(piece.Rate, rate) << name;
+        EXPECT_EQ(piece.Rate, Rate) << name;
         EXPECT_EQ(piece.Channels, 2) << name;
     }
 }
 
 TEST(Music, LengthsAreWholeUnitsThatDivideAStage) {
     for (const auto &[name, piece] : Shipped()) {
-        Show(name, "length", static_cast<double>(FrameCount(piece)) / rate, "s");
+        Show(name, "length", static_cast<double>(FrameCount(piece)) / Rate, "s");
         ASSERT_GT(FrameCount(piece), 0U) << name;
-        EXPECT_EQ(FrameCount(piece) % unit, 0U) << name;
-        EXPECT_EQ(stage % FrameCount(piece), 0U) << name;
+        EXPECT_EQ(FrameCount(piece) % Unit, 0U) << name;
+        EXPECT_EQ(Stage % FrameCount(piece), 0U) << name;
     }
 }
 
 TEST(Music, PowerUpsHaveLoopsOfOneUnit) {
-    EXPECT_EQ(FrameCount(Shipped().at("Invincibility")), unit);
-    EXPECT_EQ(FrameCount(Shipped().at("DualWeapon")), unit);
+    EXPECT_EQ(FrameCount(Shipped().at("Invincibility")), Unit);
+    EXPECT_EQ(FrameCount(Shipped().at("DualWeapon")), Unit);
 }
 
 TEST(Music, BothHalvesOfATuneAreOfOneLength) {
@@ -149,7 +149,7 @@ TEST(Music, TheSeamIsNoLargerAStepThanThePieceTakesAllTheTime) {
 
 TEST(Music, IsQuietWhereAnotherPieceMayTakeOver) {
     for (const auto &[name, piece] : Shipped()) {
-        const double quieter = Level(piece, 0, beforeFirstBeat) - Level(piece, 0, FrameCount(piece));
+        const double quieter = Level(piece, 0, BeforeFirstBeat) - Level(piece, 0, FrameCount(piece));
         Show(name, "level of the first 25 ms", quieter, "dB");
         EXPECT_LE(quieter, -15.0) << name;
     }
@@ -185,9 +185,9 @@ TEST(Music, StandsInTheMiddle) {
 }
 
 TEST(MusicMeasures, AToneIsMeasuredAsItIs) {
-    const Piece tone = Tone(rate, 0.5F);
+    const Piece tone = Tone(Rate, 0.5F);
     EXPECT_NEAR(TruePeak(tone), -6.02, 0.1);
-    EXPECT_NEAR(Level(tone, 0, rate), -9.03, 0.01);
+    EXPECT_NEAR(Level(tone, 0, Rate), -9.03, 0.01);
     EXPECT_NEAR(
         Loudness(tone), -6.7, 0.3); // both channels at -9.03 dB, less what the weighting takes below 1 kHz
     EXPECT_NEAR(Balance(tone), 0.0, 0.001);
@@ -195,6 +195,6 @@ TEST(MusicMeasures, AToneIsMeasuredAsItIs) {
 }
 
 TEST(MusicMeasures, ALoopThatIsCutInTheWrongPlaceIsSeen) {
-    EXPECT_LE(SeamStep(Tone(rate, 0.5F)), UsualStep(Tone(rate, 0.5F), 1.0) * 1.001);
-    EXPECT_GT(SeamStep(Tone(rate - 25, 0.5F)), UsualStep(Tone(rate - 25, 0.5F), 1.0) * 10.0);
+    EXPECT_LE(SeamStep(Tone(Rate, 0.5F)), UsualStep(Tone(Rate, 0.5F), 1.0) * 1.001);
+    EXPECT_GT(SeamStep(Tone(Rate - 25, 0.5F)), UsualStep(Tone(Rate - 25, 0.5F), 1.0) * 10.0);
 }

@@ -46,7 +46,7 @@ TEST(EscapeIniText, WritesOtherControlCharactersAsFourHexDigits) {
         if (control >= 0x08 && control <= 0x0D) {
             continue;
         }
-        const auto code = static_cast<std::size_t>(control);
+        const auto code = static_cast<unsigned char>(control);
         const std::string expected = std::string("\\x00") + digits[code / 16] + digits[code % 16];
         EXPECT_EQ(EscapeIniText(std::string(1, control)), expected);
     }

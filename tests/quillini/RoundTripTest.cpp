@@ -42,7 +42,7 @@ TEST(RoundTrip, KeepsADocumentInEveryEncoding) {
         EXPECT_EQ(Reread(document, false, encoding), document) << static_cast<int>(encoding);
         EXPECT_EQ(Shown(Reread(document, true, encoding)),
             (ShownLines{"[QI_Global]",
-                "# QI_C_1=gr\xC3\xBC\xC3\x9F"
+                "# QI_C_1=gr\xC3\xBC\xC3\x9F" // NOLINT(bugprone-suspicious-missing-comma): or 9F would go on
                 "e \xF0\x9F\x98\x80",
                 "g=1", "- QI_EL_1", "[S\xC3\xA4] ;about \xC3\xA4",
                 "k\xC3\xB6=\"a \"b\" 'c' \\ [d] ; # = : \xE2\x82\xAC \xF0\x9F\x98\x80\" ;about \xC3\xB6",

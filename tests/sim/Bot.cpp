@@ -58,12 +58,9 @@ std::int32_t SafestWay(const GameState &State) {
 }
 
 bool HasTarget(const GameState &State) {
-    for (const Enemy &enemy : State.Enemies) {
-        if (enemy.Y < State.Player.Y && std::abs(enemy.X - State.Player.X) < 20.0F) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(State.Enemies, [&State](const Enemy &Enemy) {
+        return Enemy.Y < State.Player.Y && std::abs(Enemy.X - State.Player.X) < 20.0F;
+    });
 }
 
 } // namespace

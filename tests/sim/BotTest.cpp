@@ -123,7 +123,7 @@ std::string BrokenList(const GameState &State) {
 /// The first broken promise of the record by name; empty if it is whole.
 std::string BrokenField(const GameState &State) {
     for (const auto broken : {BrokenFieldOfRun, BrokenFieldOfPlayer, BrokenList}) {
-        const std::string field = broken(State);
+        std::string field = broken(State);
         if (!field.empty()) {
             return field;
         }

@@ -138,7 +138,7 @@ TEST(EnemyDecisions, FollowTheirChancesSeedForSeed) {
         Draws draws(seed);
         const float r = draws.Unit();
         const std::int32_t step = r < 0.62F ? 1 : r < 0.87F ? (draws.Index(2) == 1 ? 1 : -1) : 0;
-        ++seen[static_cast<std::size_t>(step + 1)];
+        ++seen[step < 0 ? 0 : step == 0 ? 1 : 2];
         ASSERT_EQ(LaneAfterDecision(seed, 4, 8), 4 + step) << "seed " << seed << ", r " << r;
     }
     for (const int count : seen) {

@@ -8,8 +8,9 @@
 #include <sys/mount.h>
 
 #include <string>
+#include <utility>
 
-SmallDisk::SmallDisk(const std::filesystem::path &Folder, int Kilobytes) : Place(Folder) {
+SmallDisk::SmallDisk(std::filesystem::path Folder, int Kilobytes) : Place(std::move(Folder)) {
     const std::string options = "mode=0700,size=" + std::to_string(Kilobytes) + "k";
     IsThere = unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
               mount("none", Place.c_str(), "tmpfs", 0, options.c_str()) == 0;

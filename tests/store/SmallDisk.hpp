@@ -6,7 +6,7 @@
 /// Only a privileged user can have one.
 class SmallDisk {
 public:
-    SmallDisk(const std::filesystem::path &Folder, int Kilobytes);
+    SmallDisk(std::filesystem::path Folder, int Kilobytes);
     ~SmallDisk();
     SmallDisk(const SmallDisk &) = delete;
     SmallDisk &operator=(const SmallDisk &) = delete;

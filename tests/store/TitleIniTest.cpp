@@ -32,7 +32,7 @@ protected:
             return Folder ? Folder->c_str() : nullptr;
         };
     }
-    void Ship(const std::filesystem::path &Where, std::string_view Text) const {
+    static void Ship(const std::filesystem::path &Where, std::string_view Text) {
         WriteBytes(Where / Path, Text);
     }
     bool Read(const std::string &File = Path) {

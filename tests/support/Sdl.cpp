@@ -25,6 +25,6 @@ LogCatcher::~LogCatcher() {
     SDL_SetLogOutputFunction(OldFunction, OldUserdata);
 }
 
-void LogCatcher::Catch(void *Self, int, SDL_LogPriority, const char *Message) {
+void LogCatcher::Catch(void *Self, int /*Category*/, SDL_LogPriority /*Priority*/, const char *Message) {
     static_cast<LogCatcher *>(Self)->Lines.emplace_back(Message);
 }

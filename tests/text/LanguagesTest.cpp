@@ -68,7 +68,7 @@ protected:
         EXPECT_EQ(Localization.CurrentLanguage, Code);
     }
 
-    void ExpectCodes(const std::string &Default, const std::string &Fallback) const {
+    static void ExpectCodes(const std::string &Default, const std::string &Fallback) {
         EXPECT_EQ(Localization.DefaultLanguage, Default);
         EXPECT_EQ(Localization.FallbackLanguage, Fallback);
     }
@@ -485,7 +485,7 @@ TEST_F(LanguagesTest, LoadLanguageFileLeavesTheTextsWhereItCannotRead) {
 TEST_F(LanguagesTest, FindLanguageKnowsExactCodesOnly) {
     Localization.Languages = {{"en", "English", "a.ini"}, {"de", "Deutsch", "b.ini"},
         {"de", "Zweites", "c.ini"}, {"", "Nameless", "d.ini"}};
-    EXPECT_EQ(FindLanguage("en"), &Localization.Languages[0]);
+    EXPECT_EQ(FindLanguage("en"), Localization.Languages.data());
     EXPECT_EQ(FindLanguage("de"), &Localization.Languages[1]); // from the front
     for (const char *code : {"", "DE", " de", "d", "deu", "fi"}) {
         EXPECT_EQ(FindLanguage(code), nullptr) << code;

@@ -56,7 +56,9 @@ Result PassOn(
         A, B, C, D, E)
 
 /// A field of a watch for a function, of the function's own signature.
+// NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define NOTED_FIELD(Count, Function, Field) WatchedCall<decltype(::Function)> Field{#Function};
+// NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define STEERED_FIELD(Count, Function, Field) SteeredCall<decltype(::Function)> Field;
 
 // NOLINTEND(bugprone-macro-parentheses)
