@@ -118,6 +118,10 @@ constexpr std::array Stops{
 
 constexpr std::chrono::milliseconds TapTime{60};
 
+// How long a stop may take to show what is expected: some of it, such as the credits, takes its time on a
+// busy machine.
+constexpr std::chrono::minutes StopDeadline{3};
+
 void MoveKeys(XClient &Person, const Stop &Here, void (XClient::*Move)(Key)) {
     for (const Key key : Here.Keys) {
         if (key != Nothing) {
@@ -137,10 +141,10 @@ void TapKeys(XClient &Person, const Stop &Here) {
 std::optional<Screenshot> PressKeys(GameSession &Session, const Stop &Here) {
     if (Here.Pressed == Manner::Tap) {
         TapKeys(Session.Person(), Here);
-        return Session.WaitForPicture(Here.Shows);
+        return Session.WaitForPicture(Here.Shows, StopDeadline);
     }
     MoveKeys(Session.Person(), Here, &XClient::PressKey);
-    std::optional<Screenshot> seen = Session.WaitForPicture(Here.Shows);
+    std::optional<Screenshot> seen = Session.WaitForPicture(Here.Shows, StopDeadline);
     MoveKeys(Session.Person(), Here, &XClient::ReleaseKey);
     return seen;
 }
