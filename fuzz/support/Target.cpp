@@ -52,7 +52,8 @@ bool IsControl(char Character) {
 } // namespace
 
 // The fuzzer counts all memory of the process, and what the sanitizer keeps of freed memory would be most of
-// it.
+// it. The sanitizer dictates the name.
+// NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming)
 extern "C" const char *__asan_default_options() {
     return "quarantine_size_mb=16:allocator_may_return_null=0:detect_stack_use_after_return=1";
 }

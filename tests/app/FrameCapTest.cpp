@@ -1,5 +1,7 @@
 #include "tests/app/ProgramTest.hpp"
 
+#include <vector>
+
 namespace {
 
 class FrameCap : public RunningTest {
@@ -23,35 +25,44 @@ TEST_F(FrameCap, HoldsAFrameForEightMilliseconds) {
     EXPECT_GE(passed, frames * SDL_MS_TO_NS(7));
 }
 
-TEST_F(FrameCap, SleepsOneToEightMillisecondsWheneverItSleeps) {
-    Watch.Forget();
-    for (int i = 0; i < 30; ++i) {
-        State.OptionsDirty = true; // a write that takes longer and longer
-        Written.OnOptionsWrite = [i] {
-            SDL_DelayPrecise(SDL_MS_TO_NS(1) * static_cast<Uint64>(i) / 3);
+/// With a clock that only sleeping and writing move, so that the pace of the machine decides nothing.
+class FrameCapByTheClock : public FrameCap {
+protected:
+    FrameCapByTheClock() {
+        Watch.GetTicks.Answer = [this] {
+            return Now;
+        };
+        Watch.Delay.Answer = [this](Uint32 Milliseconds) {
+            Now += Milliseconds;
+            Slept.push_back(Milliseconds);
+        };
+    }
+
+    /// A frame whose write of the options takes that long.
+    void RunFrameThatWrites(Uint64 Milliseconds) {
+        State.OptionsDirty = true;
+        Written.OnOptionsWrite = [this, Milliseconds] {
+            Now += Milliseconds;
         };
         RunFrame(Program);
     }
-    EXPECT_GT(Watch.Delay.Count(), 0);
-    for (const auto &[milliseconds] : Watch.Delay.Calls) {
-        EXPECT_GE(milliseconds, 1U);
-        EXPECT_LE(milliseconds, 8U);
+
+    Uint64 Now = 1000;
+    std::vector<Uint32> Slept;
+};
+
+TEST_F(FrameCapByTheClock, SleepsOneToEightMillisecondsWheneverItSleeps) {
+    for (const Uint64 milliseconds : {0U, 1U, 3U, 4U, 7U, 8U, 9U, 20U}) {
+        RunFrameThatWrites(milliseconds);
     }
+    EXPECT_EQ(Slept, (std::vector<Uint32>{8, 7, 5, 4, 1}));
 }
 
-TEST_F(FrameCap, CountsFromTheTopOfTheFrame) {
-    Written.OnOptionsWrite = [] {
-        SDL_DelayPrecise(SDL_MS_TO_NS(4));
-    };
-    Watch.Forget();
+TEST_F(FrameCapByTheClock, CountsFromTheTopOfTheFrame) {
     for (int i = 0; i < 20; ++i) {
-        State.OptionsDirty = true;
-        RunFrame(Program);
+        RunFrameThatWrites(4);
     }
-    EXPECT_GT(Watch.Delay.Count(), 0);
-    for (const auto &[milliseconds] : Watch.Delay.Calls) {
-        EXPECT_LE(milliseconds, 4U); // the time of the write is part of the eight milliseconds
-    }
+    EXPECT_EQ(Slept, std::vector<Uint32>(20, 4)); // the time of the write is part of the eight milliseconds
 }
 
 TEST_F(FrameCap, DoesNotSleepAfterALongFrame) {

@@ -304,11 +304,16 @@ TEST_F(OptionsWalk, ApplyMarksTheOptionsExactlyIfSomethingDiffers) {
         GameState edited = EditedOf(State);
         const bool differs = !(edited == before);
         ASSERT_EQ(IsDirty(), differs) << walk << " page " << page;
+        const std::int32_t widthBefore = LogicalWidth;
         Watch.Forget();
         PressOn(DefaultsRowOf(page) + 1);
         ASSERT_EQ(State.OptionsDirty, differs) << walk << " page " << page;
         edited.OptionsDirty = differs;
-        edited.ResetFrameClock = differs && page == OptionsPageGraphics;
+        if (differs && page == OptionsPageGraphics) {
+            edited.ResetFrameClock = true;
+            edited.VSyncActive = edited.VSync;
+            edited.Player.X += static_cast<float>(LogicalWidth - widthBefore) / 2.0F; // stays in its lane
+        }
         ASSERT_TRUE(SameState(AppliedOf(State), edited)) << walk << " page " << page;
         ASSERT_EQ(WindowCalls() > 0, differs && page == OptionsPageGraphics) << walk;
         ASSERT_FALSE(IsDirty()) << walk << " page " << page;

@@ -2,6 +2,7 @@
 
 ScriptedMusic::ScriptedMusic() {
     EXPECT_TRUE(SDL_Init(0)) << SDL_GetError();
+    Watch.Forget(); // that one
     ScriptTrack();
     ScriptAudio();
     Watch.GetTicks.Answer = [this] {

@@ -48,7 +48,7 @@ bool WritesLines(OpenedGame &Game, const std::string &Line, int Count, milliseco
 // Whether the game writes such a line again and again, with that time or more between each two.
 testing::AssertionResult Repeats(OpenedGame &Game, const std::string &Line, milliseconds Pause) {
     const steady_clock::time_point start = steady_clock::now();
-    if (!WritesLines(Game, Line, 4, PatientDeadline)) {
+    if (!WritesLines(Game, Line, 4, 2 * PatientDeadline)) {
         return testing::AssertionFailure() << "it has stopped trying";
     }
     const auto passed = std::chrono::duration_cast<milliseconds>(steady_clock::now() - start);

@@ -64,17 +64,6 @@ std::optional<Screenshot> OpenedGame::Tap(Key Tapped, const Sight &Shows) {
     return Session.Tap(Tapped, Shows);
 }
 
-std::optional<Screenshot> OpenedGame::TapUntil(Key Tapped, const Sight &Shows) {
-    constexpr std::chrono::milliseconds held{60};
-    constexpr std::chrono::milliseconds patience{3000};
-    std::optional<Screenshot> seen;
-    for (int attempt = 0; attempt < 10 && !seen; ++attempt) {
-        Person().TapKey(Tapped, held);
-        seen = WaitForPicture(Shows, patience);
-    }
-    return seen;
-}
-
 // All of it waits in the stopped game's connection and is read at once when the game goes on.
 void OpenedGame::TapInOneFrame(const std::vector<Key> &Tapped) {
     constexpr std::chrono::milliseconds held{1};

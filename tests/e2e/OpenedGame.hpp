@@ -32,9 +32,6 @@ public:
     std::optional<Screenshot> WaitForPicture(const Sight &Shows,
         std::chrono::milliseconds Deadline = PatientDeadline, std::chrono::milliseconds Rest = ShortRest);
     std::optional<Screenshot> Tap(Key Tapped, const Sight &Shows);
-    // Taps briefly, and again where a frame of a slow machine was too long to see it. For keys that act anew
-    // while they are held.
-    std::optional<Screenshot> TapUntil(Key Tapped, const Sight &Shows);
     // Taps the keys so fast that one frame of the game takes them all.
     void TapInOneFrame(const std::vector<Key> &Tapped);
 

@@ -21,7 +21,7 @@ std::optional<Screenshot> PauseARunUnderWay(PlayedGame &Game) {
     Game.Person().PressKey(Key::Right);
     const bool moved = Game.WaitForPicture(CarInLane(8)).has_value();
     Game.Person().ReleaseKey(Key::Right);
-    const bool thrown = Game.TapUntil(Key::X,
+    const bool thrown = Game.Tap(Key::X,
                                 [](const Screenshot &Seen) {
                                     return BombsShown(Seen) == 2;
                                 })
@@ -96,7 +96,7 @@ TEST(Pause, MainMenuOffersToContinueTheRunWhereItStood) {
 
 TEST(Pause, NewGameBeginsAnewThoughThereIsARun) {
     PlayedGame game;
-    ASSERT_TRUE(game.TapUntil(Key::X, [](const Screenshot &Seen) {
+    ASSERT_TRUE(game.Tap(Key::X, [](const Screenshot &Seen) {
         return BombsShown(Seen) == 2;
     }));
     ASSERT_TRUE(game.Tap(Key::Escape, PauseMenu(Resume)));

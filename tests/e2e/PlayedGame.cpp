@@ -28,12 +28,20 @@ bool PlayedGame::StartRun() {
 }
 
 void PlayedGame::SteerTowards(const Screenshot &Seen, std::optional<int> Lane) {
-    // Less than the 90 milliseconds after which a held key moves the car again.
-    constexpr std::chrono::milliseconds held{50};
+    // For a car that is lost before it has moved.
+    constexpr std::chrono::seconds patience{2};
     const std::optional<int> car = FindCarLane(Seen);
-    if (Lane && car && Lane != car) {
-        Person().TapKey(*Lane < *car ? Key::Left : Key::Right, held);
+    if (!Lane || !car || Lane == car) {
+        return;
     }
+    const Key key = *Lane < *car ? Key::Left : Key::Right;
+    Person().PressKey(key);
+    WaitForPicture(
+        [car](const Screenshot &Now) {
+            return FindCarLane(Now) != car;
+        },
+        patience);
+    Person().ReleaseKey(key);
 }
 
 bool PlayedGame::RamUntil(const Sight &Shows) {

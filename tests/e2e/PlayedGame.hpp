@@ -16,7 +16,7 @@ public:
     // lane.
     bool StartRun();
 
-    // Brings the car one lane nearer to that one; nothing happens if it is there or cannot be seen.
+    // Brings the car a lane nearer to that one; nothing happens if it is there or cannot be seen.
     void SteerTowards(const Screenshot &Seen, std::optional<int> Lane);
 
     // Drives into one enemy car after the other until a picture satisfies Shows. False if none did in six

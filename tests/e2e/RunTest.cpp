@@ -4,6 +4,13 @@
 
 // A run as a person plays it, and what the HUD tells of it.
 
+namespace {
+
+// For what takes a while, and much longer on a slow machine.
+constexpr std::chrono::minutes Patience{4};
+
+} // namespace
+
 TEST(Run, TheHudStartsFull) {
     PlayedGame game;
     const Screenshot seen = game.Person().Look();
@@ -18,18 +25,22 @@ TEST(Run, FiringEmptiesTheAmmoBarAndARestRefillsIt) {
     PlayedGame game;
     game.Person().PressKey(Key::LeftControl);
     // 33 salvos at most; a frame a salvo or more, so the bar goes down by 3.3 at a time.
-    EXPECT_TRUE(game.WaitForPicture([](const Screenshot &Seen) {
-        return AmmoShown(Seen) <= 4;
-    }));
+    EXPECT_TRUE(game.WaitForPicture(
+        [](const Screenshot &Seen) {
+            return AmmoShown(Seen) <= 4;
+        },
+        Patience));
     game.Person().ReleaseKey(Key::LeftControl);
-    EXPECT_TRUE(game.WaitForPicture([](const Screenshot &Seen) {
-        return AmmoShown(Seen) >= 60;
-    }));
+    EXPECT_TRUE(game.WaitForPicture(
+        [](const Screenshot &Seen) {
+            return AmmoShown(Seen) >= 60;
+        },
+        Patience));
 }
 
 TEST(Run, ABombGoesFromThePanel) {
     PlayedGame game;
-    EXPECT_TRUE(game.TapUntil(Key::X, [](const Screenshot &Seen) {
+    EXPECT_TRUE(game.Tap(Key::X, [](const Screenshot &Seen) {
         return BombsShown(Seen) == 2;
     }));
     EXPECT_TRUE(game.WaitForPicture([](const Screenshot &Seen) {
@@ -41,14 +52,13 @@ TEST(Run, ABombGoesFromThePanel) {
 // A car that stands still and shoots for a while scores; one that then drives into the traffic loses its
 // three lives in about half a minute of play.
 TEST(Run, PlayedToItsDeathTheHudTellsAllOfIt) {
-    constexpr std::chrono::minutes patience{4};
     PlayedGame game;
     game.Person().PressKey(Key::LeftControl);
     EXPECT_TRUE(game.WaitForPicture(
         [](const Screenshot &Seen) {
             return !ScoreIsZero(Seen) && ScoreEqualsHighScore(Seen);
         },
-        patience));
+        Patience));
     game.Person().ReleaseKey(Key::LeftControl);
     EXPECT_TRUE(game.RamUntil([](const Screenshot &Seen) {
         return HealthShown(Seen) < 110;

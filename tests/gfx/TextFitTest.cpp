@@ -19,6 +19,7 @@
 #include <algorithm>
 #include <functional>
 #include <ostream>
+#include <span>
 
 // The words of every language that ships with the game have their place on every screen.
 
@@ -67,13 +68,14 @@ void ExpectInside(const DrawnFrame &Frame, const SDL_FRect &Area) {
 /// No letter comes closer to another than the letters of a word do.
 void ExpectApart(const DrawnFrame &Frame) {
     std::size_t told = 0;
-    const std::vector<DrawnLetter> &letters = Frame.Letters;
-    for (std::size_t i = 0; i < letters.size(); ++i) {
-        for (std::size_t k = i + 1; k < letters.size(); ++k) {
-            const float square = std::max(letters[i].Square, letters[k].Square);
-            if (AreClose(letters[i].Ink, letters[k].Ink, square) && told++ < ToldFailures) {
-                ADD_FAILURE() << ::testing::PrintToString(letters[i]) << " runs into "
-                              << ::testing::PrintToString(letters[k]);
+    std::span<const DrawnLetter> others = Frame.Letters;
+    for (const DrawnLetter &letter : Frame.Letters) {
+        others = others.subspan(1); // those behind it
+        for (const DrawnLetter &other : others) {
+            const float square = std::max(letter.Square, other.Square);
+            if (AreClose(letter.Ink, other.Ink, square) && told++ < ToldFailures) {
+                ADD_FAILURE() << ::testing::PrintToString(letter) << " runs into "
+                              << ::testing::PrintToString(other);
             }
         }
     }

@@ -119,7 +119,7 @@ double InRange(const SaveRow &Row, double Value) {
 }
 
 TEST_F(SaveKeysTest, BeyondAllFloatsBecomeTheLargestAndAreBroughtIntoTheirRange) {
-    constexpr double largest = std::numeric_limits<float>::max();
+    constexpr auto largest = static_cast<double>(std::numeric_limits<float>::max());
     for (const double number : {1e39, -1e39, 1e300, Anything, -Anything}) {
         ForEveryKey(
             [number](const Entries &Sample, const SaveRow &Row) {
@@ -180,7 +180,7 @@ TEST_F(SaveKeysTest, TakeWholeNumbersOfAnyKind) {
                 return With(
                     Sample, Row.Key, make(Row.Kind == SaveKind::Long ? 77.0 : std::round(Row.Sample)));
             },
-            [make](const SaveRow &Row) {
+            [](const SaveRow &Row) {
                 if (Row.Kind == SaveKind::Long) {
                     return 77.0;
                 }

@@ -1,8 +1,6 @@
 #include "tests/store/SaveSpots.hpp"
 
-#include <algorithm>
-#include <iterator>
-#include <ranges>
+#include <cstddef>
 
 std::vector<StreamEntry> SampleEntries(const SaveSpot &Spot) {
     return Spot.List != nullptr ? SampleEntries(*Spot.List) : SampleEntries(Spot.Rows);
@@ -15,8 +13,9 @@ std::vector<StreamEntry> RunWith(const SaveSpot &Spot, const std::vector<StreamE
     if (Spot.Rows.data() == PlayerRows.data()) {
         return With(SampleRun(), Spot.Name, ObjectBytes(Entries));
     }
-    std::vector<StreamEntry> run = Entries;
-    std::ranges::copy(SampleRun() | std::views::drop(RunRows.size()), std::back_inserter(run));
+    std::vector<StreamEntry> run = SampleRun();
+    run.erase(run.begin(), run.begin() + static_cast<std::ptrdiff_t>(RunRows.size()));
+    run.insert(run.begin(), Entries.begin(), Entries.end());
     return run;
 }
 
