@@ -3,6 +3,7 @@
 #include "tests/e2e/StoredFiles.hpp"
 #include "tests/e2e/TextSight.hpp"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 

@@ -179,14 +179,23 @@ private:
         std::vector<Key> keys;
         Repeat(keys, Key::Down, (wanted + 4 - menu->Selected) % 4);
         keys.push_back(Key::Return);
-        (this->*std::array{&Player::AddControls, &Player::AddGraphics,
-                    &Player::AddAudio}[static_cast<std::size_t>(wanted)])(keys);
+        switch (wanted) {
+        case 0:
+            AddControls(keys);
+            break;
+        case 1:
+            AddGraphics(keys);
+            break;
+        default:
+            AddAudio(keys);
+            break;
+        }
         Repeat(keys, Key::Escape, 2);
         Tap(keys);
     }
 
     // Each begins and ends on the first row of its page.
-    void AddControls(std::vector<Key> &Keys) {
+    static void AddControls(std::vector<Key> &Keys) {
         Repeat(Keys, Key::Right, 3);
         Keys.insert(Keys.end(), {Key::Down, Key::Return, Key::A, Key::Down, Key::Return, Key::Escape});
         Repeat(Keys, Key::Down, 4);

@@ -2,6 +2,7 @@
 
 #include "sim/Lanes.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
