@@ -37,9 +37,10 @@ if(KESTREL_SANITIZE)
 endif()
 
 # A compiler cache, where the machine has one, shortens the second build of the same sources, in this folder or another.
+# Clang's precompiled headers name the folder that they were made in, so they must not come from another one's build.
 find_program(KESTREL_CCACHE ccache)
 mark_as_advanced(KESTREL_CCACHE)
-if(KESTREL_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+if(KESTREL_CCACHE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER
         ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
         CCACHE_SLOPPINESS=pch_defines,time_macros ${KESTREL_CCACHE})
