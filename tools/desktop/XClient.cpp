@@ -5,7 +5,6 @@
 #include <X11/Xutil.h>
 #include <X11/extensions/XShm.h>
 #include <X11/extensions/XTest.h>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -150,7 +149,7 @@ SharedImage::SharedImage(Display *Owner, int Width, int Height) : Server(Owner) 
     const auto bytes = static_cast<std::size_t>(Image->bytes_per_line) * static_cast<std::size_t>(Height);
     Segment.shmid = shmget(IPC_PRIVATE, bytes, IPC_CREAT | 0600);
     void *const memory = shmat(Segment.shmid, nullptr, 0);
-    if (std::bit_cast<std::intptr_t>(memory) != -1) {
+    if (reinterpret_cast<std::intptr_t>(memory) != -1) {
         Segment.shmaddr = Image->data = static_cast<char *>(memory);
         IsAttached = XShmAttach(Server, &Segment) != 0;
         XSync(Server, False);
