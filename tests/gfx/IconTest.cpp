@@ -86,7 +86,7 @@ TEST_F(WindowIcon, FailsWhileTheAtlasIsEmpty) {
     DestroyTextureAtlas();
     SDL_ClearError();
     ExpectFailure();
-    EXPECT_STRNE(SDL_GetError(), "");
+    EXPECT_STREQ(SDL_GetError(), "The sprite atlas is empty");
     EXPECT_FALSE(LastIcon.has_value());
 }
 

@@ -2,6 +2,9 @@
 
 #include "gfx/Atlas.hpp"
 #include "tests/gfx/GfxTest.hpp"
+#include "tests/support/watch/SdlWatch.hpp"
+
+#include <optional>
 
 class SpriteDraw : public GfxTest {
 protected:
@@ -68,6 +71,21 @@ TEST_F(SpriteDraw, IsNeverNarrowerThanTheSnapStep) {
     covered = Covered(600.0F, 300.0F, 0.5F, 1.2F);
     EXPECT_EQ(covered.w, 1); // 3 logical pixels
     EXPECT_EQ(covered.h, 1);
+}
+
+TEST_F(SpriteDraw, IsNeverLargerThan1024) {
+    SdlWatch watch;
+    std::optional<SDL_FRect> drawn;
+    watch.RenderTexture.Before = [&drawn](SDL_Renderer * /*Receiver*/, SDL_Texture * /*Atlas*/,
+                                     const SDL_FRect * /*Source*/, const SDL_FRect *Target) {
+        drawn = *Target;
+    };
+    DrawSprite(Renderer(), SpritePlayer, 640.0F, 300.0F, 1e9F, 1025.0F);
+    ASSERT_TRUE(drawn);
+    EXPECT_EQ(drawn->x, 128.0F);
+    EXPECT_EQ(drawn->y, -212.0F);
+    EXPECT_EQ(drawn->w, 1024.0F);
+    EXPECT_EQ(drawn->h, 1024.0F);
 }
 
 TEST_F(SpriteDraw, ReachesOverTheScreensEdges) {

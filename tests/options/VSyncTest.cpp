@@ -54,6 +54,15 @@ TEST_F(VSync, ThatCannotBeReadIsNotActive) {
     EXPECT_EQ(log.Lines, (std::vector<std::string>{"SDL_GetRenderVSync failed: refused for the test"}));
 }
 
+TEST_F(VSync, ThatAdaptsIsActive) {
+    Watch.GetRenderVSync.Answer = [](SDL_Renderer * /*Asked*/, int *Interval) {
+        *Interval = SDL_RENDERER_VSYNC_ADAPTIVE;
+        return true;
+    };
+    Apply();
+    EXPECT_TRUE(State.VSyncActive);
+}
+
 TEST_F(VSync, LogsBothFailuresInOrder) {
     Watch.SetRenderVSync.Refuse();
     Watch.GetRenderVSync.Refuse();

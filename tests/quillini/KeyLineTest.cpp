@@ -44,6 +44,16 @@ TEST(KeyLine, OfTheNextReservedKeySwallowsTheComment) {
     EXPECT_EQ(ShownOf("QI_EL_1=mine\n\n\n"), (ShownLines{"[QI_Global]", "QI_EL_1=mine", "- QI_EL_2"}));
 }
 
+TEST(KeyLine, OfAReservedKeyThatTheDocumentHadSwallowsTheCommentToo) {
+    const ScratchFile file;
+    file.Fill(";lost\n;kept\n\n");
+    IniDocument document;
+    SetIniValue(document, "", "QI_C_1", "mine");
+    SetIniValue(document, "", "QI_EL_1", "mine");
+    ASSERT_TRUE(ReadIniFile(document, file.Path()));
+    EXPECT_EQ(Shown(document), (ShownLines{"[QI_Global]", "QI_C_1=mine", "QI_EL_1=mine", "# QI_C_2=kept"}));
+}
+
 TEST(KeyLine, OfAPresentReservedKeyChangesTheComment) {
     EXPECT_EQ(ShownOf(";one\nQI_C_1=two\n"), (ShownLines{"[QI_Global]", "# QI_C_1=two"}));
 }

@@ -62,3 +62,19 @@ TEST(RoundToInt, HasNoOverflow) {
     EXPECT_EQ(RoundToInt(-Infinity), Smallest);
     EXPECT_EQ(RoundToInt(NotANumber), 0);
 }
+
+TEST(FloorModulo, CountsUpFromZeroInEachSize) {
+    EXPECT_EQ(FloorModulo(0.0F, 32), 0);
+    EXPECT_EQ(FloorModulo(31.9F, 32), 31);
+    EXPECT_EQ(FloorModulo(32.0F, 32), 0);
+    EXPECT_EQ(FloorModulo(-0.1F, 32), 31);
+    EXPECT_EQ(FloorModulo(-32.0F, 32), 0);
+    EXPECT_EQ(FloorModulo(-33.0F, 32), 31);
+}
+
+TEST(FloorModulo, OfAValueBeyondAllWholeNumbersIsExact) {
+    EXPECT_EQ(FloorModulo(1e30F, 1), 0);
+    EXPECT_EQ(FloorModulo(4294967296.0F, 7), 4); // 2^32 = 2^30 * 4, and 2^3 leaves 1
+    EXPECT_EQ(FloorModulo(NotANumber, 32), 0);
+    EXPECT_EQ(FloorModulo(Infinity, 32), 0);
+}
