@@ -48,8 +48,8 @@ TEST(KeyLine, OfAReservedKeyThatTheDocumentHadSwallowsTheCommentToo) {
     const ScratchFile file;
     file.Fill(";lost\n;kept\n\n");
     IniDocument document;
-    SetIniValue(document, "", "QI_C_1", "mine");
-    SetIniValue(document, "", "QI_EL_1", "mine");
+    SetIniValue(document, IniGlobalSection, "QI_C_1", "mine", false);
+    SetIniValue(document, IniGlobalSection, "QI_EL_1", "mine", false);
     ASSERT_TRUE(ReadIniFile(document, file.Path()));
     EXPECT_EQ(Shown(document), (ShownLines{"[QI_Global]", "QI_C_1=mine", "QI_EL_1=mine", "# QI_C_2=kept"}));
 }
