@@ -15,7 +15,7 @@ constexpr float HurtSeconds = 1.0F;
 constexpr float RespawnSeconds = 2.0F;
 constexpr float DeathSeconds = 0.85F;
 
-/// A damaged file may hold a shot of any damage.
+/// Hp less Amount, kept within 32 bits: a damaged file may hold a shot of any damage.
 std::int32_t SaturatingSubtract(std::int32_t Hp, std::int32_t Amount) {
     using Limits = std::numeric_limits<std::int32_t>;
     const std::int64_t rest = std::int64_t{Hp} - Amount;
