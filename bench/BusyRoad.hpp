@@ -3,7 +3,7 @@
 #include "state/GameState.hpp"
 
 /// A run in the thick of it: 20 enemies, 10 obstacles, 40 shots (half of them the enemies'), items and
-/// bursts.
+/// explosions.
 GameState BusyRoad();
 
 /// What the traffic of stage 30 has become after half a minute of play without losses.

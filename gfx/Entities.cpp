@@ -1,9 +1,7 @@
 #include "gfx/Entities.hpp"
 
 #include "gfx/Draw.hpp"
-#include "sim/ItemType.hpp"
 #include "state/GameState.hpp"
-#include "state/Limits.hpp"
 #include "state/Numbers.hpp"
 
 #include <algorithm>
@@ -42,9 +40,9 @@ SpriteId ItemSprite(std::int32_t Type) {
 
 SpriteId ObstacleSprite(std::int32_t Type) {
     switch (Type) {
-    case 1:
+    case ObstacleTypeLog:
         return SpriteObstacleLog;
-    case 2:
+    case ObstacleTypeRock:
         return SpriteObstacleRock;
     default:
         return SpriteObstacleBarrier;

@@ -8,7 +8,6 @@
 #include "state/Numbers.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace {
@@ -23,15 +22,22 @@ struct SceneryTheme {
     bool IsWater;   ///< water drifts and ripples, and the road is a bridge with rails
 };
 
-constexpr std::array<SceneryTheme, 4> Themes{{
-    {SpriteGroundEarth, SpriteRoadSurface, false, SpriteRoadsideShrubDark, false},
-    {SpriteGroundWater, SpriteRoadBridge, false, SpriteRoadsideShrubDark, true},
-    {SpriteGroundDirt, SpriteRoadSurface, true, SpriteRoadsideShrubDark, false},
-    {SpriteGroundGrass, SpriteRoadSurface, true, SpriteRoadsideShrubBright, false},
-}};
+constexpr SceneryTheme Earth{SpriteGroundEarth, SpriteRoadSurface, false, SpriteRoadsideShrubDark, false};
+constexpr SceneryTheme Water{SpriteGroundWater, SpriteRoadBridge, false, SpriteRoadsideShrubDark, true};
+constexpr SceneryTheme Dirt{SpriteGroundDirt, SpriteRoadSurface, true, SpriteRoadsideShrubDark, false};
+constexpr SceneryTheme Grass{SpriteGroundGrass, SpriteRoadSurface, true, SpriteRoadsideShrubBright, false};
 
 const SceneryTheme &ThemeRow(std::int32_t Theme) {
-    return Themes[Theme >= 1 && Theme <= 3 ? static_cast<std::size_t>(Theme) : 0];
+    switch (Theme) {
+    case StageThemeWater:
+        return Water;
+    case StageThemeDirt:
+        return Dirt;
+    case StageThemeGrass:
+        return Grass;
+    default:
+        return Earth;
+    }
 }
 
 // Water, in logical pixels and seconds.

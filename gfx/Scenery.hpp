@@ -6,8 +6,8 @@
 
 struct GameState;
 
-// The scrolling scenery of a run. Themes are the values of StageThemeOf; Y0 and Y1 bound a band of the screen
-// in logical pixels.
+// The scrolling scenery of a run. Themes are values of StageTheme, any other stands for earth; Y0 and Y1
+// bound a band of the screen in logical pixels.
 
 /// Tiles the two strips beside the road between Y0 and Y1. FlowDirection (-1 or +1) is where water drifts.
 void DrawGround(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme, float Y0, float Y1,

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr std::int32_t FallbackIndex4x3 = 2; ///< where the built-in table of 4:3 has a height of 720
-
 SDL_DisplayID DisplayOf(SDL_Window *Window) {
     const SDL_DisplayID display = Window != nullptr ? SDL_GetDisplayForWindow(Window) : 0;
     return display != 0 ? display : FirstDisplay();
@@ -68,8 +66,7 @@ void RebuildDisplayLists(GameState &State, SDL_Window *Window) {
         ListDisplayModes(State, display);
     }
     ListResolutions(State);
-    const std::int32_t fallback =
-        State.AspectMode == AspectClassic4x3 ? FallbackIndex4x3 : DefaultResolutionIndex;
-    State.ResolutionIndex = FindResolutionIndex(State, wanted.Width, wanted.Height, fallback);
+    State.ResolutionIndex =
+        FindResolutionIndex(State, wanted.Width, wanted.Height, DefaultResolutionIndex(State.AspectMode));
     RebuildRefreshRates(State);
 }

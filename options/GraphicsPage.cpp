@@ -48,8 +48,8 @@ void SelectSnapshotMode(GameState &State) {
 /// The size is looked up before the lists are rebuilt: coming from 4:3 another one can come out. This stays.
 void UseDefaults(GameState &State, SDL_Window *Window) {
     State.AspectMode = AspectWidescreen;
-    State.ResolutionIndex =
-        FindResolutionIndex(State, DefaultResolution.Width, DefaultResolution.Height, DefaultResolutionIndex);
+    State.ResolutionIndex = FindResolutionIndex(
+        State, DefaultResolution.Width, DefaultResolution.Height, DefaultResolutionIndex(AspectWidescreen));
     State.RefreshRate = 0;
     State.Fullscreen = true;
     State.VSync = true;

@@ -1,22 +1,24 @@
 #include "sim/Bomb.hpp"
 
-#include "sim/Bursts.hpp"
+#include "sim/Explosions.hpp"
 #include "sim/Score.hpp"
 #include "state/GameState.hpp"
 
+#include <vector>
+
 namespace {
 
-constexpr std::int32_t BonusPoints = 25; ///< for each thing that the bomb takes, before stage scaling
+/// For each thing that the bomb destroys, before stage scaling.
+constexpr std::int32_t BonusPoints = 25;
 
-/// Takes every thing of a list for its points and returns how many there were.
-template <typename Thing> std::int64_t TakeAll(GameState &State, std::vector<Thing> &Things, Burst Occasion) {
+template <typename Thing>
+void DestroyAll(GameState &State, std::vector<Thing> &Things, const ExplosionLook &Look) {
     for (const Thing &thing : Things) {
-        AddScore(State, ScoreForStage(thing.Score, State.Stage));
-        AddBurst(State, Occasion, thing.X, thing.Y);
+        AddScore(State, thing.Score);
+        AddScore(State, BonusPoints);
+        AddExplosion(State, thing.X, thing.Y, Look);
     }
-    const auto count = static_cast<std::int64_t>(Things.size());
     Things.clear();
-    return count;
 }
 
 } // namespace
@@ -26,12 +28,12 @@ void ThrowBomb(GameState &State, const StepInput &StepInput) {
         return;
     }
     State.SpecialActive = true;
-    --State.Bombs; // also on an empty road, and that is meant
+    // NOT-BUGS: A bomb on an empty road is spent
+    --State.Bombs;
     State.SpecialTimer = BombFlashSeconds;
-    std::int64_t count = TakeAll(State, State.Enemies, Burst::BombedEnemy);
-    count += TakeAll(State, State.Obstacles, Burst::BombedObstacle);
+    DestroyAll(State, State.Enemies, BombedEnemyLook);
+    DestroyAll(State, State.Obstacles, BombedObstacleLook);
     State.EnemyBullets.clear();
-    AddScore(State, count * ScoreForStage(BonusPoints, State.Stage));
-    AddBurst(State, Burst::BombBlast, State.Player.X, State.Player.Y);
+    AddExplosion(State, State.Player.X, State.Player.Y, BombBlastLook);
     PushSound(State, SfxId::PlayerBomb);
 }

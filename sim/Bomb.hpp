@@ -4,8 +4,9 @@
 
 struct GameState;
 
-inline constexpr float BombFlashSeconds = 0.65F; ///< no other bomb can be thrown meanwhile
+/// How long a bomb's flash runs; no other bomb can be thrown meanwhile.
+inline constexpr float BombFlashSeconds = 0.65F;
 
-/// Throws a bomb where bomb is held, one is left and none is flashing: every enemy and obstacle goes for its
-/// points and a bonus each, enemy shots go for nothing, items and the player's shots stay.
+/// Throws a bomb if the bomb control is held, one is left and no flash runs: every enemy and obstacle is
+/// destroyed and pays its points and a bonus, enemy shots vanish, items and the player's shots stay.
 void ThrowBomb(GameState &State, const StepInput &StepInput);

@@ -1,7 +1,7 @@
 #include "sim/Bullets.hpp"
 
+#include "sim/RoadLines.hpp"
 #include "state/GameState.hpp"
-#include "state/Limits.hpp"
 
 namespace {
 

@@ -1,40 +1,39 @@
 #include "sim/Contacts.hpp"
 
-#include "sim/Bursts.hpp"
 #include "sim/Damage.hpp"
+#include "sim/Explosions.hpp"
 #include "sim/Geometry.hpp"
+#include "sim/RoadLines.hpp"
 #include "sim/UsedUp.hpp"
 #include "state/GameState.hpp"
-#include "state/Limits.hpp"
 
-#include <array>
+#include <vector>
 
 namespace {
 
 constexpr std::int32_t RamDamage = 34;
-constexpr std::array<std::int32_t, 3> CrashDamage{24, 18, 22}; ///< by the obstacle's type
 
-std::int32_t CrashDamageOf(std::int32_t Type) {
-    return CrashDamage[Type == 0 || Type == 2 ? static_cast<std::size_t>(Type) : 1];
+std::int32_t CrashDamage(std::int32_t Type) {
+    switch (Type) {
+    case ObstacleTypeBarrier:
+        return 24;
+    case ObstacleTypeRock:
+        return 22;
+    default: // a log, and what is of no known type
+        return 18;
+    }
 }
 
-template <typename Thing> bool TouchesPlayer(const Player &Player, const Thing &Other) {
-    return CirclesTouch(Player.X, Player.Y, Player.Radius, Other.X, Other.Y, Other.Radius);
-}
-
-bool TouchesPlayer(const Player &Player, const Obstacle &Other) {
-    return CircleHitsRect(Player.X, Player.Y, Player.Radius, Other.X, Other.Y, Other.Width, Other.Height);
-}
-
-/// Removes what touches the player, each with its burst and then its damage, and what has left the screen.
-template <typename Thing, typename DamageOf>
-void MeetAll(GameState &State, std::vector<Thing> &Things, float LeaveY, Burst Occasion, DamageOf Damage) {
+/// Removes what touches the player, each with its explosion and then its damage, and what has passed LeaveY.
+template <typename Thing, typename Damage>
+void MeetAll(
+    GameState &State, std::vector<Thing> &Things, float LeaveY, const ExplosionLook &Look, Damage DamageOf) {
     RemoveUsedUp(Things, [&](const Thing &Met) {
-        if (!TouchesPlayer(State.Player, Met)) {
+        if (!Touches(State.Player, Met)) {
             return Met.Y > LeaveY;
         }
-        AddBurst(State, Occasion, Met.X, Met.Y);
-        DamagePlayer(State, Damage(Met)); // the last life lost empties the list of shots
+        AddExplosion(State, Met.X, Met.Y, Look);
+        DamagePlayer(State, DamageOf(Met));
         return true;
     });
 }
@@ -42,19 +41,19 @@ void MeetAll(GameState &State, std::vector<Thing> &Things, float LeaveY, Burst O
 } // namespace
 
 void MeetEnemies(GameState &State) {
-    MeetAll(State, State.Enemies, EnemyLeaveY, Burst::Ram, [](const Enemy &) {
+    MeetAll(State, State.Enemies, EnemyLeaveY, RamLook, [](const Enemy &) {
         return RamDamage;
     });
 }
 
 void MeetEnemyBullets(GameState &State) {
-    MeetAll(State, State.EnemyBullets, EnemyBulletLeaveY, Burst::EnemyShot, [](const EnemyBullet &Shot) {
+    MeetAll(State, State.EnemyBullets, EnemyBulletLeaveY, ShotOnPlayerLook, [](const EnemyBullet &Shot) {
         return Shot.Damage;
     });
 }
 
 void MeetObstacles(GameState &State) {
-    MeetAll(State, State.Obstacles, ObstacleLeaveY, Burst::ObstacleCrash, [](const Obstacle &Obstacle) {
-        return CrashDamageOf(Obstacle.Type);
+    MeetAll(State, State.Obstacles, ObstacleLeaveY, ObstacleCrashLook, [](const Obstacle &Obstacle) {
+        return CrashDamage(Obstacle.Type);
     });
 }

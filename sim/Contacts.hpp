@@ -2,8 +2,9 @@
 
 struct GameState;
 
-// What touches the player's car is used up, whether it hurts or not; what has passed the bottom of the screen
-// leaves. Neither pays points.
+// What touches the player's car is removed, whether it hurts or not, and what has passed the bottom of the
+// screen leaves. Neither pays points.
+// NOT-BUGS: Rammed cars and obstacles vanish without points
 
 /// Enemies ram the player.
 void MeetEnemies(GameState &State);

@@ -1,6 +1,6 @@
 #include "sim/Damage.hpp"
 
-#include "sim/Bursts.hpp"
+#include "sim/Explosions.hpp"
 #include "sim/Lanes.hpp"
 #include "state/GameState.hpp"
 #include "state/Limits.hpp"
@@ -10,12 +10,13 @@
 
 namespace {
 
-constexpr float HurtSeconds = 1.0F;    ///< without further damage after a blow
-constexpr float RespawnSeconds = 2.0F; ///< the same after a lost life
+// How long nothing hurts after a blow, and after a lost life; how long the death is shown.
+constexpr float HurtSeconds = 1.0F;
+constexpr float RespawnSeconds = 2.0F;
 constexpr float DeathSeconds = 0.85F;
 
-/// Stops at the ends of the 32 bits: a damaged file may hold a shot of any damage.
-std::int32_t Subtract(std::int32_t Hp, std::int32_t Amount) {
+/// Hp less Amount, kept within 32 bits: a damaged file may hold a shot of any damage.
+std::int32_t SaturatingSubtract(std::int32_t Hp, std::int32_t Amount) {
     using Limits = std::numeric_limits<std::int32_t>;
     const std::int64_t rest = std::int64_t{Hp} - Amount;
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(rest, Limits::min(), Limits::max()));
@@ -24,13 +25,13 @@ std::int32_t Subtract(std::int32_t Hp, std::int32_t Amount) {
 void Respawn(GameState &State) {
     Player &player = State.Player;
     --player.Stocks;
-    State.PlayerLane = PlayerStartLane;
+    State.PlayerLane = MiddleLane;
     player.Hp = player.MaxHp;
-    player.X = LaneCenterX(PlayerStartLane);
+    player.X = LaneCenterX(MiddleLane);
     player.Y = PlayerY;
     State.InvulnerabilityTimer = RespawnSeconds;
     State.LaneMoveCooldown = 0.0F;
-    AddBurst(State, Burst::Respawn, player.X, player.Y);
+    AddExplosion(State, player.X, player.Y, RespawnLook);
 }
 
 void BeginDeath(GameState &State) {
@@ -42,8 +43,8 @@ void BeginDeath(GameState &State) {
     player.FireCooldown = 0.0F;
     State.Bullets.clear();
     State.EnemyBullets.clear();
-    AddBurst(State, Burst::DyingPlayerFirst, player.X, player.Y);
-    AddBurst(State, Burst::DyingPlayerSecond, player.X, player.Y);
+    AddExplosion(State, player.X, player.Y, DyingPlayerFirstLook);
+    AddExplosion(State, player.X, player.Y, DyingPlayerSecondLook);
 }
 
 } // namespace
@@ -54,13 +55,14 @@ void DamagePlayer(GameState &State, std::int32_t Amount) {
         State.Screen != ScreenPlaying || State.PlayerDying) {
         return;
     }
-    player.Hp = Subtract(player.Hp, Amount);
+    player.Hp = SaturatingSubtract(player.Hp, Amount);
     State.InvulnerabilityTimer = HurtSeconds;
-    AddBurst(State, Burst::PlayerDamage, player.X, player.Y);
+    AddExplosion(State, player.X, player.Y, PlayerDamageLook);
     PushSound(State, SfxId::PlayerHit);
     if (player.Hp > 0) {
         return;
     }
+    // NOT-BUGS: A lost life plays two sounds
     PushSound(State, SfxId::PlayerDeath);
     if (player.Stocks > 0) {
         Respawn(State);

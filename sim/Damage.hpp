@@ -4,7 +4,8 @@
 
 struct GameState;
 
-/// Hurts the player by Amount hit points: the only way to lose any. Who deals how much stands with the
-/// contacts and the enemies' shots. Nothing happens while the player is invulnerable, invincible or dying. At
-/// 0 hit points a spare life is spent, or the run begins to end.
+/// Takes Amount hit points from the player, who loses them nowhere else. Does nothing while the player is
+/// invulnerable, invincible or dying, or off ScreenPlaying. At 0 or below a spare life is spent and the
+/// player is back with full health in the middle lane; without one PlayerDying is set and all shots are
+/// removed.
 void DamagePlayer(GameState &State, std::int32_t Amount);

@@ -2,6 +2,6 @@
 
 struct GameState;
 
-/// The step while the last life's burst runs: nothing but the burst moves. At its end the run is over: the
-/// game over screen shows, and the save that is asked for holds no run.
+/// The step of dt seconds while PlayerDying is set: only the explosions go on. When DeathTimer has run out
+/// the run is over: ScreenGameOver shows, HasRunState is false, and a save is asked for at once.
 void DyingStep(GameState &State, float dt);

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-// What grows with the stage number. Speeds are logical pixels a second at a road speed scale of 1.
+// What depends on the stage number, 1 or more. Speeds are logical pixels a second at a road speed scale of 1.
 
 /// What the time between two enemies is multiplied with: 1 in stage 1, down to 0.45 from stage 14 on.
 float EnemyIntervalFactor(std::int32_t Stage);
@@ -18,5 +18,5 @@ float HeavyEnemySpeed(std::int32_t Stage);
 float ObstacleSpeed(std::int32_t Stage);
 float ItemSpeed(std::int32_t Stage);
 
-/// A shot's own speed; the road speed scale does not touch it.
+/// A shot's own speed, whatever the road's.
 float EnemyShotSpeed(std::int32_t Stage);

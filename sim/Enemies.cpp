@@ -18,18 +18,21 @@
 
 namespace {
 
-constexpr float ChaseChance = 0.62F;  ///< of a decision to head for the player
-constexpr float WanderChance = 0.87F; ///< up to it, of one to go either way
-constexpr float EnemyGap = 8.0F;      ///< logical pixels between the circles of two enemies
+// What a draw in [0, 1) decides: to head for the player, to go either way, or, above both, to stay.
+constexpr float ChaseBelow = 0.62F;
+constexpr float WanderBelow = 0.87F;
+
+// Distances in logical pixels, the lead in logical pixels a second.
+constexpr float EnemyGap = 8.0F; ///< between the circles of two enemies
 constexpr float EnemyLead = 6.0F;
 
-// Where an enemy shoots, both ends excluded.
+// Between which heights an enemy shoots, both ends excluded.
 constexpr float ShootFromY = 14.0F;
 constexpr float ShootToY = 650.0F;
 constexpr float MuzzleDistance = 11.0F;
 
-/// How an enemy thinks and shoots, by the hit points that it has now: a heavy one that is down to its last
-/// acts like a light one, and that is meant.
+/// How an enemy thinks and shoots, by the hit points that it has now.
+/// NOT-BUGS: A heavy enemy that was hit once behaves like a light one
 struct Temper {
     float ThinkSeconds;
     float ReloadSeconds;
@@ -56,7 +59,7 @@ struct Snapshot {
     float Radius;
 };
 
-using Snapshots = std::pmr::vector<Snapshot>;
+constexpr std::size_t UsualEnemyLimit = 128; ///< more than a road holds, unless a file was damaged
 
 /// One enemy's turn: the run, the enemies at the start of the frame, and which of them it is.
 struct Turn {
@@ -68,10 +71,10 @@ struct Turn {
 
 std::int32_t DrawLaneStep(GameState &State, std::int32_t Lane) {
     const float r = RandomFloat(State, 0.0F, 1.0F);
-    if (r < ChaseChance) {
+    if (r < ChaseBelow) {
         return std::clamp(State.PlayerLane - Lane, -1, 1);
     }
-    if (r < WanderChance) {
+    if (r < WanderBelow) {
         return RandomIndex(State, 2) == 1 ? 1 : -1;
     }
     return 0;
@@ -142,7 +145,8 @@ void Drive(const Turn &Turn, Enemy &Enemy) {
 }
 
 void Shoot(GameState &State, Enemy &Enemy) {
-    if (Enemy.FireCooldown > 0.0F || !(Enemy.Y > ShootFromY) || !(Enemy.Y < ShootToY)) {
+    const bool isInRange = Enemy.Y > ShootFromY && Enemy.Y < ShootToY;
+    if (Enemy.FireCooldown > 0.0F || !isInRange) {
         return;
     }
     const Temper &temper = TemperOf(Enemy);
@@ -175,10 +179,11 @@ void TakeTurn(const Turn &Turn, Enemy &Enemy) {
 } // namespace
 
 void MoveEnemies(GameState &State, float dt) {
-    // Room for more enemies than a road holds; only a crowd beyond that is taken from the heap.
-    std::array<std::byte, 128 * sizeof(Snapshot)> room;
+    // On the stack, because a frame allocates no memory; only a crowd that no road holds is taken from the
+    // heap.
+    std::array<std::byte, UsualEnemyLimit * sizeof(Snapshot)> room;
     std::pmr::monotonic_buffer_resource memory(room.data(), room.size());
-    Snapshots others(&memory);
+    std::pmr::vector<Snapshot> others(&memory);
     others.reserve(State.Enemies.size());
     for (const Enemy &enemy : State.Enemies) {
         others.push_back({enemy.Lane, enemy.Y, enemy.Radius});

@@ -1,13 +1,12 @@
 #include "sim/EnemySpawn.hpp"
 
 #include "sim/Difficulty.hpp"
-#include "sim/Lanes.hpp"
 #include "sim/Random.hpp"
 #include "sim/Road.hpp"
+#include "sim/RoadLines.hpp"
 #include "sim/SpawnClearance.hpp"
 #include "sim/Timers.hpp"
 #include "state/GameState.hpp"
-#include "state/Limits.hpp"
 
 namespace {
 
@@ -45,18 +44,6 @@ Enemy DrawEnemy(GameState &State) {
     return enemy;
 }
 
-/// Puts the enemy into the first clear lane of a random order; on a crowded road none may be, and it is lost.
-void PlaceEnemy(GameState &State, Enemy Enemy) {
-    for (const std::int32_t lane : ShuffledLanes(State)) {
-        Enemy.Lane = lane;
-        Enemy.X = LaneCenterX(lane);
-        if (IsSpawnClear(State, Enemy.X, Enemy.Y, Enemy.Radius)) {
-            State.Enemies.push_back(Enemy);
-            return;
-        }
-    }
-}
-
 } // namespace
 
 void SpawnEnemy(GameState &State, float dt) {
@@ -64,6 +51,7 @@ void SpawnEnemy(GameState &State, float dt) {
     if (State.SpawnTimer > 0.0F) {
         return;
     }
-    PlaceEnemy(State, DrawEnemy(State));
+    const Enemy enemy = DrawEnemy(State);
+    SpawnInClearLane(State, ShuffledLanes(State), enemy);
     State.SpawnTimer = RandomFloat(State, 0.72F, 1.2F) * EnemyIntervalFactor(State.Stage);
 }

@@ -2,6 +2,6 @@
 
 struct GameState;
 
-/// Runs the enemy timer down by dt scaled seconds and at its end lets one enemy in, in a random lane that is
-/// clear. Where all nine are blocked the round is lost.
+/// Counts SpawnTimer down by dt seconds, scaled by the road speed; at its end one enemy enters, in a random
+/// lane that is clear, or none if none is, and the timer starts anew.
 void SpawnEnemy(GameState &State, float dt);

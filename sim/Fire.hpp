@@ -4,9 +4,9 @@
 
 struct GameState;
 
-/// Fires a salvo where fire is held, the gun is ready and the meter can pay: one shot, or two with the dual
-/// weapon.
+/// Fires a salvo, one shot or two with the dual weapon, if the fire control is held, FireCooldown has run out
+/// and AmmoMeter holds its cost. It makes one sound.
 void FireGun(GameState &State, const StepInput &StepInput);
 
-/// Refills the ammunition meter unless a shot has just been fired.
+/// Refills AmmoMeter for dt seconds, up to MaxAmmo, unless AmmoRegenPause still runs after a salvo.
 void RefillAmmo(GameState &State, float dt);

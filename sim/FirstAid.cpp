@@ -1,6 +1,6 @@
 #include "sim/FirstAid.hpp"
 
-#include "sim/Bursts.hpp"
+#include "sim/Explosions.hpp"
 #include "state/GameState.hpp"
 
 #include <algorithm>
@@ -19,8 +19,9 @@ void UseFirstAid(GameState &State) {
     if (State.FirstAidKits < 1 || player.Hp >= player.MaxHp) {
         return;
     }
-    player.Hp += std::min(FirstAidHp, player.MaxHp - player.Hp); // a file may hold any MaxHp: no sum above it
+    // Nothing is added past MaxHp, which in a damaged file may be the largest number.
+    player.Hp += std::min(FirstAidHp, player.MaxHp - player.Hp);
     --State.FirstAidKits;
-    AddBurst(State, Burst::FirstAid, player.X, player.Y);
+    AddExplosion(State, player.X, player.Y, FirstAidLook);
     PushSound(State, SfxId::PlayerHeal);
 }

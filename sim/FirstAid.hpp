@@ -2,6 +2,6 @@
 
 struct GameState;
 
-/// Uses a first aid kit, on ScreenPlaying and not while dying. Without a kit or at full health nothing
-/// happens and nothing sounds.
+/// Uses a first aid kit, which restores hit points up to MaxHp. Without a kit, at full health, while dying
+/// and off ScreenPlaying nothing happens and nothing sounds.
 void UseFirstAid(GameState &State);

@@ -1,9 +1,9 @@
 #include "sim/Items.hpp"
 
 #include "sim/Geometry.hpp"
-#include "sim/ItemType.hpp"
 #include "sim/Lanes.hpp"
 #include "sim/Road.hpp"
+#include "sim/RoadLines.hpp"
 #include "sim/Score.hpp"
 #include "sim/UsedUp.hpp"
 #include "state/GameState.hpp"
@@ -23,7 +23,7 @@ void Pocket(GameState &State, std::int32_t &Held, std::int32_t Most) {
     if (Held < Most) {
         ++Held;
     } else {
-        AddScore(State, ScoreForStage(FullPocketPoints, State.Stage));
+        AddScore(State, FullPocketPoints);
     }
 }
 
@@ -35,7 +35,8 @@ void ApplyItem(GameState &State, std::int32_t Type) {
     case ItemTypeBomb:
         Pocket(State, State.Bombs, MaxBombs);
         break;
-    case ItemTypeInvincibility: // a second one fills the time up again and adds nothing, and that is meant
+    // NOT-BUGS: Power-ups do not add up
+    case ItemTypeInvincibility:
         State.InvincibilityPowerTimer = std::max(InvincibilitySeconds, State.InvincibilityPowerTimer);
         break;
     case ItemTypeDualWeapon:
@@ -47,8 +48,7 @@ void ApplyItem(GameState &State, std::int32_t Type) {
 }
 
 bool PickUp(GameState &State, const Item &Item) {
-    const Player &player = State.Player;
-    if (!CirclesTouch(player.X, player.Y, player.Radius, Item.X, Item.Y, Item.Radius)) {
+    if (!Touches(State.Player, Item)) {
         return false;
     }
     ApplyItem(State, Item.Type);

@@ -14,6 +14,7 @@ void MoveLane(GameState &State, const StepInput &StepInput) {
         return;
     }
     State.PlayerLane = ClampLane(State.PlayerLane + (StepInput.MoveLeft ? -1 : 1));
-    State.LaneMoveCooldown = LaneMoveSeconds; // at the road's edge too, where the lane stays
+    // NOT-BUGS: A direction held at the road's edge keeps starting the pause between two moves
+    State.LaneMoveCooldown = LaneMoveSeconds;
     State.Player.X = LaneCenterX(State.PlayerLane);
 }

@@ -4,6 +4,6 @@
 
 struct GameState;
 
-/// Jumps one lane where exactly one direction is held and the cooldown has run out. The cooldown starts anew
-/// also at the road's edge.
+/// Puts the player one lane further if exactly one direction is held and LaneMoveCooldown has run out, and
+/// starts that anew, also at the road's edge.
 void MoveLane(GameState &State, const StepInput &StepInput);

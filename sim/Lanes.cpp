@@ -5,8 +5,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace {
+
+constexpr float OuterLaneDistance = 30.0F; ///< of a lane's centre from the road's edge
+constexpr float LaneDistance = (RoadWidth - 2.0F * OuterLaneDistance) / static_cast<float>(LaneCount - 1);
 
 template <typename Thing> void SnapThings(std::vector<Thing> &Things) {
     for (Thing &thing : Things) {
@@ -30,9 +34,8 @@ std::int32_t ClampLane(std::int32_t Lane) {
 }
 
 float LaneCenterX(std::int32_t Lane) {
-    // Eight steps across the 260 pixels between the outer lanes' centres make 32.5 each: rounded to whole
-    // pixels, so the lanes are not evenly spaced, and that is meant.
-    return std::round(RoadLeft() + 30.0F + static_cast<float>(ClampLane(Lane)) * 0.125F * 260.0F);
+    // NOT-BUGS: The nine lanes are not evenly spaced
+    return std::round(RoadLeft() + OuterLaneDistance + static_cast<float>(ClampLane(Lane)) * LaneDistance);
 }
 
 void SnapToLanes(GameState &State) {

@@ -31,15 +31,10 @@ void ResetPlayer(GameState &State) {
     State.LaneMoveCooldown = 0.0F;
     State.AmmoRegenPause = 0.0F;
     State.AmmoMeter = MaxAmmo;
-    State.Player.Y = PlayerY;
-    State.Player.Radius = PlayerRadius;
-    State.Player.Hp = StartHp;
-    State.Player.MaxHp = StartHp;
-    State.Player.Stocks = StartStocks;
-    State.Player.FireCooldown = 0.0F;
+    State.Player = {.X = LaneCenterX(MiddleLane)};
     State.Bombs = StartBombs;
     State.FirstAidKits = StartFirstAidKits;
-    State.PlayerLane = PlayerStartLane;
+    State.PlayerLane = MiddleLane;
     State.SpecialActive = false;
     State.SpecialTimer = 0.0F;
     State.InvincibilityPowerTimer = 0.0F;
@@ -71,7 +66,6 @@ void StartNewRun(GameState &State) {
     ResetRoad(State);
     ResetPlayer(State);
     ResetMenus(State);
-    State.Player.X = LaneCenterX(PlayerStartLane);
     ClearRoad(State);
     State.HasRunState = true;
     State.PendingSounds.Count = 0;

@@ -1,45 +1,42 @@
 #include "sim/ObstacleSpawn.hpp"
 
 #include "sim/Difficulty.hpp"
-#include "sim/Geometry.hpp"
-#include "sim/Lanes.hpp"
 #include "sim/Random.hpp"
 #include "sim/Road.hpp"
+#include "sim/RoadLines.hpp"
 #include "sim/SpawnClearance.hpp"
 #include "sim/Timers.hpp"
 #include "state/GameState.hpp"
-#include "state/Limits.hpp"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace {
 
 struct ObstacleKind {
-    float ChanceUpTo; ///< a draw below it takes this kind, unless it took an earlier one
+    ObstacleType Type;
+    float ChanceUpTo; ///< of a draw in [0, 1): the first kind whose bound is above it is taken
     float Width;
     float Height;
     std::int32_t Hp;
     std::int32_t Score;
 };
 
-// The position is the type: barrier, log, rock.
 constexpr std::array<ObstacleKind, 3> ObstacleKinds{{
-    {0.5F, 54.0F, 14.0F, 4, 180},
-    {0.82F, 34.0F, 18.0F, 2, 120},
-    {1.0F, 26.0F, 24.0F, 3, 150},
+    {ObstacleTypeBarrier, 0.5F, 54.0F, 14.0F, 4, 180},
+    {ObstacleTypeLog, 0.82F, 34.0F, 18.0F, 2, 120},
+    {ObstacleTypeRock, 1.0F, 26.0F, 24.0F, 3, 150},
 }};
 
-constexpr float Doubled = 2.0F * SpawnMargin; ///< the margin at both ends of a side
+const ObstacleKind &DrawKind(GameState &State) {
+    const float r = RandomFloat(State, 0.0F, 1.0F); // below 1, so a kind is found
+    return *std::ranges::find_if(ObstacleKinds, [r](const ObstacleKind &Kind) {
+        return r < Kind.ChanceUpTo;
+    });
+}
 
 Obstacle DrawObstacle(GameState &State) {
-    const float r = RandomFloat(State, 0.0F, 1.0F);
-    std::int32_t type = 0;
-    while (r >= ObstacleKinds[static_cast<std::size_t>(type)].ChanceUpTo) {
-        ++type;
-    }
-    const ObstacleKind &kind = ObstacleKinds[static_cast<std::size_t>(type)];
+    const ObstacleKind &kind = DrawKind(State);
     Obstacle obstacle;
     obstacle.Y = ObstacleSpawnY;
     obstacle.Speed = ObstacleSpeed(State.Stage);
@@ -47,37 +44,8 @@ Obstacle DrawObstacle(GameState &State) {
     obstacle.Height = kind.Height;
     obstacle.Hp = kind.Hp;
     obstacle.Score = kind.Score;
-    obstacle.Type = type;
+    obstacle.Type = kind.Type;
     return obstacle;
-}
-
-bool Overlap(const Obstacle &A, const Obstacle &B) {
-    return std::abs(A.X - B.X) <= (A.Width + Doubled + B.Width + Doubled) / 2.0F &&
-           std::abs(A.Y - B.Y) <= (A.Height + Doubled + B.Height + Doubled) / 2.0F;
-}
-
-bool IsClear(const GameState &State, const Obstacle &New) {
-    const auto touchesCircle = [&New](const auto &Thing) {
-        return CircleHitsRect(Thing.X, Thing.Y, Thing.Radius + SpawnMargin, New.X, New.Y, New.Width + Doubled,
-            New.Height + Doubled);
-    };
-    const auto touchesObstacle = [&New](const Obstacle &Other) {
-        return Overlap(Other, New);
-    };
-    return std::ranges::none_of(State.Enemies, touchesCircle) &&
-           std::ranges::none_of(State.Obstacles, touchesObstacle) &&
-           std::ranges::none_of(State.Items, touchesCircle);
-}
-
-void PlaceObstacle(GameState &State, Obstacle Obstacle) {
-    for (const std::int32_t lane : ShuffledLanes(State)) {
-        Obstacle.Lane = lane;
-        Obstacle.X = LaneCenterX(lane);
-        if (IsClear(State, Obstacle)) {
-            State.Obstacles.push_back(Obstacle);
-            return;
-        }
-    }
 }
 
 } // namespace
@@ -87,6 +55,7 @@ void SpawnObstacle(GameState &State, float dt) {
     if (State.ObstacleSpawnTimer > 0.0F) {
         return;
     }
-    PlaceObstacle(State, DrawObstacle(State));
+    const Obstacle obstacle = DrawObstacle(State);
+    SpawnInClearLane(State, ShuffledLanes(State), obstacle);
     State.ObstacleSpawnTimer = RandomFloat(State, 0.85F, 1.35F) * ObstacleIntervalFactor(State.Stage);
 }

@@ -2,6 +2,6 @@
 
 struct GameState;
 
-/// Runs the obstacle timer down by dt scaled seconds and at its end lets one obstacle in, in a random lane
-/// where it keeps clear of everything. Where all nine are blocked the round is lost.
+/// Counts ObstacleSpawnTimer down by dt seconds, scaled by the road speed; at its end one obstacle enters, in
+/// a random lane that is clear, or none if none is, and the timer starts anew.
 void SpawnObstacle(GameState &State, float dt);

@@ -14,17 +14,19 @@ std::uint32_t Draw(GameState &State) {
 } // namespace
 
 float RandomFloat(GameState &State, float A, float B) {
+    // The conversion rounds the largest 128 outputs up to 2^32, which would make v 1 and the result B.
     constexpr float largestBelowOne = 0x1.fffffep-1F;
-    // The conversion rounds the largest 128 outputs up to 2^32, which would make the end of the range part of
-    // it.
     const float v = std::min(static_cast<float>(Draw(State)) * 0x1p-32F, largestBelowOne);
     return (B - A) * v + A;
 }
 
+// Multiply and shift with rejection: the result is the high half of an output times N. 2^32 modulo N results
+// would have one output more than the others; an output whose product has a low half below that number is
+// drawn again, which leaves each result the same number of outputs.
 std::uint32_t RandomIndex(GameState &State, std::uint32_t N) {
     std::uint64_t product = std::uint64_t{Draw(State)} * N;
     if (static_cast<std::uint32_t>(product) < N) {
-        const std::uint32_t threshold = (0U - N) % N; // (2^32 - N) modulo N
+        const std::uint32_t threshold = (0U - N) % N; // 2^32 modulo N, for 0U - N wraps to 2^32 - N
         while (static_cast<std::uint32_t>(product) < threshold) {
             product = std::uint64_t{Draw(State)} * N;
         }
@@ -32,9 +34,10 @@ std::uint32_t RandomIndex(GameState &State, std::uint32_t N) {
     return static_cast<std::uint32_t>(product >> 32U);
 }
 
-std::array<std::int32_t, LaneCount> ShuffledLanes(GameState &State) {
-    std::array<std::int32_t, LaneCount> lanes{0, 1, 2, 3, 4, 5, 6, 7, 8};
-    for (std::uint32_t i = 1; i <= 7; i += 2) {
+LaneOrder ShuffledLanes(GameState &State) {
+    LaneOrder lanes = LanesFromLeft;
+    static_assert(LaneCount % 2 == 1, "lanes are swapped in pairs, but for the first");
+    for (std::uint32_t i = 1; i < LaneCount; i += 2) {
         // One draw serves two swaps: its quotient picks among the first i + 1, its remainder among i + 2.
         const std::uint32_t b = i + 2;
         const std::uint32_t x = RandomIndex(State, (i + 1) * b);

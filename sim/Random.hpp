@@ -2,13 +2,12 @@
 
 #include "sim/Lanes.hpp"
 
-#include <array>
 #include <cstdint>
 
 struct GameState;
 
-// The draws of a run. They are spelled out, not left to the standard library's distributions, so that the
-// same generator gives the same draws with every compiler.
+// The draws of a run, from State.Rng. They do not use the standard library's distributions, so that the same
+// seed gives the same draws with every compiler.
 
 /// A uniform draw in [A, B); rounding may reach B where A is not 0.
 float RandomFloat(GameState &State, float A, float B);
@@ -17,7 +16,7 @@ float RandomFloat(GameState &State, float A, float B);
 std::uint32_t RandomIndex(GameState &State, std::uint32_t N);
 
 /// The nine lanes in a random order, from four draws.
-std::array<std::int32_t, LaneCount> ShuffledLanes(GameState &State);
+LaneOrder ShuffledLanes(GameState &State);
 
 /// -1 or +1.
 std::int32_t RandomFlowDirection(GameState &State);

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
-/// Eases the road towards its stage's speed, then drives on for dt seconds: the distance, the time and the
-/// seam of the scenery.
+/// Eases CurrentScrollSpeed towards the stage's speed, then adds what is driven in dt seconds to RoadScroll,
+/// StageTransition and GameTime.
 void MoveRoad(GameState &State, float dt);
 
 /// How much faster than in stage 1 the road is now: what the traffic and the spawn timers are scaled by.

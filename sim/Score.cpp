@@ -15,7 +15,7 @@ std::int64_t ScoreForStage(std::int32_t BasePoints, std::int32_t Stage) {
     return static_cast<std::int64_t>(std::max(rounded, 1.0F));
 }
 
-void AddScore(GameState &State, std::int64_t Points) {
+void AddScore(GameState &State, std::int32_t BasePoints) {
     const std::int64_t room = std::numeric_limits<std::int64_t>::max() - State.Score;
-    State.Score += std::min(Points, room);
+    State.Score += std::min(ScoreForStage(BasePoints, State.Stage), room);
 }

@@ -1,70 +1,54 @@
 #include "sim/ShotHits.hpp"
 
-#include "sim/Bursts.hpp"
+#include "sim/Explosions.hpp"
 #include "sim/Geometry.hpp"
 #include "sim/ItemSpawn.hpp"
 #include "sim/Score.hpp"
 #include "sim/UsedUp.hpp"
 #include "state/GameState.hpp"
-#include "state/Limits.hpp"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
-/// Takes one hit point and tells whether none is left. Below 0, which only a damaged file holds, it stays one
-/// hit.
-bool TakePoint(std::int32_t &Hp) {
+/// Takes one hit point and returns whether none is left. Hp below 0, which only a damaged file holds, counts
+/// as 0, so that the smallest number does not overflow.
+bool TakeHit(std::int32_t &Hp) {
     Hp = std::max(Hp, 0) - 1;
     return Hp <= 0;
 }
 
-void DestroyObstacle(GameState &State, std::vector<Obstacle>::iterator Target) {
-    AddScore(State, ScoreForStage(Target->Score, State.Stage));
-    AddBurst(State, Burst::DestroyedObstacle, Target->X, Target->Y);
+void DestroyObstacle(GameState &State, const Obstacle &Obstacle) {
+    AddScore(State, Obstacle.Score);
+    AddExplosion(State, Obstacle.X, Obstacle.Y, DestroyedObstacleLook);
     PushSound(State, SfxId::ObstacleDown);
-    State.Obstacles.erase(Target);
 }
 
-void DestroyEnemy(GameState &State, std::vector<Enemy>::iterator Target) {
-    const float x = Target->X;
-    const float y = Target->Y;
-    AddScore(State, ScoreForStage(Target->Score, State.Stage));
-    AddBurst(State, Burst::DestroyedEnemy, x, y);
+void DestroyEnemy(GameState &State, const Enemy &Enemy) {
+    AddScore(State, Enemy.Score);
+    AddExplosion(State, Enemy.X, Enemy.Y, DestroyedEnemyLook);
     PushSound(State, SfxId::EnemyDown);
-    State.Enemies.erase(Target);
-    DropItem(State, x, y);
+    DropItem(State, Enemy.X, Enemy.Y);
 }
 
-bool HitObstacle(GameState &State, const Bullet &Bullet) {
-    const auto target = std::ranges::find_if(State.Obstacles, [&Bullet](const Obstacle &Obstacle) {
-        return CircleHitsRect(
-            Bullet.X, Bullet.Y, Bullet.Radius, Obstacle.X, Obstacle.Y, Obstacle.Width, Obstacle.Height);
+/// Lets a shot hit the first of the targets that it touches, and returns whether it touches one. Destroy is
+/// called for a target that has left its list.
+template <typename Target>
+bool HitFirst(GameState &State, const Bullet &Shot, std::vector<Target> &Targets, const ExplosionLook &Look,
+    void (*Destroy)(GameState &State, const Target &Destroyed)) {
+    const auto target = std::ranges::find_if(Targets, [&Shot](const Target &Candidate) {
+        return Touches(Shot, Candidate);
     });
-    if (target == State.Obstacles.end()) {
+    if (target == Targets.end()) {
         return false;
     }
-    const bool destroyed = TakePoint(target->Hp);
     target->HitFlash = HitFlashSeconds;
-    AddBurst(State, Burst::ShotOnObstacle, Bullet.X, Bullet.Y);
-    if (destroyed) {
-        DestroyObstacle(State, target);
-    }
-    return true;
-}
-
-bool HitEnemy(GameState &State, const Bullet &Bullet) {
-    const auto target = std::ranges::find_if(State.Enemies, [&Bullet](const Enemy &Enemy) {
-        return CirclesTouch(Enemy.X, Enemy.Y, Enemy.Radius, Bullet.X, Bullet.Y, Bullet.Radius);
-    });
-    if (target == State.Enemies.end()) {
-        return false;
-    }
-    const bool destroyed = TakePoint(target->Hp);
-    target->HitFlash = HitFlashSeconds;
-    AddBurst(State, Burst::ShotOnEnemy, Bullet.X, Bullet.Y);
-    if (destroyed) {
-        DestroyEnemy(State, target);
+    AddExplosion(State, Shot.X, Shot.Y, Look);
+    if (TakeHit(target->Hp)) {
+        const Target destroyed = *target;
+        Targets.erase(target);
+        Destroy(State, destroyed);
     }
     return true;
 }
@@ -73,6 +57,7 @@ bool HitEnemy(GameState &State, const Bullet &Bullet) {
 
 void HitTargets(GameState &State) {
     RemoveUsedUp(State.Bullets, [&State](const Bullet &Shot) {
-        return HitObstacle(State, Shot) || HitEnemy(State, Shot);
+        return HitFirst(State, Shot, State.Obstacles, ShotOnObstacleLook, DestroyObstacle) ||
+               HitFirst(State, Shot, State.Enemies, ShotOnEnemyLook, DestroyEnemy);
     });
 }

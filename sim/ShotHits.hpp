@@ -2,6 +2,6 @@
 
 struct GameState;
 
-/// Lets the player's shots hit: each the first obstacle that it touches, otherwise the first enemy, and is
-/// used up.
+/// Lets each of the player's shots hit the first obstacle that it touches, or else the first enemy, and
+/// removes it if it has hit.
 void HitTargets(GameState &State);

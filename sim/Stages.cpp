@@ -12,30 +12,29 @@ namespace {
 
 struct StageRow {
     float TargetSpeed;
-    bool Water;
-    std::int32_t Theme;
+    StageTheme Theme;
 };
 
 constexpr std::array<StageRow, 9> StageTable{{
-    {FirstStageSpeed, false, 0},
-    {120.0F, true, 1},
-    {136.0F, true, 1},
-    {122.0F, false, 2},
-    {146.0F, false, 2},
-    {128.0F, false, 2},
-    {156.0F, false, 2},
-    {136.0F, false, 3},
-    {166.0F, false, 3},
+    {FirstStageSpeed, StageThemeEarth},
+    {120.0F, StageThemeWater},
+    {136.0F, StageThemeWater},
+    {122.0F, StageThemeDirt},
+    {146.0F, StageThemeDirt},
+    {128.0F, StageThemeDirt},
+    {156.0F, StageThemeDirt},
+    {136.0F, StageThemeGrass},
+    {166.0F, StageThemeGrass},
 }};
 
 const StageRow &RowOf(std::int32_t Stage) {
     return StageTable[static_cast<std::size_t>(std::max(Stage, 1) - 1) % StageTable.size()];
 }
 
-/// Every stage that is a multiple of five gives a spare life.
+/// Every stage that is a multiple of five gives a spare life. An old stage below 5 has given none.
 void AddSpareLives(GameState &State, std::int32_t NewStage, std::int32_t OldStage) {
     const std::int32_t extra = NewStage / 5 - std::max(OldStage, 0) / 5;
-    if (NewStage > 4 && extra > 0) {
+    if (extra > 0) {
         State.Player.Stocks = std::min(State.Player.Stocks + extra, MaxStocks);
     }
 }
@@ -47,10 +46,10 @@ float TargetScrollSpeed(std::int32_t Stage) {
 }
 
 bool IsWaterStage(std::int32_t Stage) {
-    return RowOf(Stage).Water;
+    return StageThemeOf(Stage) == StageThemeWater;
 }
 
-std::int32_t StageThemeOf(std::int32_t Stage) {
+StageTheme StageThemeOf(std::int32_t Stage) {
     return RowOf(Stage).Theme;
 }
 

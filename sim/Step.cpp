@@ -27,14 +27,14 @@ namespace {
 constexpr float SaveDelaySeconds = 0.8F;
 
 void ChangeStage(GameState &State) {
+    // Also downwards: a loaded run whose stage does not fit its time is corrected.
     const std::int32_t newStage = StageAt(State.GameTime);
-    // Also backwards: a loaded run whose stage does not fit its time is corrected.
     if (newStage != State.Stage) {
         StartStage(State, newStage);
     }
 }
 
-void KeepRun(GameState &State) {
+void UpdateHighScoreAndRequestSave(GameState &State) {
     State.HasRunState = true;
     State.HighScore = std::max(State.HighScore, State.Score);
     RequestSave(State, SaveDelaySeconds);
@@ -61,7 +61,8 @@ void SimulationStep(GameState &State, float DeltaSeconds, const StepInput &StepI
     MoveObstacles(State, dt);
     MoveEnemyBullets(State, dt);
     HitTargets(State);
-    MeetEnemies(State); // a life lost from here on does not leave the step
+    // From here on a life may be lost, the last one too; the step is run to its end all the same.
+    MeetEnemies(State);
     MeetEnemyBullets(State);
     MeetObstacles(State);
     MoveItems(State, dt);
@@ -69,5 +70,5 @@ void SimulationStep(GameState &State, float DeltaSeconds, const StepInput &StepI
     AgeExplosions(State, dt);
     RefillAmmo(State, dt);
     ChangeStage(State);
-    KeepRun(State);
+    UpdateHighScoreAndRequestSave(State);
 }

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 void CountDown(float &Timer, float dt) {
-    // In this order the comparison turns what is no number into 0 as well, should a timer ever hold that.
+    // With the arguments in this order NaN becomes 0 as well.
     Timer = std::max(0.0F, Timer - dt);
 }
 

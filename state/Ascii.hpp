@@ -5,6 +5,7 @@
 
 // Letters and blanks of ASCII, whatever the locale.
 
+/// A letter A to Z made small; any other byte as it is.
 constexpr char ToLowerAscii(char Character) {
     return Character >= 'A' && Character <= 'Z' ? static_cast<char>(Character - 'A' + 'a') : Character;
 }

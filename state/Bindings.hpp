@@ -23,7 +23,8 @@ enum class PadAction : std::int32_t {
     Back = 4,
 };
 
-/// Which table the Controls page opens on. It has no say in what the game listens to.
+/// Which table the Controls page shows.
+/// NOT-BUGS: DEVICE chooses what the page shows, not what the game listens to
 enum ControlsDevice : std::int32_t {
     ControlsDeviceKeyboard = 0,
     ControlsDeviceGamepad = 1,
@@ -54,10 +55,12 @@ constexpr std::int32_t BindingOf(const BindingTable &Table, PadAction Action) {
 /// The arrow keys left and right, left control, X, space bar (SDL scancodes).
 inline constexpr BindingTable DefaultKeyboardBindings{80, 79, 224, 27, 44};
 
-/// South, west, north, south, east (SDL gamepad buttons). Fire and confirm share a button on purpose.
+/// South, west, north, south, east (SDL gamepad buttons).
+/// NOT-BUGS: Fire and confirm share a button
 inline constexpr BindingTable DefaultGamepadBindings{0, 2, 3, 0, 1};
 
-/// Joystick button indices; fire and confirm share one on purpose.
+/// Joystick button indices.
+/// NOT-BUGS: Fire and confirm share a button
 inline constexpr BindingTable DefaultJoystickBindings{0, 1, 2, 0, 3};
 
 /// The values that an SDL scancode and an SDL gamepad button of a table may have.

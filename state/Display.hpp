@@ -1,24 +1,19 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
-#include <tuple>
 
 enum AspectMode : std::int32_t {
     AspectWidescreen = 0,
     AspectClassic4x3 = 1,
 };
 
-/// A size in physical pixels.
+/// A size in physical pixels, ordered by width, ties by height.
 struct Resolution {
     std::int32_t Width = 0;
     std::int32_t Height = 0;
 
-    bool operator==(const Resolution &) const = default;
-
-    /// By width, ties by height.
-    bool operator<(const Resolution &Other) const {
-        return std::tie(Width, Height) < std::tie(Other.Width, Other.Height);
-    }
+    auto operator<=>(const Resolution &) const = default;
 };
 
 /// What a display offers.

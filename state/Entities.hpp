@@ -2,14 +2,33 @@
 
 #include "state/Color.hpp"
 #include "state/Limits.hpp"
+#include "state/LogicalScreen.hpp"
 
 #include <cstdint>
 
 // The moving things of a run. Positions are centres in logical pixels, speeds logical pixels a second, times
-// seconds. Where a record has a Lane, the lane is the truth and X is derived from it.
+// seconds. Where a record has a Lane, that says where the thing is, and X follows from it.
+
+/// How long a thing flashes that was shot, in seconds.
+inline constexpr float HitFlashSeconds = 0.12F;
+
+// The values of both enumerations stand in saved runs.
+
+enum ObstacleType : std::int32_t {
+    ObstacleTypeBarrier = 0,
+    ObstacleTypeLog = 1,
+    ObstacleTypeRock = 2,
+};
+
+enum ItemType : std::int32_t {
+    ItemTypeFirstAid = 0,
+    ItemTypeBomb = 1,
+    ItemTypeInvincibility = 2,
+    ItemTypeDualWeapon = 3,
+};
 
 struct Player {
-    float X = 640.0F;
+    float X = static_cast<float>(DefaultLogicalWidth) / 2.0F;
     float Y = PlayerY;
     float Radius = PlayerRadius;
     std::int32_t Hp = StartHp;
@@ -46,10 +65,10 @@ struct Enemy {
     float Y = 0.0F;
     float Speed = 0.0F;
     float Radius = 8.0F;
-    float HitFlash = 0.0F;     ///< seconds of hit flash left
+    float HitFlash = 0.0F;     ///< seconds of hit flash left, from HitFlashSeconds down
     float AiTimer = 0.0F;      ///< seconds until the next lane decision
     float FireCooldown = 0.0F; ///< seconds until the next shot
-    std::int32_t Lane = 4;
+    std::int32_t Lane = MiddleLane;
     std::int32_t Hp = 1;
     std::int32_t Score = 200; ///< points before stage scaling
     struct Color Color;
@@ -63,11 +82,11 @@ struct Obstacle {
     float Speed = 120.0F;
     float Width = 40.0F;
     float Height = 14.0F;
-    float HitFlash = 0.0F;
-    std::int32_t Lane = 4;
+    float HitFlash = 0.0F; ///< seconds of hit flash left, from HitFlashSeconds down
+    std::int32_t Lane = MiddleLane;
     std::int32_t Hp = 2;
-    std::int32_t Score = 120; ///< points before stage scaling
-    std::int32_t Type = 0;    ///< 0 barrier, 1 log, 2 rock
+    std::int32_t Score = 120;                ///< points before stage scaling
+    std::int32_t Type = ObstacleTypeBarrier; ///< an ObstacleType
 
     bool operator==(const Obstacle &) const = default;
 };
@@ -77,19 +96,19 @@ struct Item {
     float Y = 0.0F;
     float Speed = 90.0F;
     float Radius = 10.0F;
-    std::int32_t Lane = 4;
-    std::int32_t Type = 0; ///< 0 first aid kit, 1 bomb, 2 invincibility, 3 dual weapon
+    std::int32_t Lane = MiddleLane;
+    std::int32_t Type = ItemTypeFirstAid; ///< an ItemType
 
     bool operator==(const Item &) const = default;
 };
 
-/// A burst, for the eye only.
+/// A disc that grows and fades: an effect that is only seen. It ends when Age reaches Life.
 struct Explosion {
     float X = 0.0F;
     float Y = 0.0F;
     float Age = 0.0F;
     float Life = 0.0F;
-    float MaxRadius = 0.0F;
+    float MaxRadius = 0.0F; ///< at the end of its life
     struct Color Color;
 
     bool operator==(const Explosion &) const = default;

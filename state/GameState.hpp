@@ -5,6 +5,7 @@
 #include "state/Entities.hpp"
 #include "state/Limits.hpp"
 #include "state/OptionsPage.hpp"
+#include "state/Resolutions.hpp"
 #include "state/Screen.hpp"
 #include "state/Sounds.hpp"
 
@@ -21,9 +22,9 @@ struct GameState {
     bool Running = true; ///< false ends the main loop
     std::uint32_t MainMenuSelection = 0;
     std::int32_t PauseSelection = 0;
-    enum Screen OptionsReturnScreen = ScreenMainMenu;
-    enum Screen HelpReturnScreen = ScreenMainMenu;
-    float CreditsScroll = 0.0F;
+    enum Screen OptionsReturnScreen = ScreenMainMenu; ///< where BACK of the options leads
+    enum Screen HelpReturnScreen = ScreenMainMenu;    ///< where leaving help leads
+    float CreditsScroll = 0.0F;                       ///< how far the credits have moved up
 
     // The run.
     std::int64_t Score = 0;
@@ -37,35 +38,36 @@ struct GameState {
     float CurrentScrollSpeed = FirstStageSpeed;  ///< pixels a second, smoothed
     float StageTransition = 1.0F;                ///< share of the screen scrolled since the last stage change
     float SpawnTimer = 0.0F; ///< until the next enemy, in seconds scaled by the road speed
-    float ObstacleSpawnTimer = FirstObstacleSeconds;
-    float ItemSpawnTimer = FirstItemSeconds;
-    float ReadyBanner = 0.0F;
-    float InvulnerabilityTimer = 0.0F;             ///< no damage while above 0
-    float LaneMoveCooldown = 0.0F;                 ///< no lane change while above 0
-    float AmmoRegenPause = 0.0F;                   ///< no refill while above 0
-    float AmmoMeter = MaxAmmo;                     ///< 0 to 100
-    std::int32_t Bombs = StartBombs;               ///< 0 to 3
-    std::int32_t FirstAidKits = StartFirstAidKits; ///< 0 to 3
-    std::int32_t PlayerLane = 4;                   ///< 0 to 8 from the left
-    bool SpecialActive = false;                    ///< a bomb's flash is running
-    float SpecialTimer = 0.0F;
-    float InvincibilityPowerTimer = 0.0F;
-    float DualWeaponPowerTimer = 0.0F;
-    bool PlayerDying = false; ///< the last life is lost and the death animation runs
-    float DeathTimer = 0.0F;
-    bool HasRunState = false;   ///< a run exists that can be continued and is saved
-    bool SaveRequested = false; ///< the debounced save is armed
+    float ObstacleSpawnTimer = FirstObstacleSeconds; ///< the same until the next obstacle
+    float ItemSpawnTimer = FirstItemSeconds;         ///< and until the next item
+    float ReadyBanner = 0.0F;                        ///< READY is shown while above 0
+    float InvulnerabilityTimer = 0.0F;               ///< no damage while above 0
+    float LaneMoveCooldown = 0.0F;                   ///< no lane change while above 0
+    float AmmoRegenPause = 0.0F;                     ///< no refill while above 0
+    float AmmoMeter = MaxAmmo;                       ///< 0 to 100
+    std::int32_t Bombs = StartBombs;                 ///< 0 to 3
+    std::int32_t FirstAidKits = StartFirstAidKits;   ///< 0 to 3
+    std::int32_t PlayerLane = MiddleLane;            ///< 0 to 8 from the left
+    bool SpecialActive = false;                      ///< a bomb's flash is running
+    float SpecialTimer = 0.0F;                       ///< what is left of the flash
+    float InvincibilityPowerTimer = 0.0F;            ///< the power-up is in force while above 0
+    float DualWeaponPowerTimer = 0.0F;               ///< the same
+    bool PlayerDying = false;                        ///< the last life is lost and the death animation runs
+    float DeathTimer = 0.0F;                         ///< what is left of that
+    bool HasRunState = false;                        ///< a run exists that can be continued and is saved
+    bool SaveRequested = false;                      ///< a save is written when SaveDelay has run out
     float SaveDelay = 0.0F;
     struct Player Player;
 
     // The applied options.
     enum AspectMode AspectMode = AspectWidescreen;
-    std::int32_t ResolutionIndex = 3;
+    /// Into Resolutions, or into the built-in table of AspectMode while that list is empty.
+    std::int32_t ResolutionIndex = DefaultResolutionIndex(AspectWidescreen);
     std::int32_t RefreshRate = 0; ///< Hz; 0 is automatic
     bool Fullscreen = true;
     bool VSync = true;
-    bool VSyncActive = false; ///< what the renderer reported at the last apply
-    std::int32_t MasterVolume = DefaultMasterVolume;
+    bool VSyncActive = false;                        ///< what the renderer reported at the last apply
+    std::int32_t MasterVolume = DefaultMasterVolume; ///< percent, like the two below
     std::int32_t MusicVolume = DefaultMusicVolume;
     std::int32_t SfxVolume = DefaultSfxVolume;
     bool MusicEnabled = true;

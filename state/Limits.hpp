@@ -2,8 +2,15 @@
 
 #include <cstdint>
 
-// What a run starts with, what a player can hold, and where things enter and leave the road (y in logical
-// pixels).
+// The lanes of the road, what a run starts with, and the most that a player can hold.
+
+/// Lanes are numbered 0 to 8 from the left. The player starts in the middle one, also after a lost life.
+inline constexpr std::int32_t LaneCount = 9;
+inline constexpr std::int32_t MiddleLane = LaneCount / 2;
+
+/// Where the player's car is and how large its circle, in logical pixels.
+inline constexpr float PlayerY = 670.0F;
+inline constexpr float PlayerRadius = 12.0F;
 
 inline constexpr std::int32_t StartHp = 100;
 inline constexpr std::int32_t StartStocks = 2;
@@ -17,22 +24,6 @@ inline constexpr float MaxAmmo = 100.0F;
 /// Road speed in the first stage, in logical pixels a second; the scale of all speeds is 1 there.
 inline constexpr float FirstStageSpeed = 120.0F;
 
-/// Until the first obstacle of a run, scaled by the road speed.
+/// Until the first obstacle and the first item of a run, in seconds scaled by the road speed.
 inline constexpr float FirstObstacleSeconds = 2.8F;
 inline constexpr float FirstItemSeconds = 6.0F;
-
-inline constexpr float PlayerY = 670.0F;
-inline constexpr float PlayerRadius = 12.0F;
-
-/// How long a thing that was shot flashes; it is drawn strongest at that much or more.
-inline constexpr float HitFlashSeconds = 0.12F;
-
-inline constexpr float EnemySpawnY = -20.0F;
-inline constexpr float ObstacleSpawnY = -24.0F;
-inline constexpr float ItemSpawnY = -18.0F;
-// What is exactly at the line where it leaves stays.
-inline constexpr float BulletLeaveY = -20.0F;
-inline constexpr float EnemyBulletLeaveY = 740.0F;
-inline constexpr float ItemLeaveY = 744.0F;
-inline constexpr float EnemyLeaveY = 745.0F;
-inline constexpr float ObstacleLeaveY = 748.0F;

@@ -35,7 +35,8 @@ constexpr bool IsKeyRight(std::int32_t Scancode) {
     return Scancode == ScancodeRight || Scancode == ScancodeD;
 }
 
-/// The keys that leave a page of text: the space bar is none of them.
+/// The keys besides Escape that leave help and credits.
+/// NOT-BUGS: The space bar does not leave help and credits
 constexpr bool IsKeyEnter(std::int32_t Scancode) {
     return Scancode == ScancodeReturn || Scancode == ScancodeKeypadEnter;
 }

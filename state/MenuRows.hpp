@@ -1,6 +1,10 @@
 #pragma once
 
+#include "state/Bindings.hpp"
+
 #include <cstdint>
+#include <tuple>
+#include <type_traits>
 
 // The rows of the menus, in the order in which they stand.
 
@@ -11,14 +15,14 @@ enum class PauseRow : std::int32_t { Resume, Options, Help, MainMenu };
 
 enum class OptionsMainRow : std::int32_t { Controls, Graphics, Audio, Back };
 
-/// Five rows of the binding table that is shown stand between the device and the rest.
+/// The rows of the binding table that is shown stand between the device and the rest.
 enum class ControlsRow : std::int32_t {
-    Device = 0,
-    FirstBinding = 1,
-    DefaultSettings = 6,
-    Apply = 7,
-    Revert = 8,
-    Back = 9,
+    Device,
+    FirstBinding,
+    DefaultSettings = FirstBinding + static_cast<std::int32_t>(std::tuple_size_v<BindingTable>),
+    Apply,
+    Revert,
+    Back,
 };
 
 enum class GraphicsRow : std::int32_t {
@@ -46,14 +50,19 @@ enum class AudioRow : std::int32_t {
     Back,
 };
 
-inline constexpr std::int32_t PauseRowCount = 4;
-inline constexpr std::int32_t OptionsMainRowCount = 4;
-inline constexpr std::int32_t ControlsRowCount = 10;
-inline constexpr std::int32_t GraphicsRowCount = 9;
-inline constexpr std::int32_t AudioRowCount = 10;
+/// How many rows a menu has, given its last one.
+template <typename Row> constexpr std::int32_t RowCountUpTo(Row Last) {
+    return static_cast<std::int32_t>(Last) + 1;
+}
+
+inline constexpr std::int32_t PauseRowCount = RowCountUpTo(PauseRow::MainMenu);
+inline constexpr std::int32_t OptionsMainRowCount = RowCountUpTo(OptionsMainRow::Back);
+inline constexpr std::int32_t ControlsRowCount = RowCountUpTo(ControlsRow::Back);
+inline constexpr std::int32_t GraphicsRowCount = RowCountUpTo(GraphicsRow::Back);
+inline constexpr std::int32_t AudioRowCount = RowCountUpTo(AudioRow::Back);
 
 constexpr std::uint32_t MainMenuRowCount(bool HasRunState) {
-    return HasRunState ? 6 : 5;
+    return static_cast<std::uint32_t>(MainMenuRow::Quit) + (HasRunState ? 1 : 0);
 }
 
 /// What stands in a row of the main menu; Index is below MainMenuRowCount.
@@ -61,16 +70,16 @@ constexpr MainMenuRow MainMenuRowAt(std::uint32_t Index, bool HasRunState) {
     return static_cast<MainMenuRow>(HasRunState ? Index : Index + 1);
 }
 
-/// The row above and the row below one of Count rows; both go round the ends.
+/// The place before (Direction -1) or behind (1) one of Count places, 0 to Count - 1; it goes round the ends.
+template <typename Index>
+constexpr Index StepRound(std::type_identity_t<Index> Place, std::int32_t Direction, Index Count) {
+    return (Place + Count + static_cast<Index>(Direction)) % Count;
+}
+
 template <typename Index> constexpr Index RowAbove(Index Selection, Index Count) {
-    return (Selection + Count - 1) % Count;
+    return StepRound(Selection, -1, Count);
 }
 
 template <typename Index> constexpr Index RowBelow(Index Selection, Index Count) {
-    return (Selection + 1) % Count;
-}
-
-/// The place before (Direction -1) or behind (1) one of Count places, round the ends.
-constexpr std::int32_t StepRound(std::int32_t Place, std::int32_t Direction, std::int32_t Count) {
-    return (Place + Direction + Count) % Count;
+    return StepRound(Selection, 1, Count);
 }

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-// From float to whole number without undefined behaviour: what lies outside the 32 bits is brought to their
-// nearest end, and what is no number becomes 0. A damaged file may hold any float.
+// From float to whole number without undefined behaviour: what lies outside the 32 bits becomes the nearest
+// number that they can hold, and NaN becomes 0. A damaged file may hold a float of any size.
 
 /// Towards zero.
 std::int32_t TruncateToInt(float Value);
@@ -11,6 +11,6 @@ std::int32_t TruncateToInt(float Value);
 /// To the nearest, half away from zero.
 std::int32_t RoundToInt(float Value);
 
-/// The remainder of the floored value, brought into 0 to Size - 1; Size is at least 1. The float remainder is
-/// exact, so no value is too large for it.
+/// The floored value modulo Size, 0 to Size - 1; Size is at least 1. Exact for values of any size, because it
+/// is taken in floating point.
 std::int32_t FloorModulo(float Value, std::int32_t Size);

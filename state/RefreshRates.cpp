@@ -4,9 +4,11 @@
 #include "state/Lists.hpp"
 #include "state/Resolutions.hpp"
 
+#include <algorithm>
+
 void RebuildRefreshRates(GameState &State) {
     const std::int32_t wanted = std::max(State.RefreshRate, 0);
-    State.RefreshRates.assign(1, 0);
+    State.RefreshRates = {0};
     if (State.Fullscreen) {
         const Resolution current = CurrentResolution(State);
         for (const DisplayMode &mode : State.DisplayModes) {
@@ -14,7 +16,7 @@ void RebuildRefreshRates(GameState &State) {
                 AppendNew(State.RefreshRates, mode.Hz);
             }
         }
-        std::sort(State.RefreshRates.begin() + 1, State.RefreshRates.end());
+        std::ranges::sort(State.RefreshRates); // 0 stays in front
     }
     State.RefreshRate = Contains(State.RefreshRates, wanted) ? wanted : 0;
 }

@@ -2,6 +2,6 @@
 
 struct GameState;
 
-/// Refills RefreshRates with automatic (0) and, in fullscreen, the rates that the display offers at the
-/// current resolution. A chosen rate that is not among them becomes automatic.
+/// Refills RefreshRates with 0, which stands for automatic, and behind it in fullscreen the rates in Hz that
+/// DisplayModes has for the current resolution, ascending. A RefreshRate that is not among them becomes 0.
 void RebuildRefreshRates(GameState &State);

@@ -43,10 +43,8 @@ constexpr std::array<Resolution, 21> BuiltInResolutionsWide{{
     {5120, 1440},
 }};
 
-/// 32-bit multiplication that wraps: no display is large enough to get there, and then any answer will do.
-std::int32_t WrappingProduct(std::int32_t A, std::int32_t B) {
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(A) * static_cast<std::uint32_t>(B));
-}
+static_assert(BuiltInResolutions4x3[DefaultResolutionIndex(AspectClassic4x3)] == Resolution{960, 720});
+static_assert(BuiltInResolutionsWide[DefaultResolutionIndex(AspectWidescreen)] == Resolution{1280, 720});
 
 std::int32_t LogicalWidthFor(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height) {
     if (AspectMode == AspectClassic4x3) {
@@ -64,7 +62,7 @@ std::int32_t LogicalWidthFor(enum AspectMode AspectMode, std::int32_t Width, std
     if (RatioMatches(Width, Height, 16, 10)) {
         return 1152;
     }
-    return 1280;
+    return DefaultLogicalWidth;
 }
 
 std::int32_t ClampToList(std::int32_t Index, std::span<const Resolution> List) {
@@ -78,11 +76,11 @@ bool RatioMatches(
     if (Width <= 0 || Height <= 0) {
         return false;
     }
-    const std::int32_t a = WrappingProduct(Width, RatioHeight);
-    const std::int32_t b = WrappingProduct(RatioWidth, Height);
-    const std::int32_t larger = std::max(a, b);
-    const std::int32_t tolerance = larger < 400 ? 1 : larger / 200;
-    return std::abs(std::int64_t{a} - std::int64_t{b}) <= tolerance;
+    const std::int64_t a = std::int64_t{Width} * RatioHeight;
+    const std::int64_t b = std::int64_t{RatioWidth} * Height;
+    const std::int64_t larger = std::max(a, b);
+    const std::int64_t tolerance = larger < 400 ? 1 : larger / 200;
+    return std::abs(a - b) <= tolerance;
 }
 
 bool IsUltrawide(std::int32_t Width, std::int32_t Height) {

@@ -17,16 +17,20 @@ bool IsUltrawide(std::int32_t Width, std::int32_t Height);
 /// Whether the Graphics page offers this size in this aspect mode.
 bool ResolutionAllowed(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height);
 
-/// Sets LogicalWidth by the shape of a resolution in physical pixels.
+/// Sets the global LogicalWidth, rather than return a value, by the aspect mode and the shape of a resolution
+/// in physical pixels.
 void ComputeLogicalWidth(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height);
 
 /// The sizes offered where no size of a display fits the aspect mode, smallest first.
 std::span<const Resolution> BuiltInResolutions(enum AspectMode AspectMode);
 
-/// Where the built-in table of widescreen has 1280 by 720.
-inline constexpr std::int32_t DefaultResolutionIndex = 3;
+/// Where the built-in table of an aspect mode has its size of height 720.
+constexpr std::int32_t DefaultResolutionIndex(enum AspectMode AspectMode) {
+    return AspectMode == AspectClassic4x3 ? 2 : 3;
+}
 
-/// The list that is in force: the display's own, or the built-in table while that one is empty.
+/// The list that is in force: State.Resolutions, or the built-in table while that is empty; never empty.
+/// Valid until State.Resolutions changes.
 std::span<const Resolution> ResolutionsInForce(const GameState &State);
 
 /// The resolution at ResolutionIndex, the index clamped to the list that is in force; the field stays as it

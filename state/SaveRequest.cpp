@@ -9,8 +9,8 @@ void RequestSave(GameState &State, float DelaySeconds) {
     if (DelaySeconds <= 0.0F) {
         State.SaveDelay = 0.0F;
     } else if (State.SaveDelay <= 0.0F) {
-        // Meant: this also overtakes a zero mark that no save has met yet, so a new run is written with its
-        // first delayed mark and not at once.
+        // A request for 0 that no save has met yet leaves a delay of 0 as well.
+        // NOT-BUGS: NEW GAME is not saved at once
         State.SaveDelay = DelaySeconds;
     } else {
         State.SaveDelay = std::min(State.SaveDelay, DelaySeconds);

@@ -2,6 +2,6 @@
 
 struct GameState;
 
-/// Arms the debounced save. DelaySeconds at or below 0 makes it due at once; a positive delay only shortens
-/// one that is running. A zero mark counts as no delay running: a positive mark that follows it replaces it.
+/// Asks for the run to be saved after DelaySeconds, or at once where that is 0 or less. While a delay runs, a
+/// new one can only shorten it. A request for 0 that is not yet written is replaced by a later positive one.
 void RequestSave(GameState &State, float DelaySeconds);

@@ -27,7 +27,7 @@ enum class SfxId : std::uint8_t {
     Item = 10,
 };
 
-/// The sounds asked for in this frame, in order.
+/// The sounds asked for in this frame, in order: the first Count of Ids.
 struct SoundQueue {
     static constexpr std::size_t Capacity = 64;
 
@@ -37,5 +37,5 @@ struct SoundQueue {
     bool operator==(const SoundQueue &) const = default;
 };
 
-/// Asks for a sound in this frame. A 65th request of a frame is dropped without a word.
+/// Asks for a sound in this frame. A 65th request of a frame is dropped silently.
 void PushSound(GameState &State, SfxId Id);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sim/Lanes.hpp"
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 #include "state/LogicalScreen.hpp"
 
 #include <array>
@@ -109,7 +109,7 @@ inline constexpr std::array<SaveField<Obstacle>, 10> ObstacleFields{{
     {"Lane", &Obstacle::Lane, 0, LaneCount - 1},
     {"Hp", &Obstacle::Hp},
     {"Score", &Obstacle::Score},
-    {"Type", &Obstacle::Type, 0, 2},
+    {"Type", &Obstacle::Type, ObstacleTypeBarrier, ObstacleTypeRock},
 }};
 
 inline constexpr std::array<SaveField<Item>, 6> ItemFields{{
@@ -118,7 +118,7 @@ inline constexpr std::array<SaveField<Item>, 6> ItemFields{{
     {"Speed", &Item::Speed},
     {"Radius", &Item::Radius},
     {"Lane", &Item::Lane, 0, LaneCount - 1},
-    {"Type", &Item::Type, 0, 3},
+    {"Type", &Item::Type, ItemTypeFirstAid, ItemTypeDualWeapon},
 }};
 
 inline constexpr std::array<SaveField<Explosion>, 6> ExplosionFields{{

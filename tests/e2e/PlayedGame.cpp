@@ -24,7 +24,7 @@ PlayedGame::PlayedGame(ScreenSize Screen, const Environment &Settings, const Pre
 }
 
 bool PlayedGame::StartRun() {
-    return Tap(Key::Return, CarInLane(LaneCount / 2)).has_value();
+    return Tap(Key::Return, CarInLane(RoadLanes / 2)).has_value();
 }
 
 void PlayedGame::SteerTowards(const Screenshot &Seen, std::optional<int> Lane) {

@@ -31,7 +31,7 @@ TEST(Bomb, OnAnEmptyRoadIsOnlyABlastAtThePlayer) {
     EXPECT_EQ(state.Score, 0);
 }
 
-TEST(Bomb, TakesEnemiesThenObstaclesEachWithItsBurst) {
+TEST(Bomb, TakesEnemiesThenObstaclesEachWithItsExplosion) {
     GameState state = QuietRun();
     state.Obstacles = {ObstacleAt(100.0F, 200.0F)};
     state.Enemies = {EnemyAt(300.0F, 400.0F), EnemyAt(500.0F, 50.0F)};

@@ -36,7 +36,7 @@ float DangerAt(const GameState &State, std::int32_t Lane) {
     for (const Item &item : State.Items) {
         danger -= DangerOf(State.Player, x, item.X, item.Y, item.Radius) * 0.2F;
     }
-    return danger + 0.5F * static_cast<float>(std::abs(Lane - PlayerStartLane));
+    return danger + 0.5F * static_cast<float>(std::abs(Lane - MiddleLane));
 }
 
 /// -1, 0 or +1: the way to the least dangerous of the lanes nearby.

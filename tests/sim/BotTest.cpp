@@ -113,8 +113,8 @@ std::string BrokenList(const GameState &State) {
                                  Item.Type >= 0 && Item.Type <= 3;
                       })},
         {"Explosions", std::ranges::all_of(State.Explosions,
-                           [](const Explosion &Burst) {
-                               return Burst.Age >= 0.0F && Burst.Age < Burst.Life;
+                           [](const Explosion &Explosion) {
+                               return Explosion.Age >= 0.0F && Explosion.Age < Explosion.Life;
                            })},
         {"PendingSounds", State.PendingSounds.Count <= SoundQueue::Capacity},
     });

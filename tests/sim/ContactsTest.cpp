@@ -13,7 +13,7 @@ const Color EnemyShotColor{0xFF, 0xA5, 0x5F, 0xD7};
 const Color CrashColor{0xE6, 0xBE, 0x78, 0xDC};
 const Color DamageColor{0xFF, 0xAA, 0x6E, 0xE6};
 
-const Explosion HurtBurst = NewBurst(640.0F, 670.0F, 0.5F, 22.0F, DamageColor);
+const Explosion HurtExplosion = NewExplosion(640.0F, 670.0F, 0.5F, 22.0F, DamageColor);
 
 /// The player's points after a crash into an obstacle of a type.
 std::int32_t HpAfterCrash(std::int32_t Type) {
@@ -35,7 +35,7 @@ TEST(Ram, AnEnemyThatTouchesThePlayerIsUsedUpAndHurts) {
     EXPECT_EQ(state.Player.Hp, 66);
     EXPECT_EQ(state.Score, 0);
     EXPECT_EQ(state.Explosions,
-        (std::vector<Explosion>{NewBurst(640.0F, 650.0F, 0.35F, 21.0F, RamColor), HurtBurst}));
+        (std::vector<Explosion>{NewExplosion(640.0F, 650.0F, 0.35F, 21.0F, RamColor), HurtExplosion}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::PlayerHit});
 }
 
@@ -63,12 +63,12 @@ TEST(Ram, OfTwoInAFrameTheSecondIsUsedUpAndDealsNothing) {
     EXPECT_TRUE(state.Enemies.empty());
     EXPECT_EQ(state.Player.Hp, 66);
     EXPECT_EQ(state.InvulnerabilityTimer, 1.0F);
-    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 660.0F, 0.35F, 21.0F, RamColor),
-                                    HurtBurst, NewBurst(640.0F, 680.0F, 0.35F, 21.0F, RamColor)}));
+    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewExplosion(640.0F, 660.0F, 0.35F, 21.0F, RamColor),
+                                    HurtExplosion, NewExplosion(640.0F, 680.0F, 0.35F, 21.0F, RamColor)}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::PlayerHit});
 }
 
-TEST(Ram, WhileInvulnerableTheEnemyIsUsedUpWithItsBurstAndNoSound) {
+TEST(Ram, WhileInvulnerableTheEnemyIsUsedUpWithItsExplosionAndNoSound) {
     GameState state = QuietRun();
     state.InvulnerabilityTimer = 0.5F;
     state.Enemies.push_back(EnemyInLane(4, 660.0F));
@@ -76,7 +76,8 @@ TEST(Ram, WhileInvulnerableTheEnemyIsUsedUpWithItsBurstAndNoSound) {
     EXPECT_TRUE(state.Enemies.empty());
     EXPECT_EQ(state.Player.Hp, 100);
     EXPECT_EQ(state.InvulnerabilityTimer, 0.5F);
-    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 660.0F, 0.35F, 21.0F, RamColor)}));
+    EXPECT_EQ(
+        state.Explosions, (std::vector<Explosion>{NewExplosion(640.0F, 660.0F, 0.35F, 21.0F, RamColor)}));
     EXPECT_EQ(state.PendingSounds.Count, 0U);
 }
 
@@ -119,7 +120,7 @@ TEST(EnemyShots, HurtByTheirOwnDamageAndAreUsedUp) {
     EXPECT_TRUE(state.EnemyBullets.empty());
     EXPECT_EQ(state.Player.Hp, 88);
     EXPECT_EQ(state.Explosions,
-        (std::vector<Explosion>{NewBurst(640.0F, 656.0F, 0.22F, 12.0F, EnemyShotColor), HurtBurst}));
+        (std::vector<Explosion>{NewExplosion(640.0F, 656.0F, 0.22F, 12.0F, EnemyShotColor), HurtExplosion}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::PlayerHit});
 }
 
@@ -140,15 +141,15 @@ TEST(EnemyShots, OfBothOfAHeavyEnemyOnlyTheFirstHurts) {
     EXPECT_EQ(state.Explosions.size(), 3U);
 }
 
-TEST(EnemyShots, WhileInvincibleAreUsedUpWithTheirBurst) {
+TEST(EnemyShots, WhileInvincibleAreUsedUpWithTheirExplosion) {
     GameState state = QuietRun();
     state.InvincibilityPowerTimer = 0.5F;
     state.EnemyBullets.push_back(EnemyBulletAt(640.0F, 670.0F));
     MeetEnemyBullets(state);
     EXPECT_TRUE(state.EnemyBullets.empty());
     EXPECT_EQ(state.Player.Hp, 100);
-    EXPECT_EQ(
-        state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 670.0F, 0.22F, 12.0F, EnemyShotColor)}));
+    EXPECT_EQ(state.Explosions,
+        (std::vector<Explosion>{NewExplosion(640.0F, 670.0F, 0.22F, 12.0F, EnemyShotColor)}));
 }
 
 TEST(EnemyShots, LeaveBelowTheScreen) {
@@ -182,7 +183,7 @@ TEST(Crash, AnObstacleThatTouchesThePlayerIsUsedUpAndHurts) {
     EXPECT_EQ(state.Player.Hp, 76);
     EXPECT_EQ(state.Score, 0);
     EXPECT_EQ(state.Explosions,
-        (std::vector<Explosion>{NewBurst(640.0F, 651.0F, 0.4F, 20.0F, CrashColor), HurtBurst}));
+        (std::vector<Explosion>{NewExplosion(640.0F, 651.0F, 0.4F, 20.0F, CrashColor), HurtExplosion}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::PlayerHit});
 }
 
@@ -214,14 +215,15 @@ TEST(Crash, AnUnknownTypeCountsAsTheMiddleOne) {
     EXPECT_EQ(HpAfterCrash(2147483647), 82);
 }
 
-TEST(Crash, WhileInvincibleTheObstacleIsUsedUpWithItsBurst) {
+TEST(Crash, WhileInvincibleTheObstacleIsUsedUpWithItsExplosion) {
     GameState state = QuietRun();
     state.InvincibilityPowerTimer = 0.5F;
     state.Obstacles.push_back(ObstacleInLane(4, 670.0F));
     MeetObstacles(state);
     EXPECT_TRUE(state.Obstacles.empty());
     EXPECT_EQ(state.Player.Hp, 100);
-    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(640.0F, 670.0F, 0.4F, 20.0F, CrashColor)}));
+    EXPECT_EQ(
+        state.Explosions, (std::vector<Explosion>{NewExplosion(640.0F, 670.0F, 0.4F, 20.0F, CrashColor)}));
     EXPECT_EQ(state.PendingSounds.Count, 0U);
 }
 

@@ -37,7 +37,8 @@ TEST(Damage, TakesPointsAndMakesInvulnerableForASecond) {
     DamagePlayer(state, 24);
     EXPECT_EQ(state.Player.Hp, 76);
     EXPECT_EQ(state.InvulnerabilityTimer, 1.0F);
-    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(738.0F, 670.0F, 0.5F, 22.0F, DamageColor)}));
+    EXPECT_EQ(
+        state.Explosions, (std::vector<Explosion>{NewExplosion(738.0F, 670.0F, 0.5F, 22.0F, DamageColor)}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::PlayerHit});
     EXPECT_EQ(state.Player.Stocks, 2);
     EXPECT_EQ(state.PlayerLane, 7);
@@ -103,8 +104,9 @@ TEST(Damage, ALostLifePutsThePlayerBackInTheMiddleWithFullHealth) {
     EXPECT_EQ(state.InvulnerabilityTimer, 2.0F);
     EXPECT_EQ(state.LaneMoveCooldown, 0.0F);
     EXPECT_FALSE(state.PlayerDying);
-    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(738.0F, 600.0F, 0.5F, 22.0F, DamageColor),
-                                    NewBurst(640.0F, 670.0F, 0.8F, 35.0F, RespawnColor)}));
+    EXPECT_EQ(
+        state.Explosions, (std::vector<Explosion>{NewExplosion(738.0F, 600.0F, 0.5F, 22.0F, DamageColor),
+                              NewExplosion(640.0F, 670.0F, 0.8F, 35.0F, RespawnColor)}));
     EXPECT_EQ(SoundsOf(state), (Sounds{SfxId::PlayerHit, SfxId::PlayerDeath}));
 }
 
@@ -156,9 +158,10 @@ TEST(Damage, WithoutASpareLifeTheRunBeginsToEnd) {
     EXPECT_EQ(state.Enemies.size(), 1U);
     EXPECT_EQ(state.Obstacles.size(), 1U);
     EXPECT_EQ(state.Items.size(), 1U);
-    EXPECT_EQ(state.Explosions, (std::vector<Explosion>{NewBurst(738.0F, 670.0F, 0.5F, 22.0F, DamageColor),
-                                    NewBurst(738.0F, 670.0F, 0.65F, 64.0F, DyingFirstColor),
-                                    NewBurst(738.0F, 670.0F, 0.85F, 44.0F, DyingSecondColor)}));
+    EXPECT_EQ(
+        state.Explosions, (std::vector<Explosion>{NewExplosion(738.0F, 670.0F, 0.5F, 22.0F, DamageColor),
+                              NewExplosion(738.0F, 670.0F, 0.65F, 64.0F, DyingFirstColor),
+                              NewExplosion(738.0F, 670.0F, 0.85F, 44.0F, DyingSecondColor)}));
     EXPECT_EQ(SoundsOf(state), (Sounds{SfxId::PlayerHit, SfxId::PlayerDeath}));
     EXPECT_EQ(state.Screen, ScreenPlaying);
     EXPECT_TRUE(state.HasRunState);

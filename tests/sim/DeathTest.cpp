@@ -64,7 +64,7 @@ void ExpectTheWorldStoodStill(const GameState &State, const GameState &Before) {
 
 } // namespace
 
-TEST(Death, OnlyTheBurstMovesWhileItRuns) {
+TEST(Death, OnlyTheExplosionMovesWhileItRuns) {
     GameState state = DyingRun();
     const GameState before = state;
     SimulationStep(state, 0.25F, HeldEverything);
@@ -84,7 +84,7 @@ TEST(Death, GoesOnWhileTimeIsLeft) {
     EXPECT_FALSE(state.SaveRequested);
 }
 
-TEST(Death, DropsBurstsThatHaveLivedTheirLife) {
+TEST(Death, DropsExplosionsThatHaveLivedTheirLife) {
     GameState state = DyingRun();
     state.Explosions = {{1.0F, 0.0F, 0.25F, 0.5F, 20.0F, {}}, {2.0F, 0.0F, 0.0F, 0.5F, 20.0F, {}}};
     SimulationStep(state, 0.25F, HeldNothing);

@@ -57,7 +57,7 @@ TEST(Lanes, CentresAreWholePixelsAtEveryLogicalWidth) {
 
 TEST(Lanes, ThereAreNineAndThePlayerStartsInTheMiddle) {
     EXPECT_EQ(LaneCount, 9);
-    EXPECT_EQ(PlayerStartLane, 4);
+    EXPECT_EQ(MiddleLane, 4);
     EXPECT_EQ(RoadWidth, 320.0F);
 }
 
@@ -113,7 +113,7 @@ TEST(SnapToLanes, LeavesEveryHeightAsItIs) {
     EXPECT_EQ(state.Items[0].Y, 300.0F);
 }
 
-TEST(SnapToLanes, LeavesShotsAndBurstsAlone) {
+TEST(SnapToLanes, LeavesShotsAndExplosionsAlone) {
     GameState state = RunWithOneOfEach();
     const GameState before = state;
     const LogicalWidthScope scope(960);

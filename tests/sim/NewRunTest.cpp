@@ -1,5 +1,6 @@
 #include "sim/NewRun.hpp"
 
+#include "sim/RoadLines.hpp"
 #include "sim/Step.hpp"
 #include "state/GameState.hpp"
 #include "state/Limits.hpp"

@@ -71,6 +71,13 @@ TEST(AddScore, AddsToTheScoreAlone) {
     EXPECT_EQ(state.Score, 312);
 }
 
+TEST(AddScore, PaysByTheStageOfTheRun) {
+    GameState state;
+    state.Stage = 2;
+    AddScore(state, 200);
+    EXPECT_EQ(state.Score, 212);
+}
+
 TEST(AddScore, StopsAtTheLargestNumber) {
     GameState state;
     state.Score = MostPoints - 10;

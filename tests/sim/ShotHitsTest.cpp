@@ -42,7 +42,7 @@ TEST(ShotsOnObstacles, TakeOnePointAndLetItFlash) {
     EXPECT_EQ(state.Obstacles[0].HitFlash, 0.12F);
     EXPECT_TRUE(state.Bullets.empty());
     EXPECT_EQ(state.Explosions,
-        (std::vector<Explosion>{NewBurst(645.0F, 105.0F, 0.2F, 10.0F, ShotOnObstacleColor)}));
+        (std::vector<Explosion>{NewExplosion(645.0F, 105.0F, 0.2F, 10.0F, ShotOnObstacleColor)}));
     EXPECT_EQ(state.Score, 0);
     EXPECT_EQ(state.PendingSounds.Count, 0U);
 }
@@ -58,9 +58,9 @@ TEST(ShotsOnObstacles, TheLastPointPaysByTheStageAndDrawsNothing) {
     EXPECT_TRUE(state.Obstacles.empty());
     EXPECT_TRUE(state.Bullets.empty());
     EXPECT_EQ(state.Score, 159); // 150 x 1.06
-    EXPECT_EQ(
-        state.Explosions, (std::vector<Explosion>{NewBurst(645.0F, 105.0F, 0.2F, 10.0F, ShotOnObstacleColor),
-                              NewBurst(640.0F, 100.0F, 0.45F, 20.0F, DestroyedObstacleColor)}));
+    EXPECT_EQ(state.Explosions,
+        (std::vector<Explosion>{NewExplosion(645.0F, 105.0F, 0.2F, 10.0F, ShotOnObstacleColor),
+            NewExplosion(640.0F, 100.0F, 0.45F, 20.0F, DestroyedObstacleColor)}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::ObstacleDown});
     EXPECT_EQ(state.Rng, FreshRng(3));
 }
@@ -121,8 +121,8 @@ TEST(ShotsOnEnemies, TakeOnePointFromAHeavyOneAndLetItFlash) {
     EXPECT_EQ(state.Enemies[0].Hp, 1);
     EXPECT_EQ(state.Enemies[0].HitFlash, 0.12F);
     EXPECT_TRUE(state.Bullets.empty());
-    EXPECT_EQ(
-        state.Explosions, (std::vector<Explosion>{NewBurst(643.0F, 104.0F, 0.2F, 12.0F, ShotOnEnemyColor)}));
+    EXPECT_EQ(state.Explosions,
+        (std::vector<Explosion>{NewExplosion(643.0F, 104.0F, 0.2F, 12.0F, ShotOnEnemyColor)}));
     EXPECT_EQ(state.Score, 0);
     EXPECT_EQ(state.PendingSounds.Count, 0U);
     EXPECT_EQ(state.Rng, FreshRng(3));
@@ -138,8 +138,8 @@ TEST(ShotsOnEnemies, TheLastPointPaysByTheStage) {
     EXPECT_TRUE(state.Bullets.empty());
     EXPECT_EQ(state.Score, 212); // 200 x 1.06
     EXPECT_EQ(
-        state.Explosions, (std::vector<Explosion>{NewBurst(643.0F, 104.0F, 0.2F, 12.0F, ShotOnEnemyColor),
-                              NewBurst(640.0F, 100.0F, 0.45F, 24.0F, DestroyedEnemyColor)}));
+        state.Explosions, (std::vector<Explosion>{NewExplosion(643.0F, 104.0F, 0.2F, 12.0F, ShotOnEnemyColor),
+                              NewExplosion(640.0F, 100.0F, 0.45F, 24.0F, DestroyedEnemyColor)}));
     EXPECT_EQ(SoundsOf(state), Sounds{SfxId::EnemyDown});
 }
 

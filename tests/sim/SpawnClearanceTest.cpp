@@ -60,7 +60,7 @@ TEST(IsSpawnClear, LooksAtEveryEntryOfAList) {
     EXPECT_TRUE(IsSpawnClear(state, 400.0F, 100.0F, 8.0F));
 }
 
-TEST(IsSpawnClear, IgnoresShotsBurstsAndThePlayer) {
+TEST(IsSpawnClear, IgnoresShotsExplosionsAndThePlayer) {
     GameState state = QuietRun();
     state.Player.X = 640.0F;
     state.Player.Y = -20.0F;

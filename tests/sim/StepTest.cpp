@@ -53,7 +53,7 @@ TEST(Step, ANewShotFliesInItsFirstFrame) {
     EXPECT_EQ(state.Bullets[0].Y, 642.5625F); // 656 - 13.4375
 }
 
-TEST(Step, ANewBurstAgesInItsFirstFrame) {
+TEST(Step, ANewExplosionAgesInItsFirstFrame) {
     GameState state = QuietRun();
     SimulationStep(state, 0.03125F, HeldBomb);
     ASSERT_EQ(state.Explosions.size(), 1U);

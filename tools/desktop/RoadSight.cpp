@@ -23,7 +23,7 @@ constexpr int DashHeight = 34;
 constexpr int LaneTolerance = 2;
 
 // Distance of the lane centres from the road's left edge.
-constexpr std::array<int, LaneCount> LaneOffsets{30, 63, 95, 128, 160, 193, 225, 258, 290};
+constexpr std::array<int, RoadLanes> LaneOffsets{30, 63, 95, 128, 160, 193, 225, 258, 290};
 
 // The rows in which the car drives. Its picture also stands for the spare lives, further up.
 constexpr int CarTop = 640;
@@ -115,7 +115,7 @@ std::optional<int> LaneOfLowest(const Screenshot &Seen, std::initializer_list<Pi
     constexpr int halfBody = 8;
     std::optional<int> lane;
     int lowest = 0;
-    for (int i = 0; i < LaneCount; ++i) {
+    for (int i = 0; i < RoadLanes; ++i) {
         const int x = RoadArea(Seen, 0, 0).Left + LaneOffsets[static_cast<std::size_t>(i)];
         for (const Pixel &color : Colors) {
             const Area thing = BoundsOfColor(Seen, {x - halfBody, 0, x + halfBody, CarBottom}, color);

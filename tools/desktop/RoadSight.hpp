@@ -8,7 +8,7 @@
 // What a person sees of a run in a picture of the game's screen, told by the colours that nothing else there
 // has. All of it holds for screens 720 pixels high, where a logical pixel is a pixel of the screen.
 
-inline constexpr int LaneCount = 9;
+inline constexpr int RoadLanes = 9;
 
 // Where the road's outer edges are, found by the two edge lines that run down the whole screen.
 struct RoadPlace {
