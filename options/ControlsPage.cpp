@@ -1,4 +1,4 @@
-#include "input/ControlsPage.hpp"
+#include "options/ControlsPage.hpp"
 
 #include "input/Capture.hpp"
 #include "state/GameState.hpp"
@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::int32_t DeviceCount = 3;
 
-/// Goes round all devices, connected or not.
+/// Shows the next device's table, also where no such device is open.
 void CycleDevice(GameState &State, std::int32_t Direction) {
     State.PendingControlsDevice =
         static_cast<enum ControlsDevice>(StepRound(State.PendingControlsDevice, Direction, DeviceCount));
@@ -33,7 +33,7 @@ void Apply(GameState &State) {
     BeginControlsEdit(State);
 }
 
-/// Unapplied bindings are lost without a question, and that is meant.
+/// NOT-BUGS: A page that is left drops what was not applied
 void Leave(GameState &State) {
     if (ControlsEditDirty(State)) {
         BeginControlsEdit(State);
