@@ -15,7 +15,8 @@ void Activate(GameState &State, MainMenuRow Row) {
         State.PauseSelection = 0;
         break;
     case MainMenuRow::NewGame:
-        StartNewRun(State); // empties the sounds: this press is never heard, which is accepted
+        // NOT-BUGS: NEW GAME makes no sound
+        StartNewRun(State);
         break;
     case MainMenuRow::Options:
         State.OptionsReturnScreen = ScreenMainMenu;
@@ -39,8 +40,9 @@ void Activate(GameState &State, MainMenuRow Row) {
 
 void HandleMainMenuKey(GameState &State, std::int32_t Scancode) {
     const std::uint32_t count = MainMenuRowCount(State.HasRunState);
+    // NOT-BUGS: The selected row stays a number
     if (State.MainMenuSelection >= count) {
-        State.MainMenuSelection = 0; // otherwise kept: it does not follow a row when the first comes or goes
+        State.MainMenuSelection = 0;
     }
     if (IsKeyUp(Scancode)) {
         PushSound(State, SfxId::UiMove);

@@ -20,7 +20,8 @@ void Activate(GameState &State, PauseRow Row) {
         State.HelpReturnScreen = ScreenPaused;
         State.Screen = ScreenHelp;
         break;
-    case PauseRow::MainMenu: // the run stays, and the first row of the main menu continues it
+    case PauseRow::MainMenu:
+        // The run stays, and the first row of the main menu, which continues it, is selected.
         State.Screen = ScreenMainMenu;
         State.MainMenuSelection = 0;
         break;
