@@ -44,12 +44,8 @@ void HandleMainMenuKey(GameState &State, std::int32_t Scancode) {
     if (State.MainMenuSelection >= count) {
         State.MainMenuSelection = 0;
     }
-    if (IsKeyUp(Scancode)) {
+    if (MoveSelection(State.MainMenuSelection, count, Scancode)) {
         PushSound(State, SfxId::UiMove);
-        State.MainMenuSelection = RowAbove(State.MainMenuSelection, count);
-    } else if (IsKeyDown(Scancode)) {
-        PushSound(State, SfxId::UiMove);
-        State.MainMenuSelection = RowBelow(State.MainMenuSelection, count);
     } else if (IsKeyActivate(Scancode)) {
         PushSound(State, SfxId::UiConfirm);
         Activate(State, MainMenuRowAt(State.MainMenuSelection, State.HasRunState));

@@ -42,14 +42,12 @@ void Activate(GameState &State, SDL_Window *Window, OptionsMainRow Row) {
 }
 
 void HandleMainPageKey(GameState &State, SDL_Window *Window, std::int32_t Scancode) {
-    if (IsKeyUp(Scancode)) {
-        State.OptionsMainSelection = RowAbove(State.OptionsMainSelection, OptionsMainRowCount);
-    } else if (IsKeyDown(Scancode)) {
-        State.OptionsMainSelection = RowBelow(State.OptionsMainSelection, OptionsMainRowCount);
-    } else if (IsKeyActivate(Scancode)) {
+    if (IsKeyActivate(Scancode)) {
         Activate(State, Window, static_cast<OptionsMainRow>(State.OptionsMainSelection));
     } else if (IsKeyEscape(Scancode)) {
         Activate(State, Window, OptionsMainRow::Back);
+    } else {
+        MoveSelection(State.OptionsMainSelection, OptionsMainRowCount, Scancode);
     }
 }
 

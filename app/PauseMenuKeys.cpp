@@ -31,12 +31,8 @@ void Activate(GameState &State, PauseRow Row) {
 } // namespace
 
 void HandlePauseMenuKey(GameState &State, std::int32_t Scancode) {
-    if (IsKeyUp(Scancode)) {
+    if (MoveSelection(State.PauseSelection, PauseRowCount, Scancode)) {
         PushSound(State, SfxId::UiMove);
-        State.PauseSelection = RowAbove(State.PauseSelection, PauseRowCount);
-    } else if (IsKeyDown(Scancode)) {
-        PushSound(State, SfxId::UiMove);
-        State.PauseSelection = RowBelow(State.PauseSelection, PauseRowCount);
     } else if (IsKeyActivate(Scancode)) {
         PushSound(State, SfxId::UiConfirm);
         Activate(State, static_cast<PauseRow>(State.PauseSelection));

@@ -157,11 +157,7 @@ void HandleAudioPageKey(GameState &State, std::int32_t Scancode) {
     if (!State.PendingAudioValid) {
         BeginAudioEdit(State);
     }
-    if (IsKeyUp(Scancode)) {
-        State.AudioSelection = RowAbove(State.AudioSelection, AudioRowCount);
-    } else if (IsKeyDown(Scancode)) {
-        State.AudioSelection = RowBelow(State.AudioSelection, AudioRowCount);
-    } else if (IsKeyLeft(Scancode)) {
+    if (IsKeyLeft(Scancode)) {
         Adjust(State, -1);
     } else if (IsKeyRight(Scancode)) {
         Adjust(State, 1);
@@ -169,5 +165,7 @@ void HandleAudioPageKey(GameState &State, std::int32_t Scancode) {
         Activate(State);
     } else if (IsKeyEscape(Scancode)) {
         Leave(State);
+    } else {
+        MoveSelection(State.AudioSelection, AudioRowCount, Scancode);
     }
 }

@@ -92,11 +92,7 @@ void HandleControlsPageKey(GameState &State, std::int32_t Scancode) {
         BeginControlsEdit(State);
     }
     const bool onDevice = State.ControlsSelection == static_cast<std::int32_t>(ControlsRow::Device);
-    if (IsKeyUp(Scancode)) {
-        State.ControlsSelection = RowAbove(State.ControlsSelection, ControlsRowCount);
-    } else if (IsKeyDown(Scancode)) {
-        State.ControlsSelection = RowBelow(State.ControlsSelection, ControlsRowCount);
-    } else if (IsKeyLeft(Scancode) && onDevice) {
+    if (IsKeyLeft(Scancode) && onDevice) {
         CycleDevice(State, -1);
     } else if (IsKeyRight(Scancode) && onDevice) {
         CycleDevice(State, 1);
@@ -104,5 +100,7 @@ void HandleControlsPageKey(GameState &State, std::int32_t Scancode) {
         Activate(State);
     } else if (IsKeyEscape(Scancode)) {
         Leave(State);
+    } else {
+        MoveSelection(State.ControlsSelection, ControlsRowCount, Scancode);
     }
 }

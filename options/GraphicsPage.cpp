@@ -153,11 +153,7 @@ void HandleGraphicsPageKey(
     if (!State.GraphicsSnapshotValid) {
         BeginGraphicsEdit(State, Window);
     }
-    if (IsKeyUp(Scancode)) {
-        State.GraphicsSelection = RowAbove(State.GraphicsSelection, GraphicsRowCount);
-    } else if (IsKeyDown(Scancode)) {
-        State.GraphicsSelection = RowBelow(State.GraphicsSelection, GraphicsRowCount);
-    } else if (IsKeyLeft(Scancode)) {
+    if (IsKeyLeft(Scancode)) {
         AdjustGraphicsRow(State, Window, -1);
     } else if (IsKeyRight(Scancode)) {
         AdjustGraphicsRow(State, Window, 1);
@@ -165,5 +161,7 @@ void HandleGraphicsPageKey(
         Activate(State, Window, Renderer);
     } else if (IsKeyEscape(Scancode)) {
         Leave(State, Window);
+    } else {
+        MoveSelection(State.GraphicsSelection, GraphicsRowCount, Scancode);
     }
 }
