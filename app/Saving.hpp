@@ -6,7 +6,7 @@ struct GameState;
 using StateWriter = bool (*)(const GameState &State);
 
 /// What the options file and the save state are written with: the functions of these names in store/. Tests
-/// have others.
+/// have others; none is null.
 struct SaveWriters {
     StateWriter SaveOptions = nullptr;
     StateWriter WriteSaveState = nullptr;
