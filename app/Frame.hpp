@@ -11,8 +11,7 @@ inline constexpr float MaxDeltaSeconds = 0.033F;
 /// The least time between the beginnings of two frames without active vertical sync.
 inline constexpr Uint64 MinFrameMilliseconds = 8;
 
-/// The credits' speed in logical pixels a second, and the position past which they end: by then the last line
-/// of gfx/Credits.cpp has left the screen at its top.
+/// The credits' speed in logical pixels a second, and the position past which they end.
 inline constexpr float CreditsScrollSpeed = 42.0F;
 inline constexpr float CreditsScrollEnd = 1090.0F;
 

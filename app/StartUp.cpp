@@ -33,12 +33,9 @@ bool InitSdl() {
     return true;
 }
 
-/// A second start in the same process, as tests make it, begins like the first.
-void FillDefaults(Program &Game) {
-    Game.State = GameState{};
-    Game.Music = MusicRuntime{};
-    Game.Devices = InputDevices{};
-    Game.State.Rng.seed(std::random_device{}());
+void FillDefaults(GameState &State) {
+    State = GameState{};
+    State.Rng.seed(std::random_device{}());
 }
 
 bool CreateWindow(Program &Game) {
@@ -116,7 +113,7 @@ bool StartUp(Program &Game) {
     if (!InitSdl()) {
         return false;
     }
-    FillDefaults(Game);
+    FillDefaults(Game.State);
     const bool configExisted = LoadOptions(Game.State);
     if (!configExisted) {
         UseDesktopSize(Game.State);
