@@ -7,27 +7,27 @@
 
 namespace {
 
-/// The key that an event stands for, or 0. A held key is one press: what the platform repeats is dropped.
-std::int32_t PressedKey(Program &Program, const SDL_Event &Event) {
+/// The scancode that an event stands for, or NoKey. The repeats of a key that is held are no presses.
+std::int32_t PressedKey(Program &Game, const SDL_Event &Event) {
     if (Event.type == SDL_EVENT_KEY_DOWN) {
-        return Event.key.repeat ? 0 : static_cast<std::int32_t>(Event.key.scancode);
+        return Event.key.repeat ? NoKey : static_cast<std::int32_t>(Event.key.scancode);
     }
-    return TranslatePress(Program.State, Program.Devices, Event);
+    return TranslatePress(Game.State, Game.Devices, Event);
 }
 
 } // namespace
 
-void DrainEvents(Program &Program) {
+void DrainEvents(Program &Game) {
     SDL_Event event;
     while (SDL_PollEvent(&event)) {
         if (event.type == SDL_EVENT_QUIT) {
-            Program.State.Running = false;
+            Game.State.Running = false;
             return;
         }
-        HandleHotPlug(Program.Devices, event);
-        if (CaptureButton(Program.State, Program.Devices, event)) {
+        HandleHotPlug(Game.Devices, event);
+        if (CaptureButton(Game.State, Game.Devices, event)) {
             continue;
         }
-        DispatchKey(Program.State, Program.Window, Program.Renderer, PressedKey(Program, event));
+        DispatchKey(Game.State, Game.Window, Game.Renderer, PressedKey(Game, event));
     }
 }

@@ -2,6 +2,7 @@
 
 struct Program;
 
-/// Reads the event queue to its end. A quit request clears Running and leaves the rest of the queue unread.
-/// Losing the focus does not pause the game, and that is meant.
-void DrainEvents(Program &Program);
+/// Reads the event queue to its end and acts on what it holds: presses, and devices that come and go. A quit
+/// request clears Running and leaves the rest of the queue unread.
+/// NOT-BUGS: Losing the focus does not pause
+void DrainEvents(Program &Game);

@@ -26,11 +26,11 @@ void AdvanceCredits(GameState &State, float DeltaSeconds) {
     }
 }
 
-void Simulate(Program &Program, float DeltaSeconds) {
-    GameState &state = Program.State;
+void Simulate(Program &Game, float DeltaSeconds) {
+    GameState &state = Game.State;
     const bool *keyboardState = SDL_GetKeyboardState(nullptr);
     if (state.Screen == ScreenPlaying) {
-        const StepInput input = PollGameplayInput(state, keyboardState, Program.Devices);
+        const StepInput input = PollGameplayInput(state, keyboardState, Game.Devices);
         SimulationStep(state, DeltaSeconds, input);
     } else if (state.Screen == ScreenCredits) {
         AdvanceCredits(state, DeltaSeconds);
@@ -65,11 +65,11 @@ void DrawScreen(SDL_Renderer *Renderer, const GameState &State, const InputDevic
     }
 }
 
-void Present(const Program &Program) {
-    SDL_SetRenderDrawColor(Program.Renderer, 0, 0, 0, 255);
-    SDL_RenderClear(Program.Renderer);
-    DrawScreen(Program.Renderer, Program.State, Program.Devices);
-    SDL_RenderPresent(Program.Renderer);
+void Present(const Program &Game) {
+    SDL_SetRenderDrawColor(Game.Renderer, 0, 0, 0, 255);
+    SDL_RenderClear(Game.Renderer);
+    DrawScreen(Game.Renderer, Game.State, Game.Devices);
+    SDL_RenderPresent(Game.Renderer);
 }
 
 /// Sleeps out the rest of a short frame, unless the present call paces the loop.
@@ -86,22 +86,23 @@ float DeltaSecondsBetween(Uint64 LastFrameTicks, Uint64 Now) {
     return std::min(static_cast<float>(Now - LastFrameTicks) / 1000.0F, MaxDeltaSeconds);
 }
 
-void RunFrame(Program &Program) {
-    GameState &state = Program.State;
+void RunFrame(Program &Game) {
+    GameState &state = Game.State;
     const Uint64 frameStartTicks = SDL_GetTicks();
-    DrainEvents(Program);
-    SaveOptionsIfDirty(state, Program.Writers.SaveOptions);
+    DrainEvents(Game);
+    SaveOptionsIfDirty(state, Game.Writers.SaveOptions);
     const Uint64 now = SDL_GetTicks();
     if (state.ResetFrameClock) {
         state.ResetFrameClock = false;
-        Program.LastFrameTicks = now;
+        Game.LastFrameTicks = now;
     }
-    const float deltaSeconds = DeltaSecondsBetween(Program.LastFrameTicks, now);
-    Simulate(Program, deltaSeconds);
-    SaveTick(state, deltaSeconds, Program.Writers.WriteSaveState);
-    UpdateMusicRuntime(state, Program.Music);
-    PlayQueuedSfx(state, Program.Music);
-    Present(Program);
+    const float deltaSeconds = DeltaSecondsBetween(Game.LastFrameTicks, now);
+    Simulate(Game, deltaSeconds);
+    SaveTick(state, deltaSeconds, Game.Writers.WriteSaveState);
+    UpdateMusicRuntime(state, Game.Music);
+    PlayQueuedSfx(state, Game.Music);
+    Present(Game);
     CapFrame(state, frameStartTicks);
-    Program.LastFrameTicks = now; // a step is measured from here, the cap from the top of the frame
+    // The next step is measured from here, the cap from the top of the frame.
+    Game.LastFrameTicks = now;
 }

@@ -4,18 +4,20 @@
 
 struct Program;
 
-/// The longest step that the simulation ever sees, in seconds: a slower machine plays in slow motion.
+/// The longest step that the simulation ever sees, in seconds.
+/// NOT-BUGS: A slow machine plays in slow motion
 inline constexpr float MaxDeltaSeconds = 0.033F;
 
-/// The least time between the tops of two frames without active vertical sync.
+/// The least time between the beginnings of two frames without active vertical sync.
 inline constexpr Uint64 MinFrameMilliseconds = 8;
 
 /// The credits' speed in logical pixels a second, and the position past which they end.
 inline constexpr float CreditsScrollSpeed = 42.0F;
 inline constexpr float CreditsScrollEnd = 1090.0F;
 
-/// The seconds between two ticks in milliseconds, at most MaxDeltaSeconds.
+/// The seconds between two ticks in milliseconds, the earlier one first; at most MaxDeltaSeconds.
 float DeltaSecondsBetween(Uint64 LastFrameTicks, Uint64 Now);
 
-/// Runs one frame: events, saving, simulation, drawing, and the pause that keeps the pace.
-void RunFrame(Program &Program);
+/// Runs one frame: events, saving, simulation, music and sounds, drawing, and the pause that keeps the pace.
+/// Whether another one follows stands in Running.
+void RunFrame(Program &Game);

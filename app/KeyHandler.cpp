@@ -12,6 +12,7 @@ namespace {
 /// Only two keys mean something in play; what is held is polled. Escape comes first, so an Escape that is
 /// bound to healing pauses and does not heal.
 void HandlePlayingKey(GameState &State, std::int32_t Scancode) {
+    // NOT-BUGS: A dying car can be neither paused nor healed
     if (State.PlayerDying) {
         return;
     }
@@ -24,8 +25,8 @@ void HandlePlayingKey(GameState &State, std::int32_t Scancode) {
     }
 }
 
-/// A page of text is only left. The space bar does not leave it, unlike on every menu, and the confirming key
-/// sounds like going back; both are meant.
+/// On a page of text a key can only go back, and Return sounds like it.
+/// NOT-BUGS: The space bar does not leave help and credits
 void HandleTextPageKey(GameState &State, std::int32_t Scancode, enum Screen ReturnScreen) {
     if (IsKeyEnter(Scancode) || IsKeyEscape(Scancode)) {
         PushSound(State, SfxId::UiBack);
@@ -45,7 +46,7 @@ void HandleGameOverKey(GameState &State, std::int32_t Scancode) {
 } // namespace
 
 void DispatchKey(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer, std::int32_t Scancode) {
-    if (Scancode >= FirstScancode && Scancode <= LastScancode) {
+    if (IsScancode(Scancode)) {
         HandleKey(State, Window, Renderer, Scancode);
     }
 }

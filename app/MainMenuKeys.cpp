@@ -15,7 +15,8 @@ void Activate(GameState &State, MainMenuRow Row) {
         State.PauseSelection = 0;
         break;
     case MainMenuRow::NewGame:
-        StartNewRun(State); // empties the sounds: this press is never heard, which is accepted
+        // NOT-BUGS: NEW GAME makes no sound
+        StartNewRun(State);
         break;
     case MainMenuRow::Options:
         State.OptionsReturnScreen = ScreenMainMenu;
@@ -39,15 +40,12 @@ void Activate(GameState &State, MainMenuRow Row) {
 
 void HandleMainMenuKey(GameState &State, std::int32_t Scancode) {
     const std::uint32_t count = MainMenuRowCount(State.HasRunState);
+    // NOT-BUGS: The selected row stays a number
     if (State.MainMenuSelection >= count) {
-        State.MainMenuSelection = 0; // otherwise kept: it does not follow a row when the first comes or goes
+        State.MainMenuSelection = 0;
     }
-    if (IsKeyUp(Scancode)) {
+    if (MoveSelection(State.MainMenuSelection, count, Scancode)) {
         PushSound(State, SfxId::UiMove);
-        State.MainMenuSelection = RowAbove(State.MainMenuSelection, count);
-    } else if (IsKeyDown(Scancode)) {
-        PushSound(State, SfxId::UiMove);
-        State.MainMenuSelection = RowBelow(State.MainMenuSelection, count);
     } else if (IsKeyActivate(Scancode)) {
         PushSound(State, SfxId::UiConfirm);
         Activate(State, MainMenuRowAt(State.MainMenuSelection, State.HasRunState));

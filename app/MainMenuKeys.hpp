@@ -4,5 +4,5 @@
 
 struct GameState;
 
-/// Acts on a key on the main menu. Escape there quits at once.
+/// Acts on a key on the main menu. Escape quits at once: it clears Running.
 void HandleMainMenuKey(GameState &State, std::int32_t Scancode);

@@ -1,8 +1,8 @@
 #include "app/OptionsKeys.hpp"
 
 #include "input/Capture.hpp"
-#include "input/ControlsPage.hpp"
 #include "options/AudioPage.hpp"
+#include "options/ControlsPage.hpp"
 #include "options/GraphicsPage.hpp"
 #include "state/GameState.hpp"
 #include "state/MenuKeys.hpp"
@@ -10,8 +10,7 @@
 
 namespace {
 
-/// Chosen before anything else is looked at: a key that changes nothing sounds all the same, and that is
-/// meant.
+/// NOT-BUGS: Keys that change nothing on an options page sound all the same
 void PushPageSound(GameState &State, std::int32_t Scancode) {
     if (IsKeyUp(Scancode) || IsKeyDown(Scancode) || IsKeyLeft(Scancode) || IsKeyRight(Scancode)) {
         PushSound(State, SfxId::UiMove);
@@ -43,14 +42,12 @@ void Activate(GameState &State, SDL_Window *Window, OptionsMainRow Row) {
 }
 
 void HandleMainPageKey(GameState &State, SDL_Window *Window, std::int32_t Scancode) {
-    if (IsKeyUp(Scancode)) {
-        State.OptionsMainSelection = RowAbove(State.OptionsMainSelection, OptionsMainRowCount);
-    } else if (IsKeyDown(Scancode)) {
-        State.OptionsMainSelection = RowBelow(State.OptionsMainSelection, OptionsMainRowCount);
-    } else if (IsKeyActivate(Scancode)) {
+    if (IsKeyActivate(Scancode)) {
         Activate(State, Window, static_cast<OptionsMainRow>(State.OptionsMainSelection));
     } else if (IsKeyEscape(Scancode)) {
         Activate(State, Window, OptionsMainRow::Back);
+    } else {
+        MoveSelection(State.OptionsMainSelection, OptionsMainRowCount, Scancode);
     }
 }
 

@@ -6,9 +6,9 @@
 
 struct GameState;
 
-/// Shows the main page of the options, with no page in edit and no capture running. The pages keep the rows
-/// of the last visit. The caller sets OptionsReturnScreen.
+/// Shows the main page of the options, with no page in edit and no capture running. The pages keep their
+/// selected rows from the last visit. The caller sets OptionsReturnScreen, where BACK leads.
 void EnterOptions(GameState &State);
 
-/// Acts on a key on a page of the options.
+/// Acts on a key on the page of the options that is shown. Only the Graphics page uses window and renderer.
 void HandleOptionsKey(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer, std::int32_t Scancode);

@@ -20,7 +20,8 @@ void Activate(GameState &State, PauseRow Row) {
         State.HelpReturnScreen = ScreenPaused;
         State.Screen = ScreenHelp;
         break;
-    case PauseRow::MainMenu: // the run stays, and the first row of the main menu continues it
+    case PauseRow::MainMenu:
+        // The run stays, and the first row of the main menu, which continues it, is selected.
         State.Screen = ScreenMainMenu;
         State.MainMenuSelection = 0;
         break;
@@ -30,12 +31,8 @@ void Activate(GameState &State, PauseRow Row) {
 } // namespace
 
 void HandlePauseMenuKey(GameState &State, std::int32_t Scancode) {
-    if (IsKeyUp(Scancode)) {
+    if (MoveSelection(State.PauseSelection, PauseRowCount, Scancode)) {
         PushSound(State, SfxId::UiMove);
-        State.PauseSelection = RowAbove(State.PauseSelection, PauseRowCount);
-    } else if (IsKeyDown(Scancode)) {
-        PushSound(State, SfxId::UiMove);
-        State.PauseSelection = RowBelow(State.PauseSelection, PauseRowCount);
     } else if (IsKeyActivate(Scancode)) {
         PushSound(State, SfxId::UiConfirm);
         Activate(State, static_cast<PauseRow>(State.PauseSelection));

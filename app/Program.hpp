@@ -9,7 +9,8 @@
 
 #include <SDL3/SDL.h>
 
-/// What the main program owns, a single instance from start-up to the end of the process.
+/// What the main program owns, a single instance from start-up to the end of the process. Window and renderer
+/// are null while there are none.
 struct Program {
     GameState State;
     MusicRuntime Music;
@@ -17,5 +18,5 @@ struct Program {
     SDL_Window *Window = nullptr;
     SDL_Renderer *Renderer = nullptr;
     SaveWriters Writers{SaveOptions, WriteSaveState};
-    Uint64 LastFrameTicks = 0; ///< milliseconds of SDL_GetTicks
+    Uint64 LastFrameTicks = 0; ///< when the last step was measured, in milliseconds of SDL_GetTicks
 };

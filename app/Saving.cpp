@@ -14,18 +14,18 @@ constexpr float RetrySeconds = 1.0F;
 
 } // namespace
 
-void SaveOptionsIfDirty(GameState &State, StateWriter SaveOptions) {
+void SaveOptionsIfDirty(GameState &State, StateWriter Write) {
     if (!State.OptionsDirty) {
         return;
     }
-    if (SaveOptions(State)) {
+    if (Write(State)) {
         State.OptionsDirty = false;
     } else {
         SDL_Log("Failed to write options config: %s", OptionsFileName);
     }
 }
 
-void SaveTick(GameState &State, float DeltaSeconds, StateWriter WriteSaveState) {
+void SaveTick(GameState &State, float DeltaSeconds, StateWriter Write) {
     if (!State.SaveRequested) {
         return;
     }
@@ -33,7 +33,7 @@ void SaveTick(GameState &State, float DeltaSeconds, StateWriter WriteSaveState) 
     if (State.SaveDelay > 0.0F) {
         return;
     }
-    if (WriteSaveState(State)) {
+    if (Write(State)) {
         State.SaveRequested = false;
         State.SaveDelay = 0.0F;
     } else {

@@ -1,15 +1,30 @@
 #include "app/ShutDown.hpp"
 
 #include "app/Program.hpp"
-#include "app/TakeDown.hpp"
 #include "audio/Runtime.hpp"
 #include "gfx/Atlas.hpp"
 
-void ShutDown(Program &Program) {
-    SaveOptionsIfDirty(Program.State, Program.Writers.SaveOptions);
-    SaveTick(Program.State, 0.0F, Program.Writers.WriteSaveState);
-    CloseInputDevices(Program.Devices);
-    ShutdownMusicRuntime(Program.Music, true);
+void ShutDown(Program &Game) {
+    SaveOptionsIfDirty(Game.State, Game.Writers.SaveOptions);
+    SaveTick(Game.State, 0.0F, Game.Writers.WriteSaveState);
+    CloseInputDevices(Game.Devices);
+    ShutdownMusicRuntime(Game.Music, true);
     DestroyTextureAtlas();
-    TakeDownRenderer(Program);
+    TakeDown(Game);
+}
+
+void TakeDown(Program &Game) {
+    if (Game.Renderer != nullptr) {
+        SDL_DestroyRenderer(Game.Renderer);
+        Game.Renderer = nullptr;
+    }
+    if (Game.Window != nullptr) {
+        // Hidden before it is destroyed: on X11 SDL would first take a fullscreen window back to its size,
+        // and a window manager that moves it and drops its frame in the same moment ends the program by a
+        // BadWindow error.
+        SDL_HideWindow(Game.Window);
+        SDL_DestroyWindow(Game.Window);
+        Game.Window = nullptr;
+    }
+    SDL_Quit();
 }

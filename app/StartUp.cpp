@@ -1,7 +1,7 @@
 #include "app/StartUp.hpp"
 
 #include "app/Program.hpp"
-#include "app/TakeDown.hpp"
+#include "app/ShutDown.hpp"
 #include "audio/Runtime.hpp"
 #include "audio/Transport.hpp"
 #include "gfx/Atlas.hpp"
@@ -23,7 +23,8 @@ constexpr const char *GameName = "Kestrel Volley";
 constexpr const char *WindowTitle = "Kestrel Volley v" KESTREL_VERSION;
 
 bool InitSdl() {
-    SDL_SetAppMetadata(GameName, KESTREL_VERSION, nullptr); // for the system's list of what plays sound
+    // The system's list of what plays sound shows this name.
+    SDL_SetAppMetadata(GameName, KESTREL_VERSION, nullptr);
     // No audio here: the mixer brings it up by itself.
     if (!SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD)) {
         SDL_Log("SDL_Init failed: %s", SDL_GetError());
@@ -37,56 +38,52 @@ void FillDefaults(GameState &State) {
     State.Rng.seed(std::random_device{}());
 }
 
-bool CreateWindow(Program &Program) {
-    const GameState &state = Program.State;
+bool CreateWindow(Program &Game) {
+    const GameState &state = Game.State;
     const Resolution size = CurrentResolution(state);
     ComputeLogicalWidth(state.AspectMode, size.Width, size.Height);
     const SDL_WindowFlags flags = state.Fullscreen ? SDL_WINDOW_FULLSCREEN : 0;
-    Program.Window = SDL_CreateWindow(WindowTitle, std::max(size.Width, 1), std::max(size.Height, 1), flags);
-    if (Program.Window == nullptr) {
+    Game.Window = SDL_CreateWindow(WindowTitle, std::max(size.Width, 1), std::max(size.Height, 1), flags);
+    if (Game.Window == nullptr) {
         SDL_Log("SDL_CreateWindow failed: %s", SDL_GetError());
-        SDL_Quit();
         return false;
     }
     return true;
 }
 
-bool CreateRenderer(Program &Program) {
-    Program.Renderer = SDL_CreateRenderer(Program.Window, nullptr);
-    if (Program.Renderer == nullptr) {
+bool CreateRenderer(Program &Game) {
+    Game.Renderer = SDL_CreateRenderer(Game.Window, nullptr);
+    if (Game.Renderer == nullptr) {
         SDL_Log("SDL_CreateRenderer failed: %s", SDL_GetError());
-        TakeDownWindow(Program);
         return false;
     }
-    SDL_SetRenderDrawBlendMode(Program.Renderer, SDL_BLENDMODE_BLEND);
-    SDL_SetWindowResizable(Program.Window, false);
-    ApplyLogicalPresentation(Program.Window, Program.Renderer);
+    SDL_SetRenderDrawBlendMode(Game.Renderer, SDL_BLENDMODE_BLEND);
+    SDL_SetWindowResizable(Game.Window, false);
+    ApplyLogicalPresentation(Game.Window, Game.Renderer);
     return true;
 }
 
-bool CreateAtlas(Program &Program) {
-    if (!BuildTextureAtlas(Program.Renderer)) {
+bool CreateAtlas(const Program &Game) {
+    if (!BuildTextureAtlas(Game.Renderer)) {
         SDL_Log("BuildTextureAtlas failed: %s", SDL_GetError());
-        TakeDownRenderer(Program);
         return false;
     }
     return true;
 }
 
-void DressWindow(Program &Program) {
-    if (!SetWindowIconFromAtlas(Program.Window, Program.Renderer)) {
+void SetIcon(const Program &Game) {
+    if (!SetWindowIconFromAtlas(Game.Window, Game.Renderer)) {
         SDL_Log("SetWindowIconFromAtlas failed: %s", SDL_GetError());
     }
-    SDL_HideCursor();
 }
 
-void WriteFirstOptions(Program &Program) {
-    if (!Program.Writers.SaveOptions(Program.State)) {
+void WriteFirstOptions(const Program &Game) {
+    if (!Game.Writers.SaveOptions(Game.State)) {
         SDL_Log("Failed to create default options config: %s", OptionsFileName);
     }
 }
 
-/// A wanted language that is gone has changed the options.
+/// Without the wanted language another one is loaded and becomes the option, which the first frame writes.
 void StartLanguage(GameState &State) {
     const std::string wanted = State.Language;
     LoadLanguage(State);
@@ -95,46 +92,47 @@ void StartLanguage(GameState &State) {
     }
 }
 
-/// Without a usable save state there is no run and no high score, and the first frame writes a clean file.
+/// Without a usable save state there is no run and no high score, and the first frame writes a new file.
 void RestoreGame(GameState &State) {
     if (!LoadSaveState(State)) {
         RequestSave(State, 0.0F);
     }
 }
 
-void StartAudio(Program &Program) {
-    if (!InitMusicRuntime(Program.State, Program.Music)) {
+void StartAudio(Program &Game) {
+    if (!InitMusicRuntime(Game.State, Game.Music)) {
         SDL_Log("Music runtime unavailable; game will run without music");
     }
-    UpdateMusicRuntime(Program.State, Program.Music); // the menu's music runs before the first frame
+    // The menu's music runs before the first frame.
+    UpdateMusicRuntime(Game.State, Game.Music);
 }
 
 } // namespace
 
-bool StartUp(Program &Program) {
+bool StartUp(Program &Game) {
     if (!InitSdl()) {
         return false;
     }
-    FillDefaults(Program.State);
-    const bool configExisted = LoadOptions(Program.State);
+    FillDefaults(Game.State);
+    const bool configExisted = LoadOptions(Game.State);
     if (!configExisted) {
-        UseDesktopSize(Program.State);
+        UseDesktopSize(Game.State);
     }
-    if (!CreateWindow(Program) || !CreateRenderer(Program) || !CreateAtlas(Program)) {
+    if (!CreateWindow(Game) || !CreateRenderer(Game) || !CreateAtlas(Game)) {
+        TakeDown(Game);
         return false;
     }
-    DressWindow(Program);
-    Program.Music = MusicRuntime{};
-    RebuildDisplayLists(Program.State, Program.Window);
+    SetIcon(Game);
+    SDL_HideCursor();
+    RebuildDisplayLists(Game.State, Game.Window);
     if (!configExisted) {
-        WriteFirstOptions(Program);
+        WriteFirstOptions(Game);
     }
-    StartLanguage(Program.State);
-    RestoreGame(Program.State);
-    Program.Devices = InputDevices{};
-    OpenFirstInputDevices(Program.Devices);
-    ApplyDisplaySettings(Program.State, Program.Window, Program.Renderer);
-    StartAudio(Program);
-    Program.LastFrameTicks = SDL_GetTicks();
+    StartLanguage(Game.State);
+    RestoreGame(Game.State);
+    OpenFirstInputDevices(Game.Devices);
+    ApplyDisplaySettings(Game.State, Game.Window, Game.Renderer);
+    StartAudio(Game);
+    Game.LastFrameTicks = SDL_GetTicks();
     return true;
 }

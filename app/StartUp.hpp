@@ -2,7 +2,8 @@
 
 struct Program;
 
-/// Brings up SDL, the window, the renderer, the sprites, the devices and the audio. False after one log line
-/// if one of SDL, the window, the renderer and the sprites cannot be had; then all is taken down again. Every
-/// other failure but that of a device is logged, and the game goes on without.
-bool StartUp(Program &Program);
+/// Starts the program in a Game that is new or was shut down. What can fail:
+/// - SDL, the window, the renderer, the sprites: one log line, all is taken down again, the result is false;
+/// - the icon, the first options file, the audio: a log line, and the game goes on without;
+/// - a file that is missing or damaged, a device that cannot be opened: the game goes on without.
+bool StartUp(Program &Game);

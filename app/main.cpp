@@ -6,7 +6,7 @@
 #include <SDL3/SDL_main.h>
 
 int main(int /*ArgumentCount*/, char ** /*Arguments*/) {
-    static Program program;
+    Program program;
     if (!StartUp(program)) {
         return 1;
     }

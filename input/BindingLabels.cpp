@@ -21,7 +21,7 @@ std::string NamedOrNumbered(const char *Name, TextKey Prefix, std::int32_t Numbe
 } // namespace
 
 std::string KeyboardBindingLabel(std::int32_t Value) {
-    if (Value < FirstScancode || Value > LastScancode) {
+    if (!IsScancode(Value)) {
         return GetText(TextKey::ControlsUnbound);
     }
     const char *name = SDL_GetScancodeName(static_cast<SDL_Scancode>(Value));
@@ -29,7 +29,7 @@ std::string KeyboardBindingLabel(std::int32_t Value) {
 }
 
 std::string GamepadBindingLabel(std::int32_t Value) {
-    if (Value < 0 || Value > LastGamepadButton) {
+    if (!IsGamepadButton(Value)) {
         return GetText(TextKey::ControlsUnbound);
     }
     const char *name = SDL_GetGamepadStringForButton(static_cast<SDL_GamepadButton>(Value));

@@ -47,13 +47,13 @@ bool WaitsFor(const GameState &State, enum CaptureKind Kind) {
 } // namespace
 
 void SetKeyboardBinding(BindingTable &Table, std::int32_t Row, std::int32_t Scancode) {
-    if (Scancode >= FirstScancode && Scancode <= LastScancode) {
+    if (IsScancode(Scancode)) {
         Store(Table, Row, Scancode);
     }
 }
 
 void SetGamepadBinding(BindingTable &Table, std::int32_t Row, std::int32_t Button) {
-    if (Button >= 0 && Button <= LastGamepadButton) {
+    if (IsGamepadButton(Button)) {
         Store(Table, Row, Button);
     }
 }

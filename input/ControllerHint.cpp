@@ -13,6 +13,7 @@ constexpr std::string_view GroupGap = "   ";
 
 using BindingLabel = std::string (*)(std::int32_t Value);
 
+/// Appends words with blanks between them, and a wider gap before them if the line has words already.
 void AppendWords(std::string &Line, std::initializer_list<std::string_view> Words) {
     std::string_view gap = Line.empty() ? std::string_view() : GroupGap;
     for (const std::string_view word : Words) {
@@ -21,6 +22,7 @@ void AppendWords(std::string &Line, std::initializer_list<std::string_view> Word
     }
 }
 
+/// Appends what one device's buttons do.
 void AppendGroup(std::string &Line, TextKey Prefix, const BindingTable &Bindings, BindingLabel Label,
     std::string_view ConfirmLabel, std::string_view BackLabel) {
     const bool same = !ConfirmLabel.empty() && ConfirmLabel == BackLabel;

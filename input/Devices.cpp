@@ -1,44 +1,43 @@
 #include "input/Devices.hpp"
 
+#include <memory>
+
 namespace {
 
+/// Opens a gamepad, unless one is open. True if one is open afterwards, whichever.
 bool TryOpenGamepad(InputDevices &Devices, SDL_JoystickID Id) {
-    Devices.Gamepad = SDL_OpenGamepad(Id);
     if (Devices.Gamepad == nullptr) {
-        return false;
+        Devices.Gamepad = SDL_OpenGamepad(Id);
+        Devices.GamepadId = Devices.Gamepad != nullptr ? Id : 0;
     }
-    Devices.GamepadId = Id;
-    return true;
+    return Devices.Gamepad != nullptr;
 }
 
 void CloseGamepad(InputDevices &Devices) {
     SDL_CloseGamepad(Devices.Gamepad);
     Devices.Gamepad = nullptr;
     Devices.GamepadId = 0;
-    Devices.GamepadLeftLatch = false;
-    Devices.GamepadRightLatch = false;
-    Devices.GamepadUpLatch = false;
-    Devices.GamepadDownLatch = false;
+    Devices.GamepadLeftLatch = Devices.GamepadRightLatch = false;
+    Devices.GamepadUpLatch = Devices.GamepadDownLatch = false;
 }
 
 void CloseJoystick(InputDevices &Devices) {
     SDL_CloseJoystick(Devices.Joystick);
     Devices.Joystick = nullptr;
     Devices.JoystickId = 0;
-    Devices.JoystickLeftLatch = false;
-    Devices.JoystickRightLatch = false;
-    Devices.JoystickUpLatch = false;
-    Devices.JoystickDownLatch = false;
+    Devices.JoystickLeftLatch = Devices.JoystickRightLatch = false;
+    Devices.JoystickUpLatch = Devices.JoystickDownLatch = false;
 }
 
-/// Tries the devices of a list in order until one is open, then frees the list, which may be null.
-template <typename TryOpen> void OpenFirst(SDL_JoystickID *Ids, TryOpen Try) {
+/// Tries the devices of a list of SDL's, which may be null, in order until one is open, and frees the list.
+void OpenFirst(
+    InputDevices &Devices, SDL_JoystickID *Ids, bool (*TryOpen)(InputDevices &Devices, SDL_JoystickID Id)) {
+    const std::unique_ptr<SDL_JoystickID, decltype(&SDL_free)> list(Ids, SDL_free);
     for (const SDL_JoystickID *id = Ids; id != nullptr && *id != 0; ++id) {
-        if (Try(*id)) {
-            break;
+        if (TryOpen(Devices, *id)) {
+            return;
         }
     }
-    SDL_free(Ids);
 }
 
 void HandleJoystickRemoved(InputDevices &Devices, SDL_JoystickID Id) {
@@ -63,38 +62,25 @@ bool IsOpenJoystick(const InputDevices &Devices, SDL_JoystickID Id) {
 
 void OpenFirstInputDevices(InputDevices &Devices) {
     if (Devices.Gamepad == nullptr) {
-        OpenFirst(SDL_GetGamepads(nullptr), [&Devices](SDL_JoystickID Id) {
-            return TryOpenGamepad(Devices, Id);
-        });
+        OpenFirst(Devices, SDL_GetGamepads(nullptr), TryOpenGamepad);
     }
     if (Devices.Joystick == nullptr) {
-        OpenFirst(SDL_GetJoysticks(nullptr), [&Devices](SDL_JoystickID Id) {
-            return TryOpenJoystick(Devices, Id);
-        });
+        OpenFirst(Devices, SDL_GetJoysticks(nullptr), TryOpenJoystick);
     }
 }
 
 bool TryOpenJoystick(InputDevices &Devices, SDL_JoystickID Id) {
-    if (Devices.Joystick != nullptr) {
-        return true;
+    if (Devices.Joystick == nullptr && !SDL_IsGamepad(Id)) {
+        Devices.Joystick = SDL_OpenJoystick(Id);
+        Devices.JoystickId = Devices.Joystick != nullptr ? Id : 0;
     }
-    if (SDL_IsGamepad(Id)) {
-        return false;
-    }
-    Devices.Joystick = SDL_OpenJoystick(Id);
-    if (Devices.Joystick == nullptr) {
-        return false;
-    }
-    Devices.JoystickId = Id;
-    return true;
+    return Devices.Joystick != nullptr;
 }
 
 void HandleHotPlug(InputDevices &Devices, const SDL_Event &Event) {
     switch (Event.type) {
     case SDL_EVENT_GAMEPAD_ADDED:
-        if (Devices.Gamepad == nullptr) {
-            TryOpenGamepad(Devices, Event.gdevice.which);
-        }
+        TryOpenGamepad(Devices, Event.gdevice.which);
         break;
     case SDL_EVENT_GAMEPAD_REMOVED:
         if (IsOpenGamepad(Devices, Event.gdevice.which)) {

@@ -2,8 +2,10 @@
 
 #include <SDL3/SDL.h>
 
-/// The one gamepad and the one joystick that the game listens to, with the latches that turn their sticks'
-/// excursions into single menu presses. A joystick is a device that SDL does not know as a gamepad.
+/// The one gamepad and the one joystick that the game listens to; a joystick is a device that SDL does not
+/// know as a gamepad. A device that is open is to be closed by the owner, with CloseInputDevices. One that is
+/// not is null, with an id of 0. A latch is set from a stick's menu press to one side until it is back near
+/// the centre or presses to the other side (AxisToMenuKey).
 struct InputDevices {
     SDL_Gamepad *Gamepad = nullptr;
     SDL_JoystickID GamepadId = 0;
@@ -19,21 +21,21 @@ struct InputDevices {
     bool JoystickDownLatch = false;
 };
 
-/// Whether an event comes from the gamepad or the joystick that is open. A second one of a kind is unheard.
+/// Whether Id is that of the open gamepad or joystick. Events of any other device are to be ignored.
 bool IsOpenGamepad(const InputDevices &Devices, SDL_JoystickID Id);
 bool IsOpenJoystick(const InputDevices &Devices, SDL_JoystickID Id);
 
-/// Fills whichever of the two slots is empty with the first device that opens. A device that does not is
-/// skipped without a word.
+/// Opens the first gamepad that can be opened, unless one is open, and the first joystick likewise. A device
+/// that cannot be opened is skipped, and nothing is logged.
 void OpenFirstInputDevices(InputDevices &Devices);
 
-/// Opens a joystick into its slot. True if the slot is occupied afterwards by whatever means, false if Id is
-/// a gamepad or cannot be opened.
+/// Opens a joystick, unless one is open. True if one is open afterwards, whichever; false if Id is a gamepad
+/// or cannot be opened.
 bool TryOpenJoystick(InputDevices &Devices, SDL_JoystickID Id);
 
-/// Opens and closes devices as they come and go; every other event is ignored. A device that goes in the
-/// middle of a run pauses nothing, and the next one that is there takes its place.
+/// Opens and closes devices as they are plugged in and out; every other event is ignored. When an open device
+/// is unplugged, the next one of its kind is opened at once; a run is not paused.
 void HandleHotPlug(InputDevices &Devices, const SDL_Event &Event);
 
-/// Closes what is open, the gamepad first.
+/// Closes what is open, the gamepad first. Devices is then as if new.
 void CloseInputDevices(InputDevices &Devices);

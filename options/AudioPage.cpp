@@ -12,19 +12,21 @@ namespace {
 
 constexpr std::int32_t VolumeStep = 5;
 
-/// Steps are not snapped: 37 goes to 42. There is no wrapping.
+/// Steps are not snapped, so that 37 goes to 42, and end at 0 and 100.
 void StepVolume(std::int32_t &Percent, std::int32_t Direction) {
     Percent = std::clamp(Percent + Direction * VolumeStep, 0, MaxVolume);
 }
 
-/// Where cycling starts in a catalogue that is not empty: the pending language, or else the default one, or
-/// else the first.
-const LanguageEntry &PresentLanguage(const std::string &Code) {
-    const LanguageEntry *entry = FindLanguage(Code);
-    if (entry == nullptr) {
-        entry = FindLanguage(NormalizeLanguageCode(Localization.DefaultLanguage));
+/// The place in the catalogue where cycling starts: that of a language, or else of the default one, or else
+/// the first.
+std::int32_t PlaceOfLanguage(const std::string &Code) {
+    const std::vector<LanguageEntry> &languages = Localization.Languages;
+    auto found = std::ranges::find(languages, Code, &LanguageEntry::Code);
+    if (found == languages.end()) {
+        const std::string defaultCode = NormalizeLanguageCode(Localization.DefaultLanguage);
+        found = std::ranges::find(languages, defaultCode, &LanguageEntry::Code);
     }
-    return entry != nullptr ? *entry : Localization.Languages.front();
+    return found != languages.end() ? static_cast<std::int32_t>(found - languages.begin()) : 0;
 }
 
 void Adjust(GameState &State, std::int32_t Direction) {
@@ -52,7 +54,7 @@ void Adjust(GameState &State, std::int32_t Direction) {
     }
 }
 
-/// The language is left as it is, and that is meant.
+/// NOT-BUGS: DEFAULT SETTINGS of the audio page leaves the language alone
 void UseDefaults(GameState &State) {
     State.PendingMasterVolume = DefaultMasterVolume;
     State.PendingMusicVolume = DefaultMusicVolume;
@@ -83,7 +85,7 @@ void Apply(GameState &State) {
     BeginAudioEdit(State);
 }
 
-/// What was not applied is lost without a question, and that is meant.
+/// NOT-BUGS: A page that is left drops what was not applied
 void Leave(GameState &State) {
     if (AudioEditDirty(State)) {
         BeginAudioEdit(State);
@@ -142,9 +144,10 @@ void CycleLanguage(GameState &State, std::int32_t Direction) {
         return;
     }
     const std::string pending = NormalizeLanguageCode(State.PendingLanguage);
-    const auto place = static_cast<std::int32_t>(&PresentLanguage(pending) - languages.data());
     const auto count = static_cast<std::int32_t>(languages.size());
-    const std::string &code = languages[static_cast<std::size_t>(StepRound(place, Direction, count))].Code;
+    const std::int32_t next = StepRound(PlaceOfLanguage(pending), Direction, count);
+    const std::string &code = languages[static_cast<std::size_t>(next)].Code;
+    // The only language that there is keeps its spelling.
     if (code != pending) {
         State.PendingLanguage = code;
     }
@@ -154,11 +157,7 @@ void HandleAudioPageKey(GameState &State, std::int32_t Scancode) {
     if (!State.PendingAudioValid) {
         BeginAudioEdit(State);
     }
-    if (IsKeyUp(Scancode)) {
-        State.AudioSelection = RowAbove(State.AudioSelection, AudioRowCount);
-    } else if (IsKeyDown(Scancode)) {
-        State.AudioSelection = RowBelow(State.AudioSelection, AudioRowCount);
-    } else if (IsKeyLeft(Scancode)) {
+    if (IsKeyLeft(Scancode)) {
         Adjust(State, -1);
     } else if (IsKeyRight(Scancode)) {
         Adjust(State, 1);
@@ -166,5 +165,7 @@ void HandleAudioPageKey(GameState &State, std::int32_t Scancode) {
         Activate(State);
     } else if (IsKeyEscape(Scancode)) {
         Leave(State);
+    } else {
+        MoveSelection(State.AudioSelection, AudioRowCount, Scancode);
     }
 }

@@ -8,6 +8,7 @@
 
 namespace {
 
+/// Whether there is a mode and it tells a size.
 bool HasSize(const SDL_DisplayMode *Mode) {
     return Mode != nullptr && Mode->w > 0 && Mode->h > 0;
 }

@@ -2,6 +2,7 @@
 
 struct GameState;
 
-/// Makes the desktop's own size the one resolution and takes its shape, for a first launch. Without a display
-/// that tells its size everything stays as it is.
+/// For a first launch: makes the size of the primary display's desktop, in physical pixels, the one
+/// resolution, and sets AspectMode and LogicalWidth by its shape. Without a display that tells its size
+/// nothing changes.
 void UseDesktopSize(GameState &State);

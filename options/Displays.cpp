@@ -7,6 +7,7 @@
 #include "state/Resolutions.hpp"
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -26,13 +27,13 @@ std::int32_t RoundedRate(const SDL_DisplayMode &Mode) {
 }
 
 void ListDisplayModes(GameState &State, SDL_DisplayID Display) {
-    SDL_DisplayMode **modes = SDL_GetFullscreenDisplayModes(Display, nullptr);
-    for (SDL_DisplayMode **mode = modes; mode != nullptr && *mode != nullptr; ++mode) {
+    const std::unique_ptr<SDL_DisplayMode *, decltype(&SDL_free)> modes(
+        SDL_GetFullscreenDisplayModes(Display, nullptr), SDL_free);
+    for (SDL_DisplayMode **mode = modes.get(); mode != nullptr && *mode != nullptr; ++mode) {
         if ((*mode)->w > 0 && (*mode)->h > 0) {
             AppendNew(State.DisplayModes, DisplayMode{(*mode)->w, (*mode)->h, RoundedRate(**mode)});
         }
     }
-    SDL_free(static_cast<void *>(modes));
 }
 
 void ListResolutions(GameState &State) {
@@ -51,10 +52,8 @@ void ListResolutions(GameState &State) {
 } // namespace
 
 SDL_DisplayID FirstDisplay() {
-    SDL_DisplayID *displays = SDL_GetDisplays(nullptr);
-    const SDL_DisplayID first = displays != nullptr ? displays[0] : 0;
-    SDL_free(displays);
-    return first;
+    const std::unique_ptr<SDL_DisplayID, decltype(&SDL_free)> displays(SDL_GetDisplays(nullptr), SDL_free);
+    return displays != nullptr ? *displays : 0;
 }
 
 void RebuildDisplayLists(GameState &State, SDL_Window *Window) {

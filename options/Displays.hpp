@@ -7,8 +7,8 @@ struct GameState;
 /// The first display that SDL lists; 0 if there is none.
 SDL_DisplayID FirstDisplay();
 
-/// Refills DisplayModes, Resolutions and RefreshRates from the window's display (the first one without a
-/// window) and points ResolutionIndex to the resolution that was current, or to a middling one (of height 720
-/// in the built-in lists). Where no size of the display fits the aspect mode, the built-in resolutions stand
-/// in.
+/// Refills DisplayModes, Resolutions and RefreshRates from the display of the window, or the first one where
+/// Window is null. Resolutions are the sizes that fit the aspect mode, or the built-in ones where none fits.
+/// ResolutionIndex then points to the size that was current before, or else to the place that has a height of
+/// 720 in the built-in list, or to the last. A RefreshRate that is not offered there becomes automatic (0).
 void RebuildDisplayLists(GameState &State, SDL_Window *Window);

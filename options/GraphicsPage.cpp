@@ -15,11 +15,7 @@ namespace {
 constexpr Resolution DefaultResolution{1280, 720};
 
 void StepResolution(GameState &State, std::int32_t Direction) {
-    const auto count = static_cast<std::int32_t>(ResolutionsInForce(State).size());
-    if (count < 1) {
-        State.ResolutionIndex = 0;
-        return;
-    }
+    const auto count = static_cast<std::int32_t>(ResolutionsInForce(State).size()); // never 0
     State.ResolutionIndex = StepRound(std::clamp(State.ResolutionIndex, 0, count - 1), Direction, count);
     RebuildRefreshRates(State);
 }
@@ -45,7 +41,8 @@ void SelectSnapshotMode(GameState &State) {
     RebuildRefreshRates(State);
 }
 
-/// The size is looked up before the lists are rebuilt: coming from 4:3 another one can come out. This stays.
+/// The size is looked up before the lists are rebuilt.
+/// NOT-BUGS: DEFAULT SETTINGS of the graphics page can come out at another size than 1280 by 720
 void UseDefaults(GameState &State, SDL_Window *Window) {
     State.AspectMode = AspectWidescreen;
     State.ResolutionIndex = FindResolutionIndex(
@@ -64,7 +61,7 @@ void Apply(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer) {
     BeginGraphicsEdit(State, Window);
 }
 
-/// What was not applied is lost without a question, and that is meant.
+/// NOT-BUGS: A page that is left drops what was not applied
 void Leave(GameState &State, SDL_Window *Window) {
     if (GraphicsEditDirty(State)) {
         RevertGraphicsEdit(State, Window);
@@ -140,7 +137,8 @@ void AdjustGraphicsRow(GameState &State, SDL_Window *Window, std::int32_t Direct
         break;
     case GraphicsRow::DisplayMode:
         State.Fullscreen = !State.Fullscreen;
-        RebuildDisplayLists(State, Window); // rates are offered in fullscreen only
+        // Rates are offered in fullscreen only.
+        RebuildDisplayLists(State, Window);
         break;
     case GraphicsRow::VSync:
         State.VSync = !State.VSync;
@@ -155,11 +153,7 @@ void HandleGraphicsPageKey(
     if (!State.GraphicsSnapshotValid) {
         BeginGraphicsEdit(State, Window);
     }
-    if (IsKeyUp(Scancode)) {
-        State.GraphicsSelection = RowAbove(State.GraphicsSelection, GraphicsRowCount);
-    } else if (IsKeyDown(Scancode)) {
-        State.GraphicsSelection = RowBelow(State.GraphicsSelection, GraphicsRowCount);
-    } else if (IsKeyLeft(Scancode)) {
+    if (IsKeyLeft(Scancode)) {
         AdjustGraphicsRow(State, Window, -1);
     } else if (IsKeyRight(Scancode)) {
         AdjustGraphicsRow(State, Window, 1);
@@ -167,5 +161,7 @@ void HandleGraphicsPageKey(
         Activate(State, Window, Renderer);
     } else if (IsKeyEscape(Scancode)) {
         Leave(State, Window);
+    } else {
+        MoveSelection(State.GraphicsSelection, GraphicsRowCount, Scancode);
     }
 }

@@ -13,10 +13,10 @@ template <typename Thing> void ShiftThings(std::vector<Thing> &Things, float Del
     }
 }
 
-/// Takes the width of a resolution's shape and keeps a run in progress where it is on the road.
-void ChangeLogicalWidth(GameState &State, const Resolution &Resolution) {
+/// Sets LogicalWidth by the shape of a resolution and moves all that is on the road along with it.
+void ChangeLogicalWidth(GameState &State, const Resolution &Size) {
     const std::int32_t old = LogicalWidth;
-    ComputeLogicalWidth(State.AspectMode, Resolution.Width, Resolution.Height);
+    ComputeLogicalWidth(State.AspectMode, Size.Width, Size.Height);
     if (old <= 0 || LogicalWidth <= 0 || old == LogicalWidth) {
         return;
     }
@@ -28,9 +28,9 @@ void ChangeLogicalWidth(GameState &State, const Resolution &Resolution) {
 }
 
 void EnterFullscreen(SDL_Window *Window, bool WasFullscreen) {
-    // Without a mode of its own the window is borderless on the desktop: no video mode is ever switched. In
-    // fullscreen the resolution thus only shapes the logical screen, and the refresh rate is a wish that is
-    // kept but never handed on. Both are meant.
+    // With a null mode the window is a borderless one that covers the desktop.
+    // NOT-BUGS: In fullscreen the resolution only chooses the shape of the picture
+    // NOT-BUGS: The refresh rate is kept and never used
     if (!SDL_SetWindowFullscreenMode(Window, nullptr)) {
         SDL_Log("SDL_SetWindowFullscreenMode(borderless) failed: %s", SDL_GetError());
     }
@@ -46,7 +46,7 @@ void EnterWindowed(SDL_Window *Window, bool WasFullscreen, const Resolution &Siz
     if (!SDL_SetWindowSize(Window, Size.Width, Size.Height)) {
         SDL_Log("SDL_SetWindowSize(%d, %d) failed: %s", Size.Width, Size.Height, SDL_GetError());
     }
-    // A window that was one before keeps its place.
+    // A window that was not fullscreen keeps its place.
     if (WasFullscreen && !SDL_SetWindowPosition(Window, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED)) {
         SDL_Log("SDL_SetWindowPosition(centered) failed: %s", SDL_GetError());
     }

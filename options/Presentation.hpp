@@ -4,10 +4,11 @@
 
 struct GameState;
 
-/// Letterboxes the logical screen into the window; without a window nothing happens. A failure is logged.
+/// Has the renderer fit the logical screen into the window, whole and with bars at two sides where the shapes
+/// differ. A failure is logged. Without a window (null) nothing happens.
 void ApplyLogicalPresentation(SDL_Window *Window, SDL_Renderer *Renderer);
 
-/// Brings window and renderer in line with the options: logical width (a run in progress moves along with the
-/// road), fullscreen state, window size, vertical sync (VSyncActive becomes what the renderer reports).
-/// Failures are logged and never undo anything; the frame clock restarts. Without a window nothing happens.
+/// Brings LogicalWidth, window and renderer in line with the applied display options. What is on the road
+/// keeps its place on it, VSyncActive becomes what the renderer reports, and ResetFrameClock is set. A call
+/// that fails is logged, and the rest is done all the same. Without a window (null) nothing happens.
 void ApplyDisplaySettings(GameState &State, SDL_Window *Window, SDL_Renderer *Renderer);

@@ -63,10 +63,20 @@ inline constexpr BindingTable DefaultGamepadBindings{0, 2, 3, 0, 1};
 /// NOT-BUGS: Fire and confirm share a button
 inline constexpr BindingTable DefaultJoystickBindings{0, 1, 2, 0, 3};
 
-/// The values that an SDL scancode and an SDL gamepad button of a table may have.
+/// The values that an SDL scancode and an SDL gamepad button of a table may have; the buttons begin at 0.
 inline constexpr std::int32_t FirstScancode = 1;
 inline constexpr std::int32_t LastScancode = 511;
 inline constexpr std::int32_t LastGamepadButton = 25;
+
+/// Whether a value stands for a key of the keyboard.
+constexpr bool IsScancode(std::int32_t Value) {
+    return Value >= FirstScancode && Value <= LastScancode;
+}
+
+/// Whether a value stands for a button of a gamepad.
+constexpr bool IsGamepadButton(std::int32_t Value) {
+    return Value >= 0 && Value <= LastGamepadButton;
+}
 
 /// What stands in a row that nothing is bound to.
 inline constexpr std::int32_t UnboundKey = 0;

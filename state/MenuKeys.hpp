@@ -1,5 +1,7 @@
 #pragma once
 
+#include "state/MenuRows.hpp"
+
 #include <cstdint>
 
 // The keys that move menus, as SDL scancodes. They are fixed: rebinding does not touch them.
@@ -52,4 +54,16 @@ constexpr bool IsKeyClear(std::int32_t Scancode) {
 
 constexpr bool IsKeyEscape(std::int32_t Scancode) {
     return Scancode == ScancodeEscape;
+}
+
+/// Moves a selection among Count rows by the keys for up and down, round the ends. False for any other key.
+template <typename Index> constexpr bool MoveSelection(Index &Selection, Index Count, std::int32_t Scancode) {
+    if (IsKeyUp(Scancode)) {
+        Selection = RowAbove(Selection, Count);
+    } else if (IsKeyDown(Scancode)) {
+        Selection = RowBelow(Selection, Count);
+    } else {
+        return false;
+    }
+    return true;
 }

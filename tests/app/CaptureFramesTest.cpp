@@ -1,6 +1,6 @@
 #include "app/Events.hpp"
 #include "app/OptionsKeys.hpp"
-#include "input/ControlsPage.hpp"
+#include "options/ControlsPage.hpp"
 #include "sim/NewRun.hpp"
 #include "tests/app/ProgramTest.hpp"
 #include "tests/app/PushEvents.hpp"

@@ -1,7 +1,7 @@
 #include "app/KeyHandler.hpp"
 #include "app/OptionsKeys.hpp"
-#include "input/ControlsPage.hpp"
 #include "options/AudioPage.hpp"
+#include "options/ControlsPage.hpp"
 #include "options/GraphicsPage.hpp"
 #include "sim/FirstAid.hpp"
 #include "tests/app/KeyTest.hpp"

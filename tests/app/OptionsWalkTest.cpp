@@ -1,7 +1,7 @@
 #include "app/KeyHandler.hpp"
 #include "app/OptionsKeys.hpp"
-#include "input/ControlsPage.hpp"
 #include "options/AudioPage.hpp"
+#include "options/ControlsPage.hpp"
 #include "options/GraphicsPage.hpp"
 #include "state/LogicalScreen.hpp"
 #include "state/Resolutions.hpp"

@@ -1,6 +1,6 @@
 #include "input/BindingLabels.hpp"
 
-#include "tests/input/TextScope.hpp"
+#include "tests/support/TextScope.hpp"
 #include "tests/support/watch/SdlWatch.hpp"
 
 #include <gtest/gtest.h>

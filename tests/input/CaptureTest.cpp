@@ -1,7 +1,7 @@
 #include "input/Capture.hpp"
 
-#include "tests/input/ControlsTest.hpp"
 #include "tests/input/InputTest.hpp"
+#include "tests/support/ControlsTest.hpp"
 
 #include <limits>
 #include <optional>

@@ -2,7 +2,7 @@
 
 #include "state/GameState.hpp"
 #include "tests/input/InputTest.hpp"
-#include "tests/input/TextScope.hpp"
+#include "tests/support/TextScope.hpp"
 
 #include <optional>
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 TEST(Bindings, TheKeyboardStartsWithTheArrowsLeftControlXAndSpace) {
     EXPECT_EQ(BindingOf(DefaultKeyboardBindings, KeyboardAction::MoveLeft), 80);
     EXPECT_EQ(BindingOf(DefaultKeyboardBindings, KeyboardAction::MoveRight), 79);
@@ -37,7 +39,12 @@ TEST(Bindings, RowsFollowTheOrderOfTheActions) {
     EXPECT_EQ(BindingOf(table, PadAction::Back), 14);
 }
 
-TEST(Bindings, ValidValuesEndWhereTheirTablesDo) {
+TEST(Bindings, ScancodesGoFrom1To511AndGamepadButtonsFrom0To25) {
+    for (const std::int32_t value : {std::numeric_limits<std::int32_t>::min(), -1, 0, 1, 25, 26, 511, 512,
+             std::numeric_limits<std::int32_t>::max()}) {
+        EXPECT_EQ(IsScancode(value), value >= 1 && value <= 511) << value;
+        EXPECT_EQ(IsGamepadButton(value), value >= 0 && value <= 25) << value;
+    }
     EXPECT_EQ(FirstScancode, 1);
     EXPECT_EQ(LastScancode, 511);
     EXPECT_EQ(LastGamepadButton, 25);

@@ -1,13 +1,11 @@
+#include "tests/tree/SourceTree.hpp"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <regex>
-#include <sstream>
-#include <string>
-#include <vector>
 
 // Which room may use which stands once, in the kestrel_room of its CMakeLists.txt. Here the rooms are held to
 // it: each links only rooms that stand above it, includes only what it links, and links only what it
@@ -15,75 +13,11 @@
 
 namespace {
 
-namespace fs = std::filesystem;
-
-using Names = std::vector<std::string>;
-
-struct Room {
-    std::string Name;
-    Names Links; ///< as the folders that they let in: other rooms, "SDL3", "SDL3_mixer"
-};
-
 /// An include that names a folder, as in "sim" of "sim/Lanes.hpp".
 struct Include {
     std::string Folder;
     std::string Place; ///< the file and the line, for a failure's words
 };
-
-const fs::path &Tree() {
-    static const fs::path tree(SOURCE_TREE);
-    return tree;
-}
-
-std::string TextOf(const fs::path &File) {
-    std::ostringstream text;
-    text << std::ifstream(File).rdbuf();
-    return text.str();
-}
-
-/// What the first group of a pattern matches, from the beginning of a text to its end.
-Names AllMatches(const std::string &Text, const std::string &Pattern) {
-    const std::regex pattern(Pattern, std::regex::ECMAScript | std::regex::multiline);
-    Names found;
-    for (std::sregex_iterator match(Text.begin(), Text.end(), pattern), end; match != end; ++match) {
-        found.push_back((*match)[1].str());
-    }
-    return found;
-}
-
-/// The rooms that a CMakeLists.txt declares, comments left aside.
-std::vector<Room> DeclaredRooms(const std::string &CMakeText) {
-    const std::string code = std::regex_replace(CMakeText, std::regex("#[^\n]*"), "");
-    std::vector<Room> rooms;
-    for (const std::string &arguments : AllMatches(code, R"(\bkestrel_room\s*\(([^)]*)\))")) {
-        std::istringstream words(arguments);
-        Room room;
-        words >> room.Name;
-        for (std::string link; words >> link;) {
-            room.Links.push_back(link.substr(0, link.find("::")));
-        }
-        rooms.push_back(room);
-    }
-    return rooms;
-}
-
-/// The folders of the build, from top to bottom.
-Names FoldersOfTheBuild() {
-    return AllMatches(TextOf(Tree() / "CMakeLists.txt"), R"(^\s*add_subdirectory\(([^)\s]+)\))");
-}
-
-/// All rooms, from top to bottom.
-const std::vector<Room> &Rooms() {
-    static const std::vector<Room> rooms = [] {
-        std::vector<Room> found;
-        for (const std::string &folder : FoldersOfTheBuild()) {
-            std::ranges::copy(
-                DeclaredRooms(TextOf(Tree() / folder / "CMakeLists.txt")), std::back_inserter(found));
-        }
-        return found;
-    }();
-    return rooms;
-}
 
 Names NamesOf(const std::vector<Room> &Rooms) {
     Names names;
@@ -103,21 +37,14 @@ std::string FolderOfInclude(const std::string &Line) {
     return std::regex_search(Line, match, pattern) ? match[1].str() : std::string();
 }
 
-bool IsSource(const fs::path &File) {
-    return File.extension() == ".cpp" || File.extension() == ".hpp";
-}
-
 std::vector<Include> IncludesOfRoom(const std::string &Name) {
     std::vector<Include> includes;
-    for (const auto &entry : fs::recursive_directory_iterator(Tree() / Name)) {
-        if (!IsSource(entry.path())) {
-            continue;
-        }
-        std::ifstream file(entry.path());
+    for (const std::filesystem::path &source : SourcesOfRoom(Name)) {
+        std::ifstream file(source);
         for (std::string line; std::getline(file, line);) {
             const std::string folder = FolderOfInclude(line);
             if (!folder.empty()) {
-                includes.push_back({folder, entry.path().filename().string() + ": " + line});
+                includes.push_back({folder, source.filename().string() + ": " + line});
             }
         }
     }

@@ -1,8 +1,8 @@
-#include "input/ControlsPage.hpp"
+#include "options/ControlsPage.hpp"
 
 #include "input/BindingLabels.hpp"
-#include "tests/input/ControlsTest.hpp"
-#include "tests/input/TextScope.hpp"
+#include "tests/support/ControlsTest.hpp"
+#include "tests/support/TextScope.hpp"
 
 #include <algorithm>
 #include <functional>

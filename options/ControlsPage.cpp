@@ -1,4 +1,4 @@
-#include "input/ControlsPage.hpp"
+#include "options/ControlsPage.hpp"
 
 #include "input/Capture.hpp"
 #include "state/GameState.hpp"
@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::int32_t DeviceCount = 3;
 
-/// Goes round all devices, connected or not.
+/// Shows the next device's table, also where no such device is open.
 void CycleDevice(GameState &State, std::int32_t Direction) {
     State.PendingControlsDevice =
         static_cast<enum ControlsDevice>(StepRound(State.PendingControlsDevice, Direction, DeviceCount));
@@ -33,7 +33,7 @@ void Apply(GameState &State) {
     BeginControlsEdit(State);
 }
 
-/// Unapplied bindings are lost without a question, and that is meant.
+/// NOT-BUGS: A page that is left drops what was not applied
 void Leave(GameState &State) {
     if (ControlsEditDirty(State)) {
         BeginControlsEdit(State);
@@ -92,11 +92,7 @@ void HandleControlsPageKey(GameState &State, std::int32_t Scancode) {
         BeginControlsEdit(State);
     }
     const bool onDevice = State.ControlsSelection == static_cast<std::int32_t>(ControlsRow::Device);
-    if (IsKeyUp(Scancode)) {
-        State.ControlsSelection = RowAbove(State.ControlsSelection, ControlsRowCount);
-    } else if (IsKeyDown(Scancode)) {
-        State.ControlsSelection = RowBelow(State.ControlsSelection, ControlsRowCount);
-    } else if (IsKeyLeft(Scancode) && onDevice) {
+    if (IsKeyLeft(Scancode) && onDevice) {
         CycleDevice(State, -1);
     } else if (IsKeyRight(Scancode) && onDevice) {
         CycleDevice(State, 1);
@@ -104,5 +100,7 @@ void HandleControlsPageKey(GameState &State, std::int32_t Scancode) {
         Activate(State);
     } else if (IsKeyEscape(Scancode)) {
         Leave(State);
+    } else {
+        MoveSelection(State.ControlsSelection, ControlsRowCount, Scancode);
     }
 }
