@@ -124,7 +124,6 @@ bool StartUp(Program &Program) {
         return false;
     }
     DressWindow(Program);
-    Program.Music = MusicRuntime{};
     RebuildDisplayLists(Program.State, Program.Window);
     if (!configExisted) {
         WriteFirstOptions(Program);
