@@ -38,6 +38,6 @@ void RenderCredits(SDL_Renderer *Renderer, const GameState &State) {
         const float nameY = base + (credit.Drop + NameDrop);
         DrawTextCentered(
             Renderer, GetText(credit.Heading), centerX, base + credit.Drop, MenuScale, SelectedColor);
-        DrawTextCentered(Renderer, Name, centerX, nameY, MenuScale, OtherNameColor);
+        DrawTextCentered(Renderer, Name, centerX, nameY, MenuScale, NameColor);
     }
 }
