@@ -6,10 +6,11 @@
 
 struct GameState;
 
-// The scrolling scenery of a run. Themes are the values of StageThemeOf; Y0 and Y1 bound a band of the screen
-// in logical pixels.
+// The scrolling scenery of a run. Themes are the values of StageThemeOf; any other counts as 0. Y0 and Y1
+// bound a band of the screen in logical pixels; an empty one draws nothing.
 
-/// Tiles the two strips beside the road between Y0 and Y1. FlowDirection (-1 or +1) is where water drifts.
+/// Tiles the two strips beside the road between Y0 and Y1. Water drifts left where FlowDirection is -1, right
+/// where it is 1.
 void DrawGround(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme, float Y0, float Y1,
     std::int32_t FlowDirection);
 
