@@ -51,7 +51,7 @@ bool CreateMusicTrack(const GameState &State, MusicRuntime &Runtime) {
 }
 
 void CreateSfx(const GameState &State, MusicRuntime &Runtime) {
-    // A record that was in use before must not lose hold of its objects.
+    // What an earlier start on the same record may have left must not leak.
     DestroySfxTracks(Runtime);
     DestroySfxAudio(Runtime);
     for (const SfxRecipe &recipe : SfxRecipes) {

@@ -14,8 +14,7 @@ std::int64_t FrameCount(const SfxRecipe &Recipe, int Rate) {
     return Rate * Recipe.Duration / 1000;
 }
 
-/// The loudness of a frame, 0 to 1: it rises for a five-hundredth of a second from the first frame on, and
-/// falls for a hundred-and-sixtieth to the last.
+/// The loudness of a frame, 0 to 1: it rises in the first 500th of a second and falls in the last 160th.
 float Envelope(std::int64_t Frame, std::int64_t Frames, int Rate) {
     const auto attack = static_cast<float>(std::max(Rate / 500, 1));
     const auto release = static_cast<float>(std::max(Rate / 160, 1));

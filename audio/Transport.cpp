@@ -121,8 +121,8 @@ bool IsAtLoopBoundary(const MusicPlayer &Player, std::int64_t Position) {
     return !loops && !MIX_TrackPlaying(Player.Track);
 }
 
-/// What the game asks for beats what follows in the chain; a pattern that follows itself just goes on
-/// looping.
+/// A pattern that was asked for comes before the one that follows in the chain; one that follows itself goes
+/// on looping.
 void PassLoopBoundary(MusicRuntime &Runtime) {
     MusicPlayer &player = Runtime.Player;
     if (player.RequestedPattern == nullptr) {

@@ -102,7 +102,7 @@ SurfaceOwner ReadSprite(SDL_Renderer *Renderer, SpriteId Id) {
     const SDL_FRect &source = SpriteAtlas.Source[static_cast<std::size_t>(Id)];
     const SDL_Rect rect{static_cast<int>(std::lround(source.x)), static_cast<int>(std::lround(source.y)),
         static_cast<int>(std::lround(source.w)), static_cast<int>(std::lround(source.h))};
-    // The atlas that BuildTextureAtlas makes has no such sprite, but its record is open to all.
+    // BuildTextureAtlas stores no such size, but any code can write to the record.
     if (rect.w < 1 || rect.h < 1) {
         SDL_SetError("The sprite has no size");
         return nullptr;

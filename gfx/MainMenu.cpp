@@ -17,7 +17,7 @@ constexpr std::string_view FirstWord = "KESTREL";
 constexpr std::string_view SecondWord = "VOLLEY";
 constexpr std::uint32_t FirstWordColor = 0xFFFF8237;
 constexpr std::uint32_t SecondWordColor = 0xFF32A0F5;
-constexpr float FirstWordLeft = 362.0F; ///< of the centre; the second word stands staggered below
+constexpr float FirstWordLeft = 362.0F; ///< of the centre
 constexpr float SecondWordLeft = 60.0F;
 constexpr float SecondWordDrop = 112.0F; ///< drops are below the top of the title
 
@@ -25,11 +25,11 @@ constexpr int SmallScale = 3;
 constexpr std::string_view VersionText = "v" KESTREL_VERSION;
 constexpr float VersionDrop = 198.0F;
 constexpr float VersionMargin = 22.0F; ///< from the right edge
-constexpr float VersionMinimum = 8.0F; ///< right of the centre
+constexpr float VersionMinimum = 8.0F; ///< least distance right of the centre
 constexpr std::uint32_t VersionColor = 0xFF919191;
 
 constexpr float MinTop = 24.0F;
-constexpr float Room = 682.0F; ///< in which the block is centred
+constexpr float Room = 682.0F; ///< height in which the block is centred
 constexpr float HeightBesideList = 304.0F;
 
 constexpr float RowsDrop = 250.0F;

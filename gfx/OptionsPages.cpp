@@ -55,7 +55,7 @@ void DrawMainPage(SDL_Renderer *Renderer, const GameState &State, const InputDev
         ScreenCenterX(), MainDeviceLineY);
 }
 
-/// The device line of the pages behind the main one.
+/// The device line of all pages but the main one.
 std::string PageDeviceLine(const GameState &State, const InputDevices &Devices) {
     return ControllerHint(
         State, Devices, GetText(TextKey::ControllerHintSelect), GetText(TextKey::ControllerHintBack));

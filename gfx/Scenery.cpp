@@ -190,7 +190,7 @@ void DrawScenery(SDL_Renderer *Renderer, const GameState &State) {
     const std::int32_t oldTheme = StageThemeOf(State.PreviousStage);
     const std::int32_t newTheme = StageThemeOf(State.Stage);
     const float seam = std::clamp(State.StageTransition, 0.0F, 1.0F) * LogicalHeightF;
-    // Only a seam on the screen parts it: NaN, which a damaged run may hold, does not.
+    // Also false for NaN, should a damaged run hold that.
     if (oldTheme != newTheme && seam < LogicalHeightF) {
         DrawTwoBands(Renderer, State, oldTheme, newTheme, seam);
     } else {
