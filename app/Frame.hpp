@@ -11,9 +11,8 @@ inline constexpr float MaxDeltaSeconds = 0.033F;
 /// The least time between the beginnings of two frames without active vertical sync.
 inline constexpr Uint64 MinFrameMilliseconds = 8;
 
-/// The credits' speed in logical pixels a second, and the position past which they end.
+/// The credits' speed in logical pixels a second.
 inline constexpr float CreditsScrollSpeed = 42.0F;
-inline constexpr float CreditsScrollEnd = 1090.0F;
 
 /// The seconds between two ticks in milliseconds, the earlier one first; at most MaxDeltaSeconds.
 float DeltaSecondsBetween(Uint64 LastFrameTicks, Uint64 Now);

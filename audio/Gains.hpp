@@ -6,18 +6,17 @@
 
 struct GameState;
 
-// Gains in percent, 0 to 100, as the options have them: the master volume times a volume of its own.
-
-/// 0 while music is switched off.
+/// The master volume times the music's volume, in percent, 0 to 100; 0 while music is switched off.
 std::int32_t EffectiveMusicGain(const GameState &State);
-/// 0 while effects are switched off.
+
+/// The same for the sounds.
 std::int32_t EffectiveSfxGain(const GameState &State);
 
-/// A percentage as a track's gain, 0 to 1.
+/// A percentage as a track's gain, 0 to 1; one outside of 0 to 100 counts as the nearest in it.
 float TrackGain(std::int32_t Percent);
 
-/// Sets the player's gain on its track. False as MIX_SetTrackGain says; true if there is no track.
+/// Sets *Player.GainPercent on the player's track. False as MIX_SetTrackGain says; true if there is no track.
 bool ApplyMusicGain(const MusicPlayer &Player);
 
-/// Sets a gain of 0 to 1 on every voice; one that refuses is logged.
+/// Sets a gain of 0 to 1 on every voice; a refusal of the mixer is logged.
 void ApplySfxGain(const MusicRuntime &Runtime, float Gain);

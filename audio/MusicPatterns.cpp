@@ -14,61 +14,36 @@ constexpr const char *MusicSection = "Music";
 constexpr std::string_view PatternPrefix = "Pattern.";
 constexpr std::int32_t MaxFadeMs = 5000;
 
-/// What a pattern is for: its key in the document, its name in the runtime, and the role that stands in where
-/// it names no pattern. The first has the first pattern of the list.
+/// A use of a pattern in the game.
 struct MusicRole {
-    const char *Key;
-    std::string MusicRuntime::*Pattern;
+    const char *Key;                    ///< in the section "Music"
+    std::string MusicRuntime::*Pattern; ///< the name of its pattern
+    /// The role whose pattern stands in for one that does not exist; null for the first pattern of the list.
     std::string MusicRuntime::*Fallback;
+    const char *BuiltInFile; ///< of its pattern in the built-in document
 };
 
-constexpr std::array<MusicRole, 6> Roles{{
-    {"MenuPattern", &MusicRuntime::MenuPattern, nullptr},
-    {"GameplayPattern", &MusicRuntime::GameplayPattern, &MusicRuntime::MenuPattern},
-    {"WaterPattern", &MusicRuntime::WaterPattern, &MusicRuntime::GameplayPattern},
-    {"GameOverPattern", &MusicRuntime::GameOverPattern, &MusicRuntime::GameplayPattern},
-    {"InvincibilityPattern", &MusicRuntime::InvincibilityPattern, &MusicRuntime::GameplayPattern},
-    {"DualWeaponPattern", &MusicRuntime::DualWeaponPattern, &MusicRuntime::GameplayPattern},
-}};
+// A role stands behind its fallback.
+constexpr auto Roles = std::to_array<MusicRole>({
+    {"MenuPattern", &MusicRuntime::MenuPattern, nullptr, "Music/MenuCredits.ogg"},
+    {"GameplayPattern", &MusicRuntime::GameplayPattern, &MusicRuntime::MenuPattern, "Music/Gameplay.ogg"},
+    {"WaterPattern", &MusicRuntime::WaterPattern, &MusicRuntime::GameplayPattern, "Music/Water.ogg"},
+    {"GameOverPattern", &MusicRuntime::GameOverPattern, &MusicRuntime::GameplayPattern, "Music/GameOver.ogg"},
+    {"InvincibilityPattern", &MusicRuntime::InvincibilityPattern, &MusicRuntime::GameplayPattern,
+        "Music/Invincibility.ogg"},
+    {"DualWeaponPattern", &MusicRuntime::DualWeaponPattern, &MusicRuntime::GameplayPattern,
+        "Music/DualWeapon.ogg"},
+});
 
 struct MusicFade {
     const char *Key;
     std::int32_t MusicRuntime::*Milliseconds;
 };
 
-constexpr std::array<MusicFade, 2> Fades{{
+constexpr auto Fades = std::to_array<MusicFade>({
     {"FadeInMs", &MusicRuntime::FadeInMs},
     {"FadeOutMs", &MusicRuntime::FadeOutMs},
-}};
-
-struct DefaultValue {
-    const char *Section;
-    const char *Key;
-    const char *Value;
-};
-
-constexpr std::array<DefaultValue, 20> DefaultMusic{{
-    {"Music", "MenuPattern", "MENU"},
-    {"Music", "GameplayPattern", "GAMEPLAY"},
-    {"Music", "WaterPattern", "WATER"},
-    {"Music", "GameOverPattern", "GAMEOVER"},
-    {"Music", "InvincibilityPattern", "INVINCIBILITY"},
-    {"Music", "DualWeaponPattern", "DUALWEAPON"},
-    {"Music", "FadeInMs", "350"},
-    {"Music", "FadeOutMs", "1500"},
-    {"Pattern.MENU", "FileName", "Music/MenuCredits.ogg"},
-    {"Pattern.MENU", "NextPatternName", "MENU"},
-    {"Pattern.GAMEPLAY", "FileName", "Music/Gameplay.ogg"},
-    {"Pattern.GAMEPLAY", "NextPatternName", "GAMEPLAY"},
-    {"Pattern.WATER", "FileName", "Music/Water.ogg"},
-    {"Pattern.WATER", "NextPatternName", "WATER"},
-    {"Pattern.GAMEOVER", "FileName", "Music/GameOver.ogg"},
-    {"Pattern.GAMEOVER", "NextPatternName", "GAMEOVER"},
-    {"Pattern.INVINCIBILITY", "FileName", "Music/Invincibility.ogg"},
-    {"Pattern.INVINCIBILITY", "NextPatternName", "INVINCIBILITY"},
-    {"Pattern.DUALWEAPON", "FileName", "Music/DualWeapon.ogg"},
-    {"Pattern.DUALWEAPON", "NextPatternName", "DUALWEAPON"},
-}};
+});
 
 void ForgetPatterns(MusicPlayer &Player) {
     DestroyMusicPatterns(Player);
@@ -88,6 +63,8 @@ void ReadRoles(const quillINI::IniDocument &Document, MusicRuntime &Runtime) {
 void ReadFades(const quillINI::IniDocument &Document, MusicRuntime &Runtime) {
     for (const MusicFade &fade : Fades) {
         std::int32_t &milliseconds = Runtime.*fade.Milliseconds;
+        // A missing key reads as the present value, so that this is brought into its range like a written
+        // one; what is no number leaves it as it is.
         const std::string present = std::to_string(milliseconds);
         const std::string text = quillINI::GetIniValue(Document, MusicSection, fade.Key, present);
         if (ParseInt32(text, milliseconds)) {
@@ -105,7 +82,7 @@ std::string ResolvePath(const std::string &Name, const std::string &FileName) {
     return path;
 }
 
-/// Appends the pattern of a section, or leaves it out; what is worth a line is logged.
+/// Appends the pattern of a section, or leaves it out: silently if it is switched off or has no name or file.
 void LoadPattern(const quillINI::IniDocument &Document, const std::string &Section, MusicRuntime &Runtime) {
     const auto read = [&](const char *Key, const std::string &Default) {
         return quillINI::GetIniValue(Document, Section, Key, Default);
@@ -115,7 +92,7 @@ void LoadPattern(const quillINI::IniDocument &Document, const std::string &Secti
     if (pattern.Name.empty()) {
         return;
     }
-    // Before the section may be switched off: one that is can still be reported, and that is meant.
+    // NOT-BUGS: A music section that is switched off still counts as a duplicate
     if (FindMusicPattern(Runtime.Player, pattern.Name) != nullptr) {
         SDL_Log("Duplicate music pattern name '%s' in section '%s'; ignoring duplicate", pattern.Name.c_str(),
             Section.c_str());
@@ -133,7 +110,8 @@ void LoadPattern(const quillINI::IniDocument &Document, const std::string &Secti
     if (pattern.ResolvedPath.empty()) {
         return;
     }
-    pattern.Audio = MIX_LoadAudio(Runtime.Mixer, pattern.ResolvedPath.c_str(), false); // decoded as it plays
+    // Decoded as it plays.
+    pattern.Audio = MIX_LoadAudio(Runtime.Mixer, pattern.ResolvedPath.c_str(), false);
     if (pattern.Audio == nullptr) {
         SDL_Log("MIX_LoadAudio failed for pattern '%s' (configured='%s', resolved='%s'): %s",
             pattern.Name.c_str(), fileName.c_str(), pattern.ResolvedPath.c_str(), SDL_GetError());
@@ -144,17 +122,18 @@ void LoadPattern(const quillINI::IniDocument &Document, const std::string &Secti
 
 void LoadPatterns(const quillINI::IniDocument &Document, MusicRuntime &Runtime) {
     for (const quillINI::IniSection &section : Document.Sections) {
+        // What stands before the first heading is no pattern, whatever the library calls that section.
         if (section.Name != quillINI::IniGlobalSection && section.Name.starts_with(PatternPrefix)) {
             LoadPattern(Document, section.Name, Runtime);
         }
     }
 }
 
-/// Gives every role a pattern that exists. A fallback is not looked at again.
+/// Gives every role a pattern that exists. A fallback needs no test: its own role was mended before.
 void MendRoles(MusicRuntime &Runtime) {
     for (const MusicRole &role : Roles) {
         std::string &pattern = Runtime.*role.Pattern;
-        if (!pattern.empty() && FindMusicPattern(Runtime.Player, pattern) != nullptr) {
+        if (FindMusicPattern(Runtime.Player, pattern) != nullptr) {
             continue;
         }
         const std::string &fallback =
@@ -165,9 +144,10 @@ void MendRoles(MusicRuntime &Runtime) {
     }
 }
 
+/// Lets a pattern whose follower does not exist follow itself.
 void MendChain(MusicPlayer &Player) {
     for (MusicPattern &pattern : Player.Patterns) {
-        if (pattern.NextName.empty() || FindMusicPattern(Player, pattern.NextName) == nullptr) {
+        if (FindMusicPattern(Player, pattern.NextName) == nullptr) {
             SDL_Log("Music pattern '%s' has missing NextPatternName '%s'; using self loop",
                 pattern.Name.c_str(), pattern.NextName.c_str());
             pattern.NextName = pattern.Name;
@@ -191,8 +171,21 @@ bool LoadMusicPatterns(const quillINI::IniDocument &Document, MusicRuntime &Runt
 }
 
 void BuildDefaultMusicPatterns(quillINI::IniDocument &Document) {
-    for (const DefaultValue &value : DefaultMusic) {
-        quillINI::SetIniValue(Document, value.Section, value.Key, value.Value, false);
+    const MusicRuntime defaults;
+    const auto set = [&Document](const std::string &Section, const char *Key, const std::string &Value) {
+        quillINI::SetIniValue(Document, Section, Key, Value, false);
+    };
+    for (const MusicRole &role : Roles) {
+        set(MusicSection, role.Key, defaults.*role.Pattern);
+    }
+    for (const MusicFade &fade : Fades) {
+        set(MusicSection, fade.Key, std::to_string(defaults.*fade.Milliseconds));
+    }
+    for (const MusicRole &role : Roles) {
+        const std::string &name = defaults.*role.Pattern;
+        const std::string section = std::string(PatternPrefix) + name;
+        set(section, "FileName", role.BuiltInFile);
+        set(section, "NextPatternName", name);
     }
 }
 

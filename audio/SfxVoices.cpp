@@ -47,6 +47,7 @@ void PlaySfx(MusicRuntime &Runtime, SfxId Id) {
         SDL_Log("SDL_CreateProperties failed for SFX '%s': %s", SfxName(Id), SDL_GetError());
         return;
     }
+    // Once: the mixer's default, said here because every sound relies on it.
     SDL_SetNumberProperty(properties, MIX_PROP_PLAY_LOOPS_NUMBER, 0);
     const bool played = MIX_PlayTrack(track, properties);
     SDL_DestroyProperties(properties);

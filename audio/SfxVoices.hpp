@@ -4,13 +4,16 @@
 
 struct GameState;
 
-/// Fills the pool of voices, at most twelve. A voice that cannot be had is logged and left out.
+/// Adds twelve voices to the pool. A voice that cannot be had is logged and left out.
 void CreateSfxTracks(MusicRuntime &Runtime);
 
-/// Destroys the voices and the sounds.
+/// Destroys the voices and empties the pool.
 void DestroySfxTracks(MusicRuntime &Runtime);
+
+/// Destroys the sounds; their entries become null.
 void DestroySfxAudio(MusicRuntime &Runtime);
 
-/// Plays the sounds that this frame asked for, each on a voice of its own, and empties the queue even where
-/// nothing can play. With every voice busy the oldest in round-robin order is cut off.
+/// Plays the sounds of State.PendingSounds, each on a voice of its own, and empties that queue even where
+/// nothing can play. With every voice busy the oldest in round-robin order is cut off. A sound that the mixer
+/// refuses is logged and lost.
 void PlayQueuedSfx(GameState &State, MusicRuntime &Runtime);

@@ -30,6 +30,7 @@ void UpdateStartupFade(MusicRuntime &Runtime) {
     if (!Runtime.StartupFadeActive || track == nullptr || !MIX_TrackPlaying(track)) {
         return;
     }
+    // A fade whose length has become 0 since it began is over.
     if (Runtime.FadeInMs > 0) {
         const auto elapsed = static_cast<float>(SDL_GetTicks() - Runtime.StartupFadeStartTicks);
         const float share = std::clamp(elapsed / static_cast<float>(Runtime.FadeInMs), 0.0F, 1.0F);

@@ -8,33 +8,18 @@
 
 namespace {
 
-constexpr float FullTurn = 6.2831855F;
+constexpr float FullTurn = 6.2831855F; ///< in radians
 
 std::int64_t FrameCount(const SfxRecipe &Recipe, int Rate) {
     return Rate * Recipe.Duration / 1000;
 }
 
-/// How many frames the loudness takes to rise: a five-hundredth of a second.
-std::int64_t AttackFrames(int Rate) {
-    return Rate >= 1000 ? Rate / 500 : 1;
-}
-
-/// And to fall at the end.
-std::int64_t ReleaseFrames(int Rate) {
-    return Rate >= 320 ? Rate / 160 : 1;
-}
-
+/// The loudness of a frame, 0 to 1: it rises in the first 500th of a second and falls in the last 160th.
 float Envelope(std::int64_t Frame, std::int64_t Frames, int Rate) {
-    const std::int64_t attack = AttackFrames(Rate);
-    const std::int64_t release = ReleaseFrames(Rate);
-    float envelope = 1.0F;
-    if (Frame < attack) {
-        envelope = std::min(static_cast<float>(Frame) / static_cast<float>(attack), 1.0F);
-    }
-    if (Frame + release >= Frames) {
-        envelope = std::min(static_cast<float>(Frames - 1 - Frame) / static_cast<float>(release), envelope);
-    }
-    return std::max(envelope, 0.0F);
+    const auto attack = static_cast<float>(std::max(Rate / 500, 1));
+    const auto release = static_cast<float>(std::max(Rate / 160, 1));
+    return std::min(
+        {static_cast<float>(Frame) / attack, static_cast<float>(Frames - 1 - Frame) / release, 1.0F});
 }
 
 float Tone(std::int64_t Frame, std::int32_t Frequency, int Rate) {
@@ -42,6 +27,7 @@ float Tone(std::int64_t Frame, std::int32_t Frequency, int Rate) {
     return std::sin(static_cast<float>(Frame) * turn / static_cast<float>(Rate));
 }
 
+/// Whether the recipe gives at least one frame at the mixer's rate; Format becomes the mixer's own.
 bool CanCompute(MIX_Mixer *Mixer, const SfxRecipe &Recipe, SDL_AudioSpec &Format) {
     return Mixer != nullptr && Recipe.Frequency > 0 && Recipe.Duration > 0 &&
            MIX_GetMixerFormat(Mixer, &Format) && Format.freq > 0 && Format.freq * Recipe.Duration >= 1000;

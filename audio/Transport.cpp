@@ -39,7 +39,7 @@ const std::string &PatternOfRun(const GameState &State, const MusicRuntime &Runt
     return isWater ? Runtime.WaterPattern : Runtime.GameplayPattern;
 }
 
-/// The options and the help page have the menu's music, also from the pause menu.
+/// NOT-BUGS: Options and help have the menu's music, also within a run
 const std::string &WantedPattern(const GameState &State, const MusicRuntime &Runtime) {
     switch (State.Screen) {
     case ScreenPlaying:
@@ -52,15 +52,16 @@ const std::string &WantedPattern(const GameState &State, const MusicRuntime &Run
     }
 }
 
-/// The changes of screen that the music follows at once. The tests are exact: from the pause menu to the main
-/// menu the loop is played to its end, and that is meant.
-bool CutsMusic(enum Screen Previous, enum Screen Present) {
+/// Whether the music follows a change of screen at once.
+/// NOT-BUGS: From the pause menu to the main menu the loop is played to its end
+bool CutsMusic(Screen Previous, Screen Present) {
     return (Previous == ScreenMainMenu && Present == ScreenPlaying) ||
            (Previous == ScreenPlaying && Present == ScreenMainMenu) ||
            (Previous == ScreenGameOver && Present == ScreenMainMenu);
 }
 
 /// Asks for a pattern and logs the failure; false if nothing is asked for.
+/// NOT-BUGS: A piece of music that is missing is an exception
 bool TryRequest(MusicPlayer &Player, std::string_view Name) {
     try {
         RequestMusicPattern(Player, Name);
@@ -70,8 +71,8 @@ bool TryRequest(MusicPlayer &Player, std::string_view Name) {
     return Player.RequestedPattern != nullptr;
 }
 
-/// Plays the pattern that is asked for. A fade that was running ends where it stood: the gain is not
-/// restored, and that is meant.
+/// Plays the pattern that is asked for, and ends a running fade where it stands.
+/// NOT-BUGS: The menu's music fades in once, at the start of the program
 bool PlayRequested(MusicRuntime &Runtime, const char *FailureText) {
     if (!PlayMusicPattern(Runtime.Player, Runtime.Player.RequestedPattern, 0)) {
         SDL_Log("%s: %s", FailureText, SDL_GetError());
@@ -84,14 +85,16 @@ bool PlayRequested(MusicRuntime &Runtime, const char *FailureText) {
 }
 
 /// Asks for the wanted pattern, and plays it if that is not to wait for the end of the loop.
-void FollowWanted(MusicRuntime &Runtime, std::string_view Wanted, enum Screen Previous, enum Screen Present) {
+void FollowWanted(MusicRuntime &Runtime, std::string_view Wanted, Screen Previous, Screen Present) {
     MusicPlayer &player = Runtime.Player;
+    // Asked first: what follows goes by the track as the update found it.
     const bool isPlaying = MIX_TrackPlaying(player.Track);
     if (Wanted.empty()) {
         return;
     }
     if (Wanted == player.CurrentPatternName) {
-        player.RequestedPattern = nullptr; // a change that is no longer wanted is never heard
+        // NOT-BUGS: Music changes at the end of a loop
+        player.RequestedPattern = nullptr;
         return;
     }
     if (!TryRequest(player, Wanted)) {
@@ -107,8 +110,8 @@ void FollowWanted(MusicRuntime &Runtime, std::string_view Wanted, enum Screen Pr
     }
 }
 
-/// Whether the playing pattern has come to the end of its loop. Position is in frames, negative if there is
-/// none.
+/// Whether the playing pattern has come to the end of its loop. Position is in sample frames, negative if
+/// there is none.
 bool IsAtLoopBoundary(const MusicPlayer &Player, std::int64_t Position) {
     const bool loops = MIX_GetTrackLoops(Player.Track) != 0;
     if (Position >= 0) {
@@ -118,8 +121,8 @@ bool IsAtLoopBoundary(const MusicPlayer &Player, std::int64_t Position) {
     return !loops && !MIX_TrackPlaying(Player.Track);
 }
 
-/// What the game asks for beats what follows in the chain; a pattern that follows itself just goes on
-/// looping.
+/// A pattern that was asked for comes before the one that follows in the chain; one that follows itself goes
+/// on looping.
 void PassLoopBoundary(MusicRuntime &Runtime) {
     MusicPlayer &player = Runtime.Player;
     if (player.RequestedPattern == nullptr) {
@@ -143,7 +146,7 @@ void WatchLoop(MusicRuntime &Runtime) {
     }
 }
 
-/// No longer than the field can hold.
+/// The length in milliseconds, at most UnknownLoopMs, which also stands for a length that the mixer lacks.
 std::int32_t LoopLengthMs(MIX_Audio *Audio) {
     const Sint64 duration = MIX_GetAudioDuration(Audio);
     if (duration <= 0) {
@@ -153,7 +156,7 @@ std::int32_t LoopLengthMs(MIX_Audio *Audio) {
         std::clamp<Sint64>(MIX_AudioFramesToMS(Audio, duration), 0, UnknownLoopMs));
 }
 
-/// Starts the track's audio as an endless loop.
+/// Starts the track's audio as an endless loop; false if the mixer or SDL refuses.
 bool StartLooping(MIX_Track *Track, std::int32_t FadeInMs) {
     const SDL_PropertiesID properties = SDL_CreateProperties();
     if (properties == 0) {
@@ -174,7 +177,7 @@ void UpdateMusicRuntime(const GameState &State, MusicRuntime &Runtime) {
     if (!Runtime.Initialised) {
         return;
     }
-    const enum Screen previous = Runtime.LastScreen;
+    const Screen previous = Runtime.LastScreen;
     Runtime.LastScreen = State.Screen;
     UpdateGains(State, Runtime);
     if (Runtime.Player.Track == nullptr || Runtime.Player.Patterns.empty()) {

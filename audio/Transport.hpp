@@ -10,13 +10,14 @@ struct GameState;
 // Moves the music track to the pattern that the game wants to hear: at the end of the playing pattern's loop,
 // and at once for a few changes of screen. There is no crossfade.
 
-/// Looks at the game once a frame, on every screen. A failure is logged and tried again; the game goes on.
+/// Looks at the game once a frame, on every screen: follows its volumes, then the music that it wants. A
+/// failure is logged and tried again. Does nothing before InitMusicRuntime.
 void UpdateMusicRuntime(const GameState &State, MusicRuntime &Runtime);
 
-/// Starts a pattern as an endless loop that rises from silence in FadeInMs. False without a pattern or a
-/// track, and if the mixer refuses.
+/// Starts a pattern as an endless loop that rises from silence in FadeInMs; 0 starts it at its gain. False
+/// without a pattern or a track, and if the mixer refuses; then the player stays as it was.
 bool PlayMusicPattern(MusicPlayer &Player, const MusicPattern *Pattern, std::int32_t FadeInMs);
 
-/// Asks for a pattern at the next opportunity. Throws std::runtime_error, whose message is to be logged, if
-/// there is none of that name; then nothing is asked for.
+/// Asks UpdateMusicRuntime for a pattern at the next opportunity. Throws std::runtime_error, whose message is
+/// to be logged, if there is none of that name; then nothing is asked for.
 void RequestMusicPattern(MusicPlayer &Player, std::string_view Name);

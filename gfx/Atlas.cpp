@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <memory>
 #include <string_view>
 
 TextureAtlas SpriteAtlas;
@@ -14,32 +15,28 @@ TextureAtlas SpriteAtlas;
 namespace {
 
 constexpr int CellsAcross = 5;
-constexpr int CellPitch = SpriteSize + 2; ///< a moat of one pixel on every side
+constexpr int CellPitch = SpriteSize + 2; ///< with a gutter of one pixel on every side
 constexpr int AtlasSize = CellsAcross * CellPitch;
 constexpr int IconSize = 64;
 
 static_assert(SpriteCount <= CellsAcross * CellsAcross, "the atlas is too small for the sprites");
 
-/// One paint of a sprite beside its own cell: the clip lets only one edge or corner of the moat through.
-struct Extrusion {
-    int ClipX; ///< from the cell's corner
-    int ClipY;
-    int ClipWidth;
-    int ClipHeight;
-    int ShiftX;
-    int ShiftY;
+/// A part of the gutter around a cell, from the cell's corner, and the shift of the paint that fills it.
+struct GutterPart {
+    SDL_Rect Clip;
+    SDL_FPoint Shift;
 };
 
-constexpr std::array<Extrusion, 8> Extrusions{{
-    {0, -1, 16, 1, 0, -1},
-    {0, 16, 16, 1, 0, 1},
-    {-1, 0, 1, 16, -1, 0},
-    {16, 0, 1, 16, 1, 0},
-    {-1, -1, 1, 1, -1, -1},
-    {16, -1, 1, 1, 1, -1},
-    {-1, 16, 1, 1, -1, 1},
-    {16, 16, 1, 1, 1, 1},
-}};
+constexpr auto Gutter = std::to_array<GutterPart>({
+    {{0, -1, 16, 1}, {0.0F, -1.0F}},
+    {{0, 16, 16, 1}, {0.0F, 1.0F}},
+    {{-1, 0, 1, 16}, {-1.0F, 0.0F}},
+    {{16, 0, 1, 16}, {1.0F, 0.0F}},
+    {{-1, -1, 1, 1}, {-1.0F, -1.0F}},
+    {{16, -1, 1, 1}, {1.0F, -1.0F}},
+    {{-1, 16, 1, 1}, {-1.0F, 1.0F}},
+    {{16, 16, 1, 1}, {1.0F, 1.0F}},
+});
 
 /// Paints a sprite with its cell's corner at (X, Y), but for the runs that lie wholly outside of Visible:
 /// most of a sprite when only its edge is wanted.
@@ -59,19 +56,18 @@ void PaintRuns(SDL_Renderer *Renderer, const SpriteMap &Map, float X, float Y, c
     }
 }
 
-/// Fills the moat around a painted cell with the cell's own edge, so that sampling just outside of it never
+/// Fills the gutter around a painted cell with the cell's own edge, so that sampling just outside of it never
 /// meets a neighbour.
-void ExtrudeEdges(SDL_Renderer *Renderer, SpriteId Id, float X, float Y) {
+void FillGutter(SDL_Renderer *Renderer, SpriteId Id, float X, float Y) {
     const ClipGuard guard(Renderer);
     const int left = static_cast<int>(std::lround(X));
     const int top = static_cast<int>(std::lround(Y));
-    for (const Extrusion &edge : Extrusions) {
-        const SDL_Rect clip{left + edge.ClipX, top + edge.ClipY, edge.ClipWidth, edge.ClipHeight};
+    for (const GutterPart &part : Gutter) {
+        const SDL_Rect clip{left + part.Clip.x, top + part.Clip.y, part.Clip.w, part.Clip.h};
         SDL_SetRenderClipRect(Renderer, &clip);
         SDL_FRect visible;
         SDL_RectToFRect(&clip, &visible);
-        PaintRuns(Renderer, MapOf(Id), X + static_cast<float>(edge.ShiftX),
-            Y + static_cast<float>(edge.ShiftY), visible);
+        PaintRuns(Renderer, MapOf(Id), X + part.Shift.x, Y + part.Shift.y, visible);
     }
 }
 
@@ -90,15 +86,23 @@ void PaintAllSprites(SDL_Renderer *Renderer) {
         const auto id = static_cast<SpriteId>(i);
         SpriteAtlas.Source[static_cast<std::size_t>(i)] = cell;
         PaintSprite(Renderer, id, cell.x, cell.y);
-        ExtrudeEdges(Renderer, id, cell.x, cell.y);
+        FillGutter(Renderer, id, cell.x, cell.y);
     }
 }
 
-/// The pixels of a sprite, read back from the atlas; null on failure. The caller destroys the surface.
-SDL_Surface *ReadSprite(SDL_Renderer *Renderer, SpriteId Id) {
+struct SurfaceDeleter {
+    void operator()(SDL_Surface *Surface) const {
+        SDL_DestroySurface(Surface);
+    }
+};
+using SurfaceOwner = std::unique_ptr<SDL_Surface, SurfaceDeleter>;
+
+/// The pixels of a sprite, read back from the atlas; null on failure.
+SurfaceOwner ReadSprite(SDL_Renderer *Renderer, SpriteId Id) {
     const SDL_FRect &source = SpriteAtlas.Source[static_cast<std::size_t>(Id)];
     const SDL_Rect rect{static_cast<int>(std::lround(source.x)), static_cast<int>(std::lround(source.y)),
         static_cast<int>(std::lround(source.w)), static_cast<int>(std::lround(source.h))};
+    // BuildTextureAtlas stores no such size, but any code can write to the record.
     if (rect.w < 1 || rect.h < 1) {
         SDL_SetError("The sprite has no size");
         return nullptr;
@@ -107,21 +111,20 @@ SDL_Surface *ReadSprite(SDL_Renderer *Renderer, SpriteId Id) {
     if (!SDL_SetRenderTarget(Renderer, SpriteAtlas.Texture)) {
         return nullptr;
     }
-    SDL_Surface *pixels = SDL_RenderReadPixels(Renderer, &rect);
+    SurfaceOwner pixels(SDL_RenderReadPixels(Renderer, &rect));
     SDL_SetRenderTarget(Renderer, oldTarget);
     return pixels;
 }
 
-/// An enlarged copy of Pixels with crisp blocks; null on failure. The caller destroys the surface.
-SDL_Surface *EnlargeToIcon(SDL_Surface *Pixels) {
-    SDL_Surface *icon = SDL_CreateSurface(IconSize, IconSize, SDL_PIXELFORMAT_RGBA8888);
+/// An enlarged copy of Pixels with crisp blocks; null on failure.
+SurfaceOwner EnlargeToIcon(SDL_Surface *Pixels) {
+    SurfaceOwner icon(SDL_CreateSurface(IconSize, IconSize, SDL_PIXELFORMAT_RGBA8888));
     if (icon == nullptr) {
         return nullptr;
     }
-    SDL_FillSurfaceRect(icon, nullptr, SDL_MapSurfaceRGBA(icon, 0, 0, 0, 0));
+    SDL_FillSurfaceRect(icon.get(), nullptr, SDL_MapSurfaceRGBA(icon.get(), 0, 0, 0, 0));
     const SDL_Rect whole{0, 0, IconSize, IconSize};
-    if (!SDL_BlitSurfaceScaled(Pixels, nullptr, icon, &whole, SDL_SCALEMODE_NEAREST)) {
-        SDL_DestroySurface(icon);
+    if (!SDL_BlitSurfaceScaled(Pixels, nullptr, icon.get(), &whole, SDL_SCALEMODE_NEAREST)) {
         return nullptr;
     }
     return icon;
@@ -167,16 +170,7 @@ bool SetWindowIconFromAtlas(SDL_Window *Window, SDL_Renderer *Renderer) {
     if (SpriteAtlas.Texture == nullptr) {
         return SDL_SetError("The sprite atlas is empty");
     }
-    SDL_Surface *pixels = ReadSprite(Renderer, SpritePlayer);
-    if (pixels == nullptr) {
-        return false;
-    }
-    SDL_Surface *icon = EnlargeToIcon(pixels);
-    SDL_DestroySurface(pixels);
-    if (icon == nullptr) {
-        return false;
-    }
-    const bool set = SDL_SetWindowIcon(Window, icon);
-    SDL_DestroySurface(icon);
-    return set;
+    const SurfaceOwner pixels = ReadSprite(Renderer, SpritePlayer);
+    const SurfaceOwner icon = pixels != nullptr ? EnlargeToIcon(pixels.get()) : nullptr;
+    return icon != nullptr && SDL_SetWindowIcon(Window, icon.get());
 }

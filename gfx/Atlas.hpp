@@ -6,24 +6,24 @@
 
 #include <array>
 
-/// All sprites in one texture: where each stands, in atlas pixels. The texture is empty until the atlas is
-/// built.
+/// All sprites in one texture.
 struct TextureAtlas {
-    SDL_Texture *Texture = nullptr;
-    std::array<SDL_FRect, SpriteCount> Source{};
+    SDL_Texture *Texture = nullptr;              ///< null until the atlas is built
+    std::array<SDL_FRect, SpriteCount> Source{}; ///< where each sprite stands, by SpriteId, in texture pixels
 };
 
-/// Process-wide on purpose: built once at start-up, read by every drawing function.
+/// The one atlas of the process: built once at start-up, read by every drawing function.
 extern TextureAtlas SpriteAtlas;
 
-/// Paints a sprite pixel by pixel with its cell's corner at (X, Y). An id that is no sprite paints nothing.
+/// Fills a sprite's pixels, without the atlas, with the upper left corner of its cell at (X, Y). An id that
+/// is no sprite paints nothing.
 void PaintSprite(SDL_Renderer *Renderer, SpriteId Id, float X, float Y);
 
 /// Creates and fills the atlas; does nothing if it exists. False if the texture cannot be created or drawn
-/// to; SDL_GetError tells why.
+/// to; SDL_GetError tells why. It is to be destroyed before the renderer.
 bool BuildTextureAtlas(SDL_Renderer *Renderer);
 
-/// Destroys the atlas texture; the drawing functions do nothing from then on.
+/// Destroys the atlas texture; from then on no sprite is drawn.
 void DestroyTextureAtlas();
 
 /// Gives the window the player's car as its icon, 64 by 64. False if any step fails; SDL_GetError tells why.

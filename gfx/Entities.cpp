@@ -15,7 +15,7 @@ constexpr float ObstacleScale = 1.3F;
 
 constexpr float EndingFlashAlpha = 120.0F; ///< a fresh flash has twice as much
 
-constexpr float BlinksPerSecond = 15.0F;
+constexpr float HalfBlinksPerSecond = 15.0F; ///< the car is shown in one half and hidden in the other
 
 constexpr float HaloRadius = 18.2F;
 constexpr std::uint32_t HaloColor = 0x6E96EBFF;
@@ -99,14 +99,14 @@ void DrawEnemies(SDL_Renderer *Renderer, const GameState &State) {
     }
 }
 
-void DrawExplosion(SDL_Renderer *Renderer, const Explosion &Explosion) {
-    // Only a damaged file holds a life of 0; such a burst is drawn as newly born.
-    const float t = Explosion.Life == 0.0F ? 0.0F : std::clamp(Explosion.Age / Explosion.Life, 0.0F, 1.0F);
+void DrawExplosion(SDL_Renderer *Renderer, const Explosion &Disc) {
+    // Only a damaged file holds a life of 0; such an explosion is drawn as newly born.
+    const float t = Disc.Life == 0.0F ? 0.0F : std::clamp(Disc.Age / Disc.Life, 0.0F, 1.0F);
     const auto alpha =
-        static_cast<std::uint32_t>(TruncateToInt(static_cast<float>(Explosion.Color.A) * (1.0F - t)));
-    const std::uint32_t color = alpha << 24U | std::uint32_t{Explosion.Color.B} << 16U |
-                                std::uint32_t{Explosion.Color.G} << 8U | std::uint32_t{Explosion.Color.R};
-    FillDisc(Renderer, std::round(Explosion.X), std::round(Explosion.Y), Explosion.MaxRadius * t, color);
+        static_cast<std::uint32_t>(TruncateToInt(static_cast<float>(Disc.Color.A) * (1.0F - t)));
+    const std::uint32_t color = alpha << 24U | std::uint32_t{Disc.Color.B} << 16U |
+                                std::uint32_t{Disc.Color.G} << 8U | std::uint32_t{Disc.Color.R};
+    FillDisc(Renderer, std::round(Disc.X), std::round(Disc.Y), Disc.MaxRadius * t, color);
 }
 
 void DrawExplosions(SDL_Renderer *Renderer, const GameState &State) {
@@ -115,13 +115,13 @@ void DrawExplosions(SDL_Renderer *Renderer, const GameState &State) {
     }
 }
 
-/// The car blinks while it cannot be hurt after a blow.
+/// The car blinks while it cannot be hurt after a hit.
 bool IsPlayerShown(const GameState &State) {
     if (State.PlayerDying || State.Screen == ScreenGameOver) {
         return false;
     }
-    return !(State.InvulnerabilityTimer > 0.0F) ||
-           TruncateToInt(State.InvulnerabilityTimer * BlinksPerSecond) % 2 != 0;
+    const bool blinks = State.InvulnerabilityTimer > 0.0F;
+    return !blinks || TruncateToInt(State.InvulnerabilityTimer * HalfBlinksPerSecond) % 2 != 0;
 }
 
 void DrawPlayer(SDL_Renderer *Renderer, const GameState &State) {
@@ -140,11 +140,11 @@ void DrawPlayer(SDL_Renderer *Renderer, const GameState &State) {
 
 } // namespace
 
-void DrawBullet(SDL_Renderer *Renderer, float X, float Y, int SnapStep, bool Tall, std::uint32_t OuterColor,
-    std::uint32_t InnerColor) {
+void DrawBullet(SDL_Renderer *Renderer, float X, float Y, int SnapStep, bool FliesUp,
+    std::uint32_t OuterColor, std::uint32_t InnerColor) {
     const auto s = static_cast<float>(std::max(SnapStep, 1));
     const float left = SnapToStep(X, SnapStep) - s;
-    const float top = SnapToStep(Y, SnapStep) - (Tall ? 5.0F * s : s);
+    const float top = SnapToStep(Y, SnapStep) - (FliesUp ? 5.0F * s : s);
     FillRect(Renderer, left, top, 3.0F * s, 6.0F * s, OuterColor);
     FillRect(Renderer, left + s, top + s, s, 4.0F * s, InnerColor);
 }

@@ -12,7 +12,7 @@ struct GlyphEntry {
 };
 
 // Sorted by code point.
-constexpr std::array<GlyphEntry, 105> FontGlyphs{{
+constexpr auto FontGlyphs = std::to_array<GlyphEntry>({
     // clang-format off
     {0x0021, 0x0808080808000800}, {0x0022, 0x1414140000000000}, {0x0023, 0x143E143E14000000},
     {0x0024, 0x081E281C0A3C0800}, {0x0025, 0x3333060C18333300}, {0x0026, 0x182428102A241A00},
@@ -50,19 +50,21 @@ constexpr std::array<GlyphEntry, 105> FontGlyphs{{
     {0x00DF, 0x3C42427C42427C40}, {0x00E4, 0x14001C021E221E00}, {0x00E9, 0x04081C223E201C00},
     {0x00F6, 0x14001C2222221C00}, {0x00FC, 0x1400222222261A00}, {0x1E9E, 0x3C42427C42427C40},
     // clang-format on
-}};
+});
+
+constexpr bool HasSevenColumns(const GlyphEntry &Entry) {
+    return (Entry.Rows & 0x8080808080808080) == 0;
+}
 
 static_assert(std::ranges::is_sorted(FontGlyphs, {}, &GlyphEntry::CodePoint));
-
-/// Bit 7 of a row has no column.
-constexpr std::uint64_t ColumnMask = 0x7F7F7F7F7F7F7F7F;
+static_assert(std::ranges::all_of(FontGlyphs, HasSevenColumns));
 
 constexpr std::optional<Glyph> GlyphInTable(std::uint32_t CodePoint) {
     const auto found = std::ranges::lower_bound(FontGlyphs, CodePoint, {}, &GlyphEntry::CodePoint);
     if (found == FontGlyphs.end() || found->CodePoint != CodePoint) {
         return std::nullopt;
     }
-    return Glyph{found->Rows & ColumnMask};
+    return Glyph{found->Rows};
 }
 
 constexpr Glyph Fallback = GlyphInTable('?').value();

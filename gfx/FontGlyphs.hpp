@@ -11,9 +11,9 @@ struct Glyph {
 };
 
 /// Whether a square is drawn: Row 0 to 7 from the top, Column 0 to 6 from the left.
-constexpr bool IsSet(Glyph Glyph, int Row, int Column) {
+constexpr bool IsSet(Glyph Letter, int Row, int Column) {
     const int bit = (GlyphRows - 1 - Row) * 8 + (GlyphColumns - 1 - Column);
-    return (Glyph.Rows >> static_cast<unsigned>(bit) & 1U) != 0;
+    return (Letter.Rows >> static_cast<unsigned>(bit) & 1U) != 0;
 }
 
 /// The built-in font's picture of a code point: blank below U+0080 where it draws nothing, a question mark

@@ -5,5 +5,5 @@
 struct GameState;
 struct InputDevices;
 
-/// Draws the end of the run over its final world.
+/// Draws the panel of a run's end over the world, which RenderGameplay has drawn.
 void RenderGameOverOverlay(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices);

@@ -10,7 +10,7 @@
 
 namespace {
 
-// Higher than on the other pages, which have a row more.
+// Higher than on the other pages, which have ten rows.
 constexpr float FirstHintY = 464.0F;
 constexpr float SecondHintY = 492.0F;
 

@@ -5,5 +5,5 @@
 struct GameState;
 struct InputDevices;
 
-/// Draws the help page.
+/// Draws the help page on black.
 void RenderHelp(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices);

@@ -38,16 +38,17 @@ constexpr float FlashStartRadius = 40.0F;
 constexpr float FlashGrowth = 420.0F;
 constexpr std::uint32_t FlashColor = 0x8278F5FF;
 
-struct Bar {
+struct BarStyle {
     float Y;
     std::uint32_t BackColor;
     std::uint32_t FillColor;
 };
 
-constexpr Bar HealthBar{34.0F, 0xFF28461C, 0xFF82E65F};
-constexpr Bar AmmoBar{68.0F, 0xFF193C3C, 0xFF50DCF0};
+constexpr BarStyle HealthBar{34.0F, 0xFF28461C, 0xFF82E65F};
+constexpr BarStyle AmmoBar{68.0F, 0xFF193C3C, 0xFF50DCF0};
 
-/// A number written out without allocating: any prefix, then at least Digits digits.
+/// A number as a text that lives in the object, for a frame allocates nothing: a prefix of at most 12
+/// characters, then the number, filled up with zeros to Digits characters.
 class NumberText {
 public:
     explicit NumberText(std::int64_t Number, std::size_t Digits = 1, std::string_view Prefix = "") {
@@ -88,13 +89,13 @@ void DrawLeftColumn(SDL_Renderer *Renderer, const GameState &State) {
     DrawHudText(Renderer, NumberText(State.HighScore, ScoreDigits).View(), LeftColumnX, 190.0F);
 }
 
-/// Draws a bar whose fill is a share of its width; the share is taken as it stands.
-void DrawBar(SDL_Renderer *Renderer, const Bar &Bar, float X, float Share) {
-    FillRect(Renderer, X, Bar.Y, BarWidth, BarHeight, Bar.BackColor);
-    FillRect(Renderer, X, Bar.Y, Share * BarWidth, BarHeight, Bar.FillColor);
+/// Draws a bar whose fill is a share of its width, also where that is not within 0 to 1.
+void DrawBar(SDL_Renderer *Renderer, const BarStyle &Style, float X, float Share) {
+    FillRect(Renderer, X, Style.Y, BarWidth, BarHeight, Style.BackColor);
+    FillRect(Renderer, X, Style.Y, Share * BarWidth, BarHeight, Style.FillColor);
 }
 
-/// Draws one icon for each thing held.
+/// Draws one icon for each thing held, Most at most.
 void DrawIcons(
     SDL_Renderer *Renderer, SpriteId Id, float PanelX, float Y, std::int32_t Held, std::int32_t Most) {
     for (std::int32_t i = 0; i < std::min(Held, Most); ++i) {
@@ -123,7 +124,8 @@ void DrawRightPanel(SDL_Renderer *Renderer, const GameState &State) {
 
 void DrawReadyBanner(SDL_Renderer *Renderer) {
     const std::string &text = GetText(TextKey::GameplayReady);
-    const float roadCenter = (RoadLeft() + RoadRight()) * 0.5F; // not the window's
+    // NOT-BUGS: The READY banner is centred over the road
+    const float roadCenter = (RoadLeft() + RoadRight()) * 0.5F;
     DrawTextCentered(Renderer, text, roadCenter, BannerY, BannerScale, BannerColor);
 }
 

@@ -17,7 +17,7 @@ constexpr std::string_view FirstWord = "KESTREL";
 constexpr std::string_view SecondWord = "VOLLEY";
 constexpr std::uint32_t FirstWordColor = 0xFFFF8237;
 constexpr std::uint32_t SecondWordColor = 0xFF32A0F5;
-constexpr float FirstWordLeft = 362.0F; ///< of the centre; the second word stands staggered below
+constexpr float FirstWordLeft = 362.0F; ///< of the centre
 constexpr float SecondWordLeft = 60.0F;
 constexpr float SecondWordDrop = 112.0F; ///< drops are below the top of the title
 
@@ -25,23 +25,22 @@ constexpr int SmallScale = 3;
 constexpr std::string_view VersionText = "v" KESTREL_VERSION;
 constexpr float VersionDrop = 198.0F;
 constexpr float VersionMargin = 22.0F; ///< from the right edge
-constexpr float VersionMinimum = 8.0F; ///< right of the centre
+constexpr float VersionMinimum = 8.0F; ///< least distance right of the centre
 constexpr std::uint32_t VersionColor = 0xFF919191;
 
 constexpr float MinTop = 24.0F;
-constexpr float Room = 682.0F; ///< in which the block is centred
+constexpr float Room = 682.0F; ///< height in which the block is centred
 constexpr float HeightBesideList = 304.0F;
 
 constexpr float RowsDrop = 250.0F;
-constexpr int RowDistance = 36;
-constexpr int RowHeight = 32;
+constexpr float RowHeight = 32.0F;
 
 constexpr std::string_view Footer = "\u00A9 2026 Orrin";
 constexpr float FooterDrop = 280.0F; ///< with the height of the list added
 constexpr std::uint32_t FooterColor = 0xFF8C8C8C;
 
 /// In the order of MainMenuRow.
-constexpr std::array<TextKey, 6> RowLabels{
+constexpr std::array RowLabels{
     TextKey::MainMenuContinueGame,
     TextKey::MainMenuNewGame,
     TextKey::MainMenuOptions,
@@ -52,7 +51,7 @@ constexpr std::array<TextKey, 6> RowLabels{
 static_assert(RowLabels.size() == MainMenuRowCount(true));
 
 float ListHeight(std::size_t RowCount) {
-    return static_cast<float>((static_cast<int>(RowCount) - 1) * RowDistance + RowHeight);
+    return static_cast<float>(RowCount - 1) * MainMenuRowStyle.Distance + RowHeight;
 }
 
 /// The top of the block of title, rows and footer, which is centred as a whole.
@@ -77,26 +76,18 @@ void DrawTitle(SDL_Renderer *Renderer, float CenterX, float Top) {
     DrawText(Renderer, VersionText, VersionX(CenterX), Top + VersionDrop, SmallScale, VersionColor);
 }
 
-void DrawRows(SDL_Renderer *Renderer, std::span<const TextKey> Labels, std::uint32_t Selection, float CenterX,
-    float Top) {
-    const float left = CenterX - static_cast<float>(WidestText(Labels, MenuScale)) * 0.5F;
-    const std::size_t selected = std::min<std::size_t>(Selection, Labels.size() - 1); // never changed here
-    for (std::size_t i = 0; i < Labels.size(); ++i) {
-        const float y = Top + static_cast<float>(i) * static_cast<float>(RowDistance);
-        DrawMarkedLabel(Renderer, GetText(Labels[i]), left, y, i == selected, MainMenuRowStyle);
-    }
-}
-
 } // namespace
 
 void RenderMainMenu(SDL_Renderer *Renderer, const GameState &State) {
     const std::size_t rowCount = MainMenuRowCount(State.HasRunState);
-    const std::span<const TextKey> labels = std::span(RowLabels).last(rowCount);
+    // NOT-BUGS: The selected row stays a number
+    const std::size_t selected = std::min<std::size_t>(State.MainMenuSelection, rowCount - 1);
     const float centerX = ScreenCenterX();
     const float top = BlockTop(rowCount);
     ClearToBlack(Renderer);
     DrawTitle(Renderer, centerX, top);
-    DrawRows(Renderer, labels, State.MainMenuSelection, centerX, top + RowsDrop);
+    DrawLabelRows(
+        Renderer, std::span(RowLabels).last(rowCount), selected, centerX, top + RowsDrop, MainMenuRowStyle);
     DrawTextCentered(
         Renderer, Footer, centerX, top + FooterDrop + ListHeight(rowCount), SmallScale, FooterColor);
 }

@@ -4,5 +4,5 @@
 
 struct GameState;
 
-/// Draws the title, the rows of the main menu and the footer.
+/// Draws the title, the rows of the main menu and the footer on black.
 void RenderMainMenu(SDL_Renderer *Renderer, const GameState &State);

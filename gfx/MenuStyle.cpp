@@ -37,7 +37,16 @@ void DrawMarkedLabel(
         DrawText(
             Renderer, RowMarker, X - Style.MarkerGap, Y + Style.MarkerDrop, RowMarkerScale, SelectedColor);
     }
-    DrawText(Renderer, Label, X, Y, Style.Scale, Selected ? SelectedColor : Style.OtherColor);
+    DrawText(Renderer, Label, X, Y, Style.Scale, Selected ? SelectedColor : Style.UnselectedColor);
+}
+
+void DrawLabelRows(SDL_Renderer *Renderer, std::span<const TextKey> Labels, std::size_t Selected,
+    float CenterX, float Top, const RowStyle &Style) {
+    const float left = CenterX - static_cast<float>(WidestText(Labels, Style.Scale)) * 0.5F;
+    for (std::size_t i = 0; i < Labels.size(); ++i) {
+        const float y = Top + static_cast<float>(i) * Style.Distance;
+        DrawMarkedLabel(Renderer, GetText(Labels[i]), left, y, i == Selected, Style);
+    }
 }
 
 void DrawHint(

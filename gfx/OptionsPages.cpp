@@ -4,7 +4,6 @@
 #include "gfx/ControlsPage.hpp"
 #include "gfx/GraphicsPage.hpp"
 #include "gfx/MenuStyle.hpp"
-#include "gfx/OptionsRows.hpp"
 #include "gfx/Text.hpp"
 #include "input/ControllerHint.hpp"
 #include "state/GameState.hpp"
@@ -21,7 +20,7 @@ constexpr float MainHintY = 430.0F;
 constexpr float MainDeviceLineY = 458.0F;
 
 /// In the order of OptionsPage.
-constexpr std::array<TextKey, 4> SectionNames{
+constexpr std::array SectionNames{
     TextKey::OptionsSectionMenu,
     TextKey::OptionsSectionControls,
     TextKey::OptionsSectionGraphics,
@@ -29,7 +28,7 @@ constexpr std::array<TextKey, 4> SectionNames{
 };
 
 /// In the order of OptionsMainRow.
-constexpr std::array<TextKey, 4> MainRowLabels{
+constexpr std::array MainRowLabels{
     TextKey::OptionsMainControls,
     TextKey::OptionsMainGraphics,
     TextKey::OptionsMainAudio,
@@ -44,27 +43,19 @@ void DrawHeadings(SDL_Renderer *Renderer, enum OptionsPage Page) {
     DrawTextCentered(Renderer, GetText(section), ScreenCenterX(), SectionY, MenuScale, SectionColor);
 }
 
-void DrawMainRows(SDL_Renderer *Renderer, std::int32_t Selection) {
-    const float left = ScreenCenterX() - static_cast<float>(WidestText(MainRowLabels, PageScale)) * 0.5F;
-    for (std::size_t i = 0; i < MainRowLabels.size(); ++i) {
-        const float y = MainRowsY + static_cast<float>(i) * OptionsRowDistance;
-        const bool selected = static_cast<std::int32_t>(i) == Selection;
-        DrawMarkedLabel(Renderer, GetText(MainRowLabels[i]), left, y, selected, OptionsMainRowStyle);
-    }
-}
-
 void DrawMainPage(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices) {
     const bool isInRun = State.OptionsReturnScreen == ScreenPaused;
     const TextKey hint =
         isInRun ? TextKey::OptionsHintMainBackToPauseMenu : TextKey::OptionsHintMainBackToMainMenu;
     const TextKey back = isInRun ? TextKey::ControllerHintPauseMenu : TextKey::ControllerHintMainMenu;
-    DrawMainRows(Renderer, State.OptionsMainSelection);
+    DrawLabelRows(Renderer, MainRowLabels, static_cast<std::size_t>(State.OptionsMainSelection),
+        ScreenCenterX(), MainRowsY, OptionsMainRowStyle);
     DrawHint(Renderer, GetText(hint), ScreenCenterX(), MainHintY);
     DrawHint(Renderer, ControllerHint(State, Devices, GetText(TextKey::ControllerHintSelect), GetText(back)),
         ScreenCenterX(), MainDeviceLineY);
 }
 
-/// The device line of the pages behind the main one.
+/// The device line of all pages but the main one.
 std::string PageDeviceLine(const GameState &State, const InputDevices &Devices) {
     return ControllerHint(
         State, Devices, GetText(TextKey::ControllerHintSelect), GetText(TextKey::ControllerHintBack));

@@ -5,5 +5,5 @@
 struct GameState;
 struct InputDevices;
 
-/// Draws the page of the options that is open.
+/// Draws the options page that State.OptionsPage names, on black.
 void RenderOptions(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices);

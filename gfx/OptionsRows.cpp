@@ -8,6 +8,7 @@
 
 namespace {
 
+constexpr float FirstRowY = 150.0F;
 constexpr int ColumnGap = 32;
 
 struct Columns {
@@ -32,14 +33,14 @@ void DrawMenuRow(SDL_Renderer *Renderer, std::string_view Label, std::string_vie
     bool Selected, float LabelX, float ValueX) {
     DrawMarkedLabel(Renderer, Label, LabelX, Y, Selected, OptionsRowStyle);
     if (!Value.empty()) {
-        DrawText(Renderer, Value, ValueX, Y, PageScale, Selected ? SelectedColor : OtherRowColor);
+        DrawText(Renderer, Value, ValueX, Y, PageScale, Selected ? SelectedColor : UnselectedColor);
     }
 }
 
 void DrawOptionsRows(SDL_Renderer *Renderer, std::span<const OptionsRow> Rows, std::int32_t Selection) {
     const Columns columns = PlaceColumns(Rows);
     for (std::size_t i = 0; i < Rows.size(); ++i) {
-        const float y = OptionsRowsY + static_cast<float>(i) * OptionsRowDistance;
+        const float y = FirstRowY + static_cast<float>(i) * OptionsRowStyle.Distance;
         const bool selected = static_cast<std::int32_t>(i) == Selection;
         DrawMenuRow(
             Renderer, GetText(Rows[i].Label), Rows[i].Value, y, selected, columns.LabelX, columns.ValueX);

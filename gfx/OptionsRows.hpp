@@ -15,10 +15,7 @@ struct OptionsRow {
     std::string Value;
 };
 
-inline constexpr float OptionsRowsY = 150.0F;
-inline constexpr float OptionsRowDistance = 34.0F;
-
-/// The two hints below the rows; those of the graphics page stand higher.
+/// The tops of the two hints below ten rows.
 inline constexpr float OptionsFirstHintY = 498.0F;
 inline constexpr float OptionsSecondHintY = 526.0F;
 
@@ -32,5 +29,5 @@ void DrawOptionsRows(SDL_Renderer *Renderer, std::span<const OptionsRow> Rows, s
 /// Draws the hints of a page of values: how to change one, and the device line or, without one, the keys.
 void DrawValueHints(SDL_Renderer *Renderer, std::string_view DeviceLine, float FirstY, float SecondY);
 
-/// The words of a switch.
+/// The word for a switch that is on or off. The reference dies when a language is loaded.
 const std::string &SwitchText(bool On);

@@ -23,8 +23,8 @@ Panel PlacePanel(float ContentWidth, float Padding, float MinWidth, float Height
     return panel;
 }
 
-void DrawPanel(SDL_Renderer *Renderer, const Panel &Panel, std::uint32_t VeilColor) {
-    FillRect(Renderer, Panel.X - BorderWidth, Panel.Y - BorderWidth, Panel.Width + 2.0F * BorderWidth,
-        Panel.Height + 2.0F * BorderWidth, BorderColor);
-    FillRect(Renderer, Panel.X, Panel.Y, Panel.Width, Panel.Height, VeilColor);
+void DrawPanel(SDL_Renderer *Renderer, const Panel &Box, std::uint32_t VeilColor) {
+    FillRect(Renderer, Box.X - BorderWidth, Box.Y - BorderWidth, Box.Width + 2.0F * BorderWidth,
+        Box.Height + 2.0F * BorderWidth, BorderColor);
+    FillRect(Renderer, Box.X, Box.Y, Box.Width, Box.Height, VeilColor);
 }

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-/// A panel in the middle of the screen, with the world showing through.
+/// A box in the middle of the screen, in logical pixels.
 struct Panel {
     float X = 0.0F;
     float Y = 0.0F;
@@ -17,8 +17,8 @@ struct Panel {
 };
 
 /// A panel of this height that holds ContentWidth and Padding, at least MinWidth wide and never wider than
-/// the screen less its margins.
+/// the screen less 80 pixels.
 Panel PlacePanel(float ContentWidth, float Padding, float MinWidth, float Height);
 
-/// Draws the border and the veil.
-void DrawPanel(SDL_Renderer *Renderer, const Panel &Panel, std::uint32_t VeilColor);
+/// Draws the border and the veil, a packed 0xAABBGGRR, which let the world shine through.
+void DrawPanel(SDL_Renderer *Renderer, const Panel &Box, std::uint32_t VeilColor);

@@ -5,5 +5,5 @@
 struct GameState;
 struct InputDevices;
 
-/// Draws the pause menu over the frozen run, as large as its contents.
+/// Draws the pause menu over the frozen run, which RenderGameplay has drawn.
 void RenderPauseOverlay(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices);

@@ -51,7 +51,7 @@ constexpr float ShrubSize = 25.2F;
 constexpr float LeftShrubShift = 14.0F;
 constexpr float RightShrubShift = 33.6F;
 
-// The bridge's rails: widths and lengths are whole multiples of 1.4 pixels, rounded.
+// The bridge's rails and their lighter posts.
 constexpr float RailWidth = 7.0F;
 constexpr std::uint32_t RailColor = 0xFF908780;
 constexpr int PostPeriod = 28;
@@ -66,12 +66,12 @@ constexpr float DashLength = 34.0F;
 constexpr int DashPeriod = 62;
 constexpr std::uint32_t DashColor = 0xFFEBEBEB;
 
-/// Where the first of a row of marks begins that scrolls with the road and starts above the screen:
-/// -Period to -1.
+/// The y of the first of a row of marks, one every Period, that scrolls with the road: -Period to -1.
 int FirstMark(float RoadScroll, int Period) {
     return FloorModulo(RoadScroll, Period) - Period;
 }
 
+/// Y brought onto the screen.
 float OnScreen(float Y) {
     return std::clamp(Y, 0.0F, LogicalHeightF);
 }
@@ -91,7 +91,8 @@ WaterOffsets WaterOffsetsAt(float GameTime, float Y0, std::int32_t FlowDirection
         SnapToStep(rightRipple * RippleAmplitude + base, TexelStep)};
 }
 
-/// Draws a shrub if its centre lies in the band; it is not clipped to the band.
+/// Draws a shrub if its centre lies in the band.
+/// NOT-BUGS: A roadside shrub is not cut at the edge between two stages
 void DrawShrub(SDL_Renderer *Renderer, SpriteId Shrub, float X, float Y, float Y0, float Y1) {
     if (Y >= Y0 && Y < Y1) {
         DrawSprite(Renderer, Shrub, X, std::round(Y), ShrubSize, ShrubSize);
@@ -107,7 +108,7 @@ void FillRails(SDL_Renderer *Renderer, float Top, float Height, std::uint32_t Pa
 void DrawRails(SDL_Renderer *Renderer, float RoadScroll, float Y0, float Y1) {
     const float y0 = OnScreen(Y0);
     const float y1 = OnScreen(Y1);
-    if (!(y0 < y1)) {
+    if (y0 >= y1) {
         return;
     }
     FillRails(Renderer, y0, y1 - y0, RailColor);
@@ -154,9 +155,6 @@ void DrawTwoBands(SDL_Renderer *Renderer, const GameState &State, std::int32_t O
 
 void DrawGround(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme, float Y0, float Y1,
     std::int32_t FlowDirection) {
-    if (!(Y1 - Y0 > 0.0F)) {
-        return;
-    }
     const SceneryTheme &theme = ThemeRow(Theme);
     // The tiling follows the road alone, so bands join without a jump.
     const float offsetY = State.RoadScroll - Y0;
@@ -172,11 +170,11 @@ void DrawGround(SDL_Renderer *Renderer, const GameState &State, std::int32_t The
 
 void DrawRoadside(SDL_Renderer *Renderer, std::int32_t Theme, float RoadScroll, float Y0, float Y1) {
     const SceneryTheme &theme = ThemeRow(Theme);
-    const float y0 = OnScreen(Y0);
-    const float y1 = OnScreen(Y1);
-    if (!theme.HasShrubs || !(y0 < y1)) {
+    if (!theme.HasShrubs) {
         return;
     }
+    const float y0 = OnScreen(Y0);
+    const float y1 = OnScreen(Y1);
     float p = std::fmod(RoadScroll, ShrubPeriod) - ShrubPeriod;
     while (p < LogicalHeightF + ShrubPeriod) {
         DrawShrub(Renderer, theme.Shrub, RoadLeft() - ShrubSize, p + LeftShrubShift, y0, y1);
@@ -186,9 +184,6 @@ void DrawRoadside(SDL_Renderer *Renderer, std::int32_t Theme, float RoadScroll, 
 }
 
 void DrawRoad(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme, float Y0, float Y1) {
-    if (!(Y1 - Y0 > 0.0F)) {
-        return;
-    }
     const SceneryTheme &theme = ThemeRow(Theme);
     DrawTiledSprite(
         Renderer, theme.Road, RoadLeft(), Y0, RoadWidth, Y1 - Y0, 0.0F, State.RoadScroll - Y0, TileScale);
@@ -201,10 +196,11 @@ void DrawScenery(SDL_Renderer *Renderer, const GameState &State) {
     const std::int32_t oldTheme = StageThemeOf(State.PreviousStage);
     const std::int32_t newTheme = StageThemeOf(State.Stage);
     const float seam = std::clamp(State.StageTransition, 0.0F, 1.0F) * LogicalHeightF;
-    if (oldTheme == newTheme || !(seam < LogicalHeightF)) {
-        DrawOneBand(Renderer, State, newTheme);
-    } else {
+    // Also false for NaN, should a damaged run hold that.
+    if (oldTheme != newTheme && seam < LogicalHeightF) {
         DrawTwoBands(Renderer, State, oldTheme, newTheme, seam);
+    } else {
+        DrawOneBand(Renderer, State, newTheme);
     }
     DrawEdgeLines(Renderer);
     DrawCenterDashes(Renderer, State.RoadScroll);

@@ -7,9 +7,10 @@
 struct GameState;
 
 // The scrolling scenery of a run. Themes are values of StageTheme, any other stands for earth; Y0 and Y1
-// bound a band of the screen in logical pixels.
+// bound a band of the screen in logical pixels, and an empty one draws nothing.
 
-/// Tiles the two strips beside the road between Y0 and Y1. FlowDirection (-1 or +1) is where water drifts.
+/// Tiles the two strips beside the road between Y0 and Y1. Water drifts left where FlowDirection is -1, right
+/// where it is 1.
 void DrawGround(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme, float Y0, float Y1,
     std::int32_t FlowDirection);
 

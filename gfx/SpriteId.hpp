@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-/// The sprites of the atlas.
+/// The sprites of the atlas, by their place in it.
 enum SpriteId : std::int32_t {
     SpritePlayer = 0,
     SpritePlayerInvincible = 1,

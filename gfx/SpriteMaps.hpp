@@ -12,12 +12,11 @@ inline constexpr char TransparentSymbol = '.';
 
 /// A painted picture: the colours that its symbols stand for, and a row of symbols for each row of pixels.
 struct SpriteMap {
-    std::array<std::uint32_t, 10> Legend{}; ///< packed 0xAABBGGRR; 0 where the sprite has fewer colours
+    std::array<std::uint32_t, 10> Legend{}; ///< of 'A' to 'J', packed 0xAABBGGRR; 0 behind the last colour
     std::array<std::string_view, SpriteSize> Rows{};
 };
 
-/// The packed colour of a symbol; 0, fully transparent, for the transparent one and for any that has no
-/// colour.
+/// The packed colour of a symbol; 0, which is fully transparent, for one that has none.
 constexpr std::uint32_t SymbolColor(const SpriteMap &Map, char Symbol) {
     const int index = Symbol - 'A';
     if (index < 0 || index >= static_cast<int>(Map.Legend.size())) {

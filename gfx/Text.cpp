@@ -26,11 +26,11 @@ template <typename Visitor> void ForEachCodePoint(std::string_view Text, Visitor
 }
 
 /// How many columns a glyph reaches from the left; 0 for a blank one.
-int ColumnsUsed(Glyph Glyph) {
+int ColumnsUsed(Glyph Letter) {
     int used = 0;
     for (int row = 0; row < GlyphRows; ++row) {
         for (int column = used; column < GlyphColumns; ++column) {
-            if (IsSet(Glyph, row, column)) {
+            if (IsSet(Letter, row, column)) {
                 used = column + 1;
             }
         }
@@ -39,11 +39,11 @@ int ColumnsUsed(Glyph Glyph) {
 }
 
 void DrawGlyph(
-    SDL_Renderer *Renderer, Glyph Glyph, float X, float Y, float Scale, std::uint32_t PackedColor) {
+    SDL_Renderer *Renderer, Glyph Letter, float X, float Y, float Scale, std::uint32_t PackedColor) {
     SetDrawColor(Renderer, PackedColor);
     for (int row = 0; row < GlyphRows; ++row) {
         for (int column = 0; column < GlyphColumns; ++column) {
-            if (IsSet(Glyph, row, column)) {
+            if (IsSet(Letter, row, column)) {
                 const SDL_FRect square{X + static_cast<float>(column) * Scale,
                     Y + static_cast<float>(row) * Scale, Scale, Scale};
                 SDL_RenderFillRect(Renderer, &square);

@@ -6,12 +6,12 @@
 #include <string_view>
 
 // Text in the built-in font. A text is UTF-8 and may hold any bytes; Scale is the side of a glyph's squares
-// in logical pixels. Nothing here allocates.
+// in logical pixels; packed colours are 0xAABBGGRR. Nothing here allocates.
 
-/// The width of a text in logical pixels: the sum of its advances.
+/// The width of a text in logical pixels, with the blank columns behind its last glyph.
 int MeasureText(std::string_view Text, int Scale);
 
-/// The same without the blank columns behind the last glyph; never below 0.
+/// The width without those blank columns; never below 0. A space at the end counts as a glyph without ink.
 int MeasureTextVisible(std::string_view Text, int Scale);
 
 /// Draws a text with its top left corner at (X, Y). There is no line breaking and no snapping.

@@ -8,5 +8,6 @@ void RenderGameplay(SDL_Renderer *Renderer, const GameState &State) {
     DrawScenery(Renderer, State);
     DrawEntities(Renderer, State);
     DrawHud(Renderer, State);
+    // NOT-BUGS: A bomb's blast covers the HUD
     DrawGameplayOverlays(Renderer, State);
 }

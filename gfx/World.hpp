@@ -4,5 +4,5 @@
 
 struct GameState;
 
-/// Draws the whole scene of a run with its HUD, without changing it.
+/// Draws the whole scene of a run with its HUD, over a frame that has been cleared.
 void RenderGameplay(SDL_Renderer *Renderer, const GameState &State);

@@ -1,3 +1,4 @@
+#include "gfx/Credits.hpp"
 #include "tests/app/ProgramTest.hpp"
 
 namespace {

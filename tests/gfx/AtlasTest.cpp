@@ -9,7 +9,7 @@ namespace {
 
 constexpr int AtlasWidth = 90;
 
-/// What an atlas pixel holds: a cell of 16 with a moat of 1 around it takes 18, five to a row.
+/// What an atlas pixel holds: a cell of 16 with a gutter of 1 around it takes 18, five to a row.
 std::uint32_t ExpectedAtlasPixel(int X, int Y) {
     const int id = Y / 18 * 5 + X / 18;
     return id > 20 ? 0 : ArtPixel(id, std::clamp(X % 18 - 1, 0, 15), std::clamp(Y % 18 - 1, 0, 15));
