@@ -62,9 +62,9 @@ bool CopyUserStorageFile(const std::string &Name, const std::string &StagingPath
     return storage && CopyStorageFile(storage.get(), Name.c_str(), StagingPath);
 }
 
-bool CopyTitleStorageFile(const std::string &Name, const std::string &StagingPath) {
+bool CopyTitleStorageFile(const std::string &Path, const std::string &StagingPath) {
     const StorageHandle storage(SDL_OpenTitleStorage(nullptr, 0));
-    return storage && CopyStorageFile(storage.get(), Name.c_str(), StagingPath);
+    return storage && CopyStorageFile(storage.get(), Path.c_str(), StagingPath);
 }
 
 bool WriteUserStorageFile(const std::string &Name, const std::string &StagingPath) {

@@ -18,7 +18,7 @@ bool CopyStorageFile(SDL_Storage *Storage, const char *Name, const std::string &
 bool CopyUserStorageFile(const std::string &Name, const std::string &StagingPath);
 
 /// Copies a file that ships with the game to a plain one.
-bool CopyTitleStorageFile(const std::string &Name, const std::string &StagingPath);
+bool CopyTitleStorageFile(const std::string &Path, const std::string &StagingPath);
 
 /// Puts the contents of a plain file into the user's storage in one write; an empty file is refused.
 /// NOT-BUGS: A write is not safe against a crash of the system or a full disk
