@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view Divider = "\n%%\n";
 
-constexpr std::array<const char *, 3> Files{"Languages.ini", "En.ini", "De.ini"};
+constexpr std::array Files{"Languages.ini", "En.ini", "De.ini"};
 
 /// Takes what stands before the next divider off the text.
 std::string_view TakePart(std::string_view &Text) {

@@ -23,7 +23,8 @@ IniEntry &ArrayToFill(IniSection &Section, std::string_view Key, bool HasIndex) 
     IniEntry array;
     array.Kind = IniEntryKind::Array;
     array.Key = Key;
-    array.Quoted = HasIndex; // on purpose: no array is quoted, and the flag is free to tell this
+    // NOT-BUGS: An array is marked as quoted if its first element came with an index
+    array.Quoted = HasIndex;
     return Section.Entries.emplace_back(std::move(array));
 }
 
@@ -53,7 +54,7 @@ void AppendElement(
     element.Kind = IniEntryKind::Value;
     element.Key = std::move(Index);
     element.Value = std::move(Value);
-    // Deliberate: a new element without a comment forgets that its value was quoted.
+    // NOT-BUGS: A new element of an array without a comment is never marked as quoted
     element.Quoted = Comment.has_value() && Quoted;
     element.Comment = std::move(Comment);
     Array.Elements.push_back(std::move(element));
@@ -78,7 +79,7 @@ void AddIniArrayElement(IniSection &Section, std::string_view Key, std::string_v
     IniEntry &array = ArrayToFill(Section, Key, HasIndex);
     if (!HasIndex) {
         array.NextIndex = NextIndexOf(array.Elements);
-        index = TextFromNumber(array.NextIndex);
+        index = std::to_string(array.NextIndex);
     }
     const auto present = std::ranges::find(array.Elements, index, &IniEntry::Key);
     if (present != array.Elements.end()) {

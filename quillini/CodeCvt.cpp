@@ -28,7 +28,7 @@ template <class Unit> std::string ToUtf8(std::basic_string_view<Unit> Units) {
     char8_t *written = nullptr;
     const auto result = facet.out(state, Units.data(), Units.data() + Units.size(), read, bytes.data(),
         bytes.data() + bytes.size(), written);
-    // To the facet of one library all is well when it stops before a high surrogate at the very end.
+    // One standard library's facet reports ok when it has stopped before a high surrogate at the very end.
     RefuseUnless(result == std::codecvt_base::ok && read == Units.data() + Units.size());
     return {bytes.data(), written};
 }

@@ -1,12 +1,11 @@
 #include "quillini/Decoding.hpp"
 
-#include "quillini/ByteOrder.hpp"
 #include "quillini/CodeCvt.hpp"
 #include "quillini/Files.hpp"
-#include "quillini/Text.hpp"
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
@@ -20,49 +19,34 @@ namespace quillINI {
 
 namespace {
 
-// Five bytes could be a whole file, and are refused all the same.
+// NOT-BUGS: An empty file counts as missing, and an INI file under six bytes as unreadable
 constexpr std::size_t SmallestFile = 6;
 
-/// What one of the first four bytes of a file has to be.
-struct ByteRule {
-    enum class Test : std::uint8_t {
-        Any,
-        NotZero,
-        Equal,
-    };
-
-    Test Kind = Test::Equal;
-    std::uint8_t Value = 0;
-};
-
-constexpr ByteRule Any{ByteRule::Test::Any};
-constexpr ByteRule NotZero{ByteRule::Test::NotZero};
-
-constexpr ByteRule Is(std::uint8_t Value) {
-    return {ByteRule::Test::Equal, Value};
-}
+// What a byte of a signature can be beside a value.
+constexpr int Any = -1;
+constexpr int NotZero = -2;
 
 /// An encoding, known by the first bytes of a file.
 struct Signature {
-    std::array<ByteRule, 4> FirstBytes;
+    std::array<int, 4> FirstBytes;
     std::size_t UnitSize; ///< bytes
-    ByteOrder Order;
+    std::endian Order;
     std::string_view Name;
     std::size_t MarkSize; ///< bytes of the byte order mark
 };
 
 // The first match wins.
-constexpr std::array<Signature, 9> Signatures{{
-    {{Is(0xFF), Is(0xFE), Is(0x00), Is(0x00)}, 4, ByteOrder::Little, "UTF-32 Little Endian", 4},
-    {{Is(0xFF), Is(0xFE), Any, Any}, 2, ByteOrder::Little, "UTF-16 Little Endian", 2},
-    {{Is(0xFE), Is(0xFF), Any, Any}, 2, ByteOrder::Big, "UTF-16 Big Endian", 2},
-    {{Is(0xEF), Is(0xBB), Is(0xBF), Any}, 1, ByteOrder::Little, "UTF-8", 3},
-    {{Is(0x00), Is(0x00), Is(0xFE), Is(0xFF)}, 4, ByteOrder::Big, "UTF-32 Big Endian", 4},
-    {{NotZero, Is(0x00), Is(0x00), Is(0x00)}, 4, ByteOrder::Little, "UTF-32 Little Endian", 0},
-    {{NotZero, Is(0x00), NotZero, Is(0x00)}, 2, ByteOrder::Little, "UTF-16 Little Endian", 0},
-    {{Is(0x00), Is(0x00), Is(0x00), NotZero}, 4, ByteOrder::Big, "UTF-32 Big Endian", 0},
-    {{Is(0x00), NotZero, Is(0x00), NotZero}, 2, ByteOrder::Big, "UTF-16 Big Endian", 0},
-}};
+constexpr auto Signatures = std::to_array<Signature>({
+    {{0xFF, 0xFE, 0x00, 0x00}, 4, std::endian::little, "UTF-32 Little Endian", 4},
+    {{0xFF, 0xFE, Any, Any}, 2, std::endian::little, "UTF-16 Little Endian", 2},
+    {{0xFE, 0xFF, Any, Any}, 2, std::endian::big, "UTF-16 Big Endian", 2},
+    {{0xEF, 0xBB, 0xBF, Any}, 1, std::endian::little, "UTF-8", 3},
+    {{0x00, 0x00, 0xFE, 0xFF}, 4, std::endian::big, "UTF-32 Big Endian", 4},
+    {{NotZero, 0x00, 0x00, 0x00}, 4, std::endian::little, "UTF-32 Little Endian", 0},
+    {{NotZero, 0x00, NotZero, 0x00}, 2, std::endian::little, "UTF-16 Little Endian", 0},
+    {{0x00, 0x00, 0x00, NotZero}, 4, std::endian::big, "UTF-32 Big Endian", 0},
+    {{0x00, NotZero, 0x00, NotZero}, 2, std::endian::big, "UTF-16 Big Endian", 0},
+});
 
 std::string ReadAll(std::ifstream &File) {
     File.seekg(0, std::ios::end);
@@ -78,7 +62,7 @@ std::string ReadAll(std::ifstream &File) {
 std::optional<std::string> ReadBytes(std::string_view Path) {
     std::ifstream file = OpenToRead(Path);
     if (!file.is_open()) {
-        std::cout << "Unable to open INI file: " + std::string(Path) + "\n";
+        std::cout << "Unable to open INI file: " << Path << '\n';
         return std::nullopt;
     }
     std::string bytes = ReadAll(file);
@@ -87,45 +71,38 @@ std::optional<std::string> ReadBytes(std::string_view Path) {
         return std::nullopt;
     }
     if (bytes.size() < SmallestFile) {
-        std::cout << "INI file cannot be smaller than 6 bytes! (Size in bytes: " +
-                         TextFromNumber(bytes.size()) + ")\n";
+        // As text, since the stream's locale could group the digits.
+        std::cout << "INI file cannot be smaller than 6 bytes! (Size in bytes: "
+                  << std::to_string(bytes.size()) << ")\n";
         return std::nullopt;
     }
     return bytes;
 }
 
-bool Passes(char Byte, const ByteRule &Rule) {
+bool IsAsExpected(char Byte, int Expected) {
     const auto value = static_cast<std::uint8_t>(Byte);
-    switch (Rule.Kind) {
-    case ByteRule::Test::NotZero:
-        return value != 0;
-    case ByteRule::Test::Equal:
-        return value == Rule.Value;
-    case ByteRule::Test::Any:
-    default:
-        return true;
-    }
+    return Expected == Any || (Expected == NotZero ? value != 0 : value == Expected);
 }
 
-bool Matches(const Signature &Signature, std::string_view Bytes) {
-    return std::ranges::equal(Bytes.substr(0, Signature.FirstBytes.size()), Signature.FirstBytes, Passes);
+bool Matches(std::string_view Bytes, const Signature &Expected) {
+    return std::ranges::equal(Bytes.substr(0, Expected.FirstBytes.size()), Expected.FirstBytes, IsAsExpected);
 }
 
-// Four signatures have no byte order mark, and their files get these words too; that stays.
-void PrintMarkNote(std::string_view Name) {
-    std::cout << "INI file starts with " + std::string(Name) +
-                     " BOM! Please note that by default the BOM will be skipped, and removed in case the INI "
-                     "file gets saved and the BOM was not specified!\n";
+// NOT-BUGS: The note about a byte order mark also comes for files that have none
+void PrintMarkNote(std::string_view EncodingName) {
+    std::cout << "INI file starts with " << EncodingName
+              << " BOM! Please note that by default the BOM will be skipped, and removed in case the INI "
+                 "file gets saved and the BOM was not specified!\n";
 }
 
 /// The whole units of the bytes; a last one that is cut short is dropped.
-template <class Unit> std::basic_string<Unit> UnitsOf(std::string_view Bytes, ByteOrder Order) {
+template <class Unit> std::basic_string<Unit> UnitsOf(std::string_view Bytes, std::endian Order) {
     std::basic_string<Unit> units;
     units.reserve(Bytes.size() / sizeof(Unit));
     for (std::size_t begin = 0; Bytes.size() - begin >= sizeof(Unit); begin += sizeof(Unit)) {
         std::uint32_t unit = 0;
         for (std::size_t i = 0; i < sizeof(Unit); ++i) {
-            const std::size_t offset = Order == ByteOrder::Big ? i : sizeof(Unit) - 1 - i;
+            const std::size_t offset = Order == std::endian::big ? i : sizeof(Unit) - 1 - i;
             unit = unit << 8U | static_cast<std::uint8_t>(Bytes[begin + offset]);
         }
         units.push_back(static_cast<Unit>(unit));
@@ -133,13 +110,13 @@ template <class Unit> std::basic_string<Unit> UnitsOf(std::string_view Bytes, By
     return units;
 }
 
-std::string Decode(std::string_view Bytes, const Signature &Signature) {
-    const std::string_view text = Bytes.substr(Signature.MarkSize);
-    switch (Signature.UnitSize) {
+std::string Decode(std::string_view Bytes, const Signature &Found) {
+    const std::string_view text = Bytes.substr(Found.MarkSize);
+    switch (Found.UnitSize) {
     case 4:
-        return Utf8From(UnitsOf<char32_t>(text, Signature.Order));
+        return Utf8From(UnitsOf<char32_t>(text, Found.Order));
     case 2:
-        return Utf8From(UnitsOf<char16_t>(text, Signature.Order));
+        return Utf8From(UnitsOf<char16_t>(text, Found.Order));
     default:
         return std::string(text); // as it is, valid or not
     }
@@ -153,7 +130,7 @@ std::optional<std::string> ReadDecodedFile(std::string_view Path) {
         return std::nullopt;
     }
     for (const Signature &signature : Signatures) {
-        if (Matches(signature, *bytes)) {
+        if (Matches(*bytes, signature)) {
             PrintMarkNote(signature.Name);
             return Decode(*bytes, signature);
         }

@@ -19,7 +19,7 @@ struct ShortEscape {
     std::string_view Escape;
 };
 
-constexpr std::array<ShortEscape, 8> ShortEscapes{{
+constexpr auto ShortEscapes = std::to_array<ShortEscape>({
     {'"', "\\\""},
     {'\\', "\\\\"},
     {'\b', "\\b"},
@@ -28,23 +28,23 @@ constexpr std::array<ShortEscape, 8> ShortEscapes{{
     {'\v', "\\v"},
     {'\f', "\\f"},
     {'\r', "\\r"},
-}};
+});
 
-// 0x1F is not escaped, though its neighbours are; that stays.
+// NOT-BUGS: The character 0x1F is written as it is
 constexpr std::uint8_t LastEscapedControl = 0x1E;
 
-/// A sequence of more than one byte, by the bits of its first.
+/// A sequence of more than one byte, by the bits of its first one under Mask.
 struct SequenceForm {
     std::uint8_t Mask;
     std::uint8_t Lead;
     std::size_t Length;
 };
 
-constexpr std::array<SequenceForm, 3> SequenceForms{{
+constexpr auto SequenceForms = std::to_array<SequenceForm>({
     {0xE0, 0xC0, 2},
     {0xF0, 0xE0, 3},
     {0xF8, 0xF0, 4},
-}};
+});
 
 [[noreturn]] void RefuseSequence() {
     throw std::runtime_error("Invalid UTF-8 sequence!");

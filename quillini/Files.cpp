@@ -59,7 +59,7 @@ std::ifstream OpenToRead(std::string_view Path) {
     auto file = PlainStream<std::ifstream>();
     const std::optional<std::filesystem::path> path = NativePath(Path);
     std::error_code ignored;
-    // Some systems open a folder like a file, and then tell a size without end.
+    // Some systems open a folder like a file, and then give it the largest size there is.
     if (path && !std::filesystem::is_directory(*path, ignored)) {
         file.open(*path, std::ios::binary);
     }

@@ -5,10 +5,10 @@
 
 namespace quillINI {
 
-/// The file of a UTF-8 path for binary reading; not open if it could not be. A folder is no file.
+/// The file of a UTF-8 path, open for binary reading; not open if that failed or it is a folder.
 std::ifstream OpenToRead(std::string_view Path);
 
-/// The file of a UTF-8 path for binary writing, which empties it; not open if it could not be.
+/// The file of a UTF-8 path, emptied and open for binary writing; not open if that failed.
 std::ofstream OpenToWrite(std::string_view Path);
 
 } // namespace quillINI

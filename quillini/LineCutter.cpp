@@ -2,6 +2,7 @@
 
 #include "quillini/Text.hpp"
 
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <stdexcept>
@@ -24,53 +25,22 @@ struct LineCutter {
     std::vector<std::string> Lines;
 };
 
-enum class DigitsEnd : std::uint8_t {
-    Complete,
-    OtherCharacter,
-    EndOfText,
-};
-
-/// Up to four hex digits, and why there are no more.
+/// The hex digits before any other character, at most four.
 struct EscapeDigits {
     std::uint32_t Value = 0;
     std::size_t Count = 0;
-    DigitsEnd End = DigitsEnd::Complete;
 };
 
-int HexDigit(char Character) {
-    if (Character >= '0' && Character <= '9') {
-        return Character - '0';
-    }
-    if (Character >= 'a' && Character <= 'f') {
-        return Character - 'a' + 10;
-    }
-    if (Character >= 'A' && Character <= 'F') {
-        return Character - 'A' + 10;
-    }
-    return -1;
-}
-
+/// The digits that a text begins with. Throws if it ends before the fourth or another character.
 EscapeDigits ReadDigits(std::string_view Text) {
+    const std::string_view window = Text.substr(0, DigitsOfEscape);
     EscapeDigits digits;
-    for (; digits.Count < DigitsOfEscape; ++digits.Count) {
-        if (digits.Count == Text.size()) {
-            digits.End = DigitsEnd::EndOfText;
-            break;
-        }
-        const int digit = HexDigit(Text[digits.Count]);
-        if (digit < 0) {
-            digits.End = DigitsEnd::OtherCharacter;
-            break;
-        }
-        digits.Value = digits.Value * 16 + static_cast<std::uint32_t>(digit);
-    }
-    return digits;
-}
-
-void RefuseEndOfText(const EscapeDigits &Digits) {
-    if (Digits.End == DigitsEnd::EndOfText) {
+    const auto read = std::from_chars(window.data(), window.data() + window.size(), digits.Value, 16);
+    digits.Count = static_cast<std::size_t>(read.ptr - window.data());
+    if (digits.Count == Text.size() && digits.Count < DigitsOfEscape) {
         throw std::runtime_error("Read beyond end of file, and found invalid unicode escape sequence!");
     }
+    return digits;
 }
 
 bool IsHighSurrogate(std::uint32_t Value) {
@@ -84,24 +54,23 @@ std::uint32_t CodePointOfPair(std::uint32_t High, std::uint32_t Low) {
     return (High - 0xD800) * 0x400 + (Low - 0xDC00) + 0x10000;
 }
 
-/// The value of the escape that Text begins with, as it stands behind another one.
+/// The value of the escape that Text begins with and that stands right behind another one.
 std::uint32_t ReadSecondEscape(std::string_view Text) {
     const EscapeDigits digits = ReadDigits(Text.substr(EscapeBegin.size()));
-    RefuseEndOfText(digits);
-    if (digits.End == DigitsEnd::OtherCharacter) {
+    if (digits.Count < DigitsOfEscape) {
         throw std::runtime_error("Invalid code point for UTF-16 low surrogate pair!");
     }
     return digits.Value;
 }
 
-/// An escape whose value is known, with Index behind it.
+/// Appends what an escape stands for whose digits are taken, and takes a low surrogate's escape behind it.
 void FinishEscape(LineCutter &Cutter, std::uint32_t Value) {
     const std::string_view rest = Cutter.Text.substr(Cutter.Index);
     if (!rest.starts_with(EscapeBegin)) {
         Cutter.Line += EncodeCodePointUtf8(Value);
         return;
     }
-    // A second escape has to be whole even where the first needs none: this is on purpose.
+    // NOT-BUGS: An escape right behind another one ends the program if it has not all four digits
     const std::uint32_t second = ReadSecondEscape(rest);
     if (!IsHighSurrogate(Value)) {
         Cutter.Line += EncodeCodePointUtf8(Value);
@@ -114,9 +83,8 @@ void FinishEscape(LineCutter &Cutter, std::uint32_t Value) {
 void TakeEscape(LineCutter &Cutter) {
     const std::size_t begin = Cutter.Index + EscapeBegin.size();
     const EscapeDigits digits = ReadDigits(Cutter.Text.substr(begin));
-    RefuseEndOfText(digits);
     Cutter.Index = begin + digits.Count;
-    if (digits.End == DigitsEnd::OtherCharacter) {
+    if (digits.Count < DigitsOfEscape) { // no escape: it loses its backslash
         Cutter.Line += 'x';
         Cutter.Line += Cutter.Text.substr(begin, digits.Count);
         return;
@@ -145,7 +113,8 @@ void TakeCarriageReturn(LineCutter &Cutter) {
     if (Cutter.Index + 1 < Cutter.Text.size()) { // as the last byte it is dropped
         EndLine(Cutter);
     }
-    Cutter.Index += 2; // the byte behind it is dropped, line feed or not; that stays
+    // NOT-BUGS: A lone carriage return eats the character behind it
+    Cutter.Index += 2;
 }
 
 void TakeNext(LineCutter &Cutter) {

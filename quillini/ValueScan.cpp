@@ -15,9 +15,9 @@ constexpr std::string_view TagEndInValue = "Close section tag within value tag!\
 constexpr std::string_view StringNotClosed = "String end tag not defined!\n";
 constexpr std::string_view LineEndInString = "Value end tag (New line) was not found!\n";
 
+/// Outside of a string. A NUL byte in a file opens none, so it is free for this.
 constexpr char NoQuote = '\0';
 
-/// A NUL byte in a file opens no string, so it can stand for "outside of one".
 struct ValueScan {
     std::string_view Rest;
     std::string &Error;

@@ -49,7 +49,7 @@ void SetIniString(
 IniEntry &AddIniValue(IniSection &Section, std::string_view Key, std::string_view Value, bool Quoted) {
     std::string value(Value); // may be a text of an entry that moves when another one is appended
     const auto present = FindIniEntry(Section, Key);
-    // The kind of a present entry is left alone on purpose: an array, or a comment, stays one.
+    // A present entry keeps its kind: an array stays one, and so does a comment.
     IniEntry &entry = present == Section.Entries.end() ? AppendValue(Section, Key) : *present;
     entry.Value = std::move(value);
     entry.Quoted = Quoted;

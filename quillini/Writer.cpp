@@ -18,8 +18,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// By encoding.
-constexpr std::array<std::string_view, 6> ByteOrderMarks{
+// By IniEncoding.
+constexpr std::array ByteOrderMarks{
     ""sv,
     "\xEF\xBB\xBF"sv,
     "\xFF\xFE"sv,
@@ -49,6 +49,7 @@ bool HoldsMoreThanMark(const IniWriter &Writer) {
     return Writer.File.tellp() > static_cast<std::streamoff>(ByteOrderMarkOf(Writer.Encoding).size());
 }
 
+/// Whether a section has no header in the file. Its name may also be in small letters.
 bool IsGlobal(const IniSection &Section) {
     return Section.Name == IniGlobalSection || Section.Name == "qi_global";
 }
@@ -79,7 +80,7 @@ std::string CommentLine(const IniWriter &Writer, const IniEntry &Entry) {
     return std::string(1, Writer.Document.CommentChar) + ' ' + shown;
 }
 
-/// All elements behind the same prefix: at the very start of a file they share one line, and that stays.
+// NOT-BUGS: The elements of an array at the very start of a file share one line
 void WriteArray(const IniWriter &Writer, const IniEntry &Array, const std::string &Prefix) {
     for (const IniEntry &element : Array.Elements) {
         std::string line = Prefix + EscapeIniText(Array.Key) + '[';
@@ -150,7 +151,7 @@ void WriteSection(const IniWriter &Writer, const IniSection &Section) {
 bool WriteIniFile(const IniDocument &Document, std::string_view Path, bool Spaced, IniEncoding Encoding) {
     std::ofstream file = OpenToWrite(Path);
     if (!file.is_open()) {
-        std::cout << "Unable to write INI file: " + std::string(Path) + "\n";
+        std::cout << "Unable to write INI file: " << Path << '\n';
         return false;
     }
     file << ByteOrderMarkOf(Encoding);

@@ -10,8 +10,9 @@
 #include <vector>
 
 /// INI files that keep what a person wrote: the order of sections and entries, comments, blank lines, quotes.
-/// All text in memory is UTF-8. Lookups compare exact bytes and walk the lists from the front: documents are
-/// small.
+/// All text in memory is UTF-8, and so are paths. Lookups compare exact bytes and walk the lists from the
+/// front: documents are small. References and iterators into a list live until a section or an entry is added
+/// to it.
 namespace quillINI {
 
 /// The section of everything that stands before the first section tag.
@@ -24,18 +25,24 @@ enum class IniEntryKind : std::uint8_t {
     Array = 3,
 };
 
-/// One line of a section, or all elements of an array.
+/// One line of a section, or an array with all its elements.
 struct IniEntry {
     IniEntryKind Kind = IniEntryKind::EmptyLine;
-    std::string Key; ///< of a comment or blank line a reserved key, of an element its index as text
+    /// Of a comment or blank line a reserved key, of an array's element its index as text.
+    std::string Key;
     /// Value or comment text without escapes and quotes; empty for a blank line or an array.
     std::string Value;
-    std::optional<std::string> Comment; ///< behind the value, on its line
+    /// Behind the value, on its line.
+    std::optional<std::string> Comment;
+    /// The value is written in quotes.
     bool Quoted = false;
     /// Of a comment: quotes and backslashes are written without a backslash before them.
     bool RawComment = false;
-    std::int32_t NextIndex = 0; ///< of an array: the index of the latest element that was added without one
-    bool WriteIndexes = false;  ///< of an array: the writer spells the indexes out; nothing here sets it
+    /// Of an array: the index of the latest element that was added without one.
+    std::int32_t NextIndex = 0;
+    /// Of an array: the writer spells the indexes out. Nothing here sets it.
+    bool WriteIndexes = false;
+    /// Of an array: each of kind Value, with a key of its own.
     std::vector<IniEntry> Elements;
 
     bool operator==(const IniEntry &) const = default;
@@ -44,10 +51,12 @@ struct IniEntry {
 /// A section; its keys are unique.
 struct IniSection {
     std::string Name;
-    std::optional<std::string> Comment; ///< behind the section tag
+    /// Behind the section tag.
+    std::optional<std::string> Comment;
     std::vector<IniEntry> Entries;
-    std::int32_t CommentCount = 0;   ///< keys "QI_C_1" and up that were handed out
-    std::int32_t EmptyLineCount = 0; ///< keys "QI_EL_1" and up that were handed out
+    /// The reserved keys that were handed out: "QI_C_1" and up to comments, "QI_EL_1" and up to blank lines.
+    std::int32_t CommentCount = 0;
+    std::int32_t EmptyLineCount = 0;
 
     bool operator==(const IniSection &) const = default;
 };
@@ -57,17 +66,19 @@ struct IniDocument {
     /// Nothing but the global section, empty.
     IniDocument();
 
-    std::string LineEnd = "\r\n"; ///< of the writer, as the three characters below
+    /// The writer's, as are the three characters; a reader takes every form.
+    std::string LineEnd = "\r\n";
     char CommentChar = ';';
     char StringChar = '"';
     char KeyValueSeparator = '=';
-    std::locale Locale = std::locale::classic(); ///< held only: reading and writing know no locale
+    /// Without effect: reading and writing know no locale.
+    std::locale Locale = std::locale::classic();
     std::vector<IniSection> Sections;
 
     bool operator==(const IniDocument &) const = default;
 };
 
-/// Where a comment or blank line goes; the last two take a reference key.
+/// Where a comment or blank line goes; the last two are relative to the entry of a reference key.
 enum class IniInsertPosition : std::uint8_t {
     Front = 0,
     Back = 1,
@@ -77,7 +88,8 @@ enum class IniInsertPosition : std::uint8_t {
 
 /// What a file is written in.
 enum class IniEncoding : std::uint8_t {
-    Utf8 = 0, ///< the only one without a byte order mark
+    /// The only one without a byte order mark.
+    Utf8 = 0,
     Utf8Bom = 1,
     Utf16Le = 2,
     Utf16Be = 3,
@@ -104,7 +116,7 @@ std::vector<IniEntry>::const_iterator FindIniEntry(const IniSection &Section, st
 std::string GetIniValue(
     const IniDocument &Document, std::string_view Section, std::string_view Key, std::string_view Default);
 
-/// Sets a value; an absent section or key is appended, a present key keeps its place and comment.
+/// Sets a value; an absent section or key is appended, a present key keeps its kind, place and comment.
 void SetIniValue(IniDocument &Document, std::string_view Section, std::string_view Key,
     std::string_view Value, bool Quoted);
 
@@ -112,7 +124,7 @@ void SetIniValue(IniDocument &Document, std::string_view Section, std::string_vi
 void SetIniString(
     IniDocument &Document, std::string_view Section, std::string_view Key, std::string_view Value);
 
-/// Sets a value within a section. The reference lives until the next entry is added.
+/// Sets a value within a section and gives its entry.
 IniEntry &AddIniValue(IniSection &Section, std::string_view Key, std::string_view Value, bool Quoted);
 
 /// Sets the comment behind a value; an empty text takes it away.
@@ -121,9 +133,10 @@ void SetIniEntryComment(IniEntry &Entry, std::string_view Text);
 /// Sets the comment behind a section tag; an empty text takes it away.
 void SetIniSectionComment(IniSection &Section, std::string_view Text);
 
-/// Sets the element Index of the array Key, or appends one; without HasIndex the index is the largest one
-/// plus 1. Then throws std::invalid_argument if an element's key is no number, std::out_of_range if one
-/// leaves 32 bits.
+/// Sets the element Index of the array Key, or appends it; an absent array is appended first. Without
+/// HasIndex the index is the largest one plus 1, or 0; this throws std::invalid_argument if an element's key
+/// is no number, std::out_of_range if one or the new index leaves 32 bits. Without HasComment an element has
+/// none.
 void AddIniArrayElement(IniSection &Section, std::string_view Key, std::string_view Value, bool Quoted,
     bool HasComment, std::string_view Comment, std::string_view Index, bool HasIndex);
 
@@ -131,8 +144,8 @@ void AddIniArrayElement(IniSection &Section, std::string_view Key, std::string_v
 std::vector<IniEntry>::iterator IniArrayElementsEnd(IniEntry &Entry);
 std::vector<IniEntry>::const_iterator IniArrayElementsEnd(const IniEntry &Entry);
 
-/// Inserts a comment line, unless the key is taken. Throws std::runtime_error if BeforeKey or AfterKey find
-/// no entry under ReferenceKey, or it is empty.
+/// Inserts a comment line; nothing happens if an entry has the key already. Throws std::runtime_error if
+/// Position is BeforeKey or AfterKey and there is no entry under ReferenceKey, or that is empty.
 void AddIniComment(IniSection &Section, std::string_view Key, std::string_view Text,
     IniInsertPosition Position = IniInsertPosition::Back, std::string_view ReferenceKey = {},
     bool RawComment = false);
@@ -148,14 +161,15 @@ void AppendIniEmptyLine(IniDocument &Document, std::string_view SectionName);
 /// The non-empty pieces between any characters of Delimiters, or the whole text if there is none.
 std::vector<std::string> SplitAny(std::string_view Text, std::string_view Delimiters);
 
-/// Adds a file to a document; messages go to standard output. False if it cannot be opened or has under 6
-/// bytes. A syntax error ends the reading and still gives true. Throws std::range_error for invalid UTF-16 or
-/// UTF-32, std::runtime_error for an invalid unicode escape, and what AddIniArrayElement throws.
+/// Adds a file to a document; messages go to standard output. False, with the document as it was, if the file
+/// cannot be opened or has under 6 bytes. A syntax error ends the reading and still gives true. Throws
+/// std::range_error for invalid UTF-16 or UTF-32, std::runtime_error for an invalid unicode escape, and what
+/// AddIniArrayElement throws.
 bool ReadIniFile(IniDocument &Document, std::string_view Path);
 
 /// Writes a document over a file; Spaced puts blanks around separators and before comments, and blank lines
-/// between sections. False if it cannot be opened; later failures of the disk are not seen. Throws as
-/// EscapeIniText, and as WriteIniEncoded for marks and line ends of the document, with part of it written.
+/// between sections. False, after a message on standard output, if it cannot be opened; later failures of the
+/// disk are not seen. Throws what EscapeIniText and WriteIniEncoded throw, with part of the file written.
 bool WriteIniFile(const IniDocument &Document, std::string_view Path, bool Spaced, IniEncoding Encoding);
 
 /// Writes UTF-8 text in an encoding, without a byte order mark; nothing for a value that is no encoding.

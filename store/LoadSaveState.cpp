@@ -25,8 +25,8 @@ struct SavedGame {
 
 // A value of the wrong kind leaves what was there.
 
-/// Only a damaged file holds more: a number that is none leaves what was there, and one beyond all floats
-/// becomes the largest.
+/// NaN leaves what was there, and a number beyond FLT_MAX becomes FLT_MAX.
+/// NOT-BUGS: A NaN in a save state is not read
 void ReadValue(ValueStreamReader & /*Reader*/, const ValueToken &Token, float &Out) {
     constexpr float largest = std::numeric_limits<float>::max();
     float number = 0.0F;
@@ -47,8 +47,7 @@ void ReadValue(ValueStreamReader & /*Reader*/, const ValueToken &Token, bool &Ou
     TokenToBool(Token, Out);
 }
 
-/// Calls Visit(key, value) for every entry of an object, but one whose key is no text; for a token that is no
-/// object, not at all.
+/// Calls Visit(key, value) for every entry of an object whose key is a text. Other tokens have no entries.
 template <typename Visitor>
 void WalkObject(ValueStreamReader &Reader, const ValueToken &Object, Visitor Visit) {
     if (Object.Tag != ValueTag::ObjectBegin) {
@@ -134,7 +133,7 @@ void ReadRun(ValueStreamReader &Reader, const ValueToken &Value, SavedGame &Save
     });
 }
 
-/// False if the file is no object at all, the only test of being a save state.
+/// False if the file does not begin with an object: this alone makes it a save state.
 bool ReadRoot(ValueStreamReader &Reader, SavedGame &Saved) {
     const ValueToken root = Reader.NextToken();
     WalkObject(Reader, root, [&](std::string_view Key, const ValueToken &Value) {

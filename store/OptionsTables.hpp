@@ -6,7 +6,7 @@
 #include <limits>
 #include <span>
 
-// What the options file holds beside the few values that have rules of their own, section by section.
+// The names of the options file, and its values that need no rule of their own.
 
 /// The sections beside those of the bindings.
 inline constexpr const char *OptionsSection = "Options";
@@ -14,53 +14,54 @@ inline constexpr const char *GraphicsSection = "Graphics";
 inline constexpr const char *AudioSection = "Audio";
 
 /// A word for each value of an enumeration, from 0 on.
-inline constexpr std::array<const char *, 3> ControlsDeviceWords{"keyboard", "gamepad", "joystick"};
-inline constexpr std::array<const char *, 2> AspectModeWords{"widescreen", "classic4x3"};
+inline constexpr std::array ControlsDeviceWords{"keyboard", "gamepad", "joystick"};
+inline constexpr std::array AspectModeWords{"widescreen", "classic4x3"};
 
-inline constexpr std::array<const char *, 5> KeyboardKeys{"MoveLeft", "MoveRight", "Fire", "Bomb", "Heal"};
-inline constexpr std::array<const char *, 5> PadKeys{"Fire", "Bomb", "Heal", "Confirm", "Back"};
+inline constexpr std::array KeyboardKeys{"MoveLeft", "MoveRight", "Fire", "Bomb", "Heal"};
+inline constexpr std::array PadKeys{"Fire", "Bomb", "Heal", "Confirm", "Back"};
 
-/// One binding table: its rows' keys and the values that are taken, the one for unbound among them.
+/// A binding table: the keys of its rows, and the values that are taken, both ends and the unbound one
+/// included.
 struct BindingSection {
     const char *Name;
     BindingTable GameState::*Table;
-    std::span<const char *const, 5> Keys;
+    std::span<const char *const, BindingTable{}.size()> Keys;
     std::int32_t Lowest;
     std::int32_t Highest;
 };
 
-inline constexpr std::array<BindingSection, 3> BindingSections{{
+inline constexpr auto BindingSections = std::to_array<BindingSection>({
     {"ControlsKeyboard", &GameState::KeyboardBindings, KeyboardKeys, UnboundKey, LastScancode},
     {"ControlsGamepad", &GameState::GamepadBindings, PadKeys, UnboundButton, LastGamepadButton},
     {"ControlsJoystick", &GameState::JoystickBindings, PadKeys, UnboundButton,
         std::numeric_limits<std::int32_t>::max()},
-}};
+});
 
 struct SwitchOption {
     const char *Key;
     bool GameState::*Value;
 };
 
-inline constexpr std::array<SwitchOption, 2> GraphicsSwitches{{
+inline constexpr auto GraphicsSwitches = std::to_array<SwitchOption>({
     {"Fullscreen", &GameState::Fullscreen},
     {"VSync", &GameState::VSync},
-}};
+});
 
-inline constexpr std::array<SwitchOption, 2> AudioSwitches{{
+inline constexpr auto AudioSwitches = std::to_array<SwitchOption>({
     {"MusicEnabled", &GameState::MusicEnabled},
     {"SfxEnabled", &GameState::SfxEnabled},
-}};
+});
 
 struct VolumeOption {
     const char *Key;
     std::int32_t GameState::*Percent;
 };
 
-inline constexpr std::array<VolumeOption, 3> Volumes{{
+inline constexpr auto Volumes = std::to_array<VolumeOption>({
     {"MasterVolume", &GameState::MasterVolume},
     {"MusicVolume", &GameState::MusicVolume},
     {"SfxVolume", &GameState::SfxVolume},
-}};
+});
 
 inline constexpr const char *ControlsDeviceKey = "ControlsDevice";
 inline constexpr const char *LanguageKey = "Language";

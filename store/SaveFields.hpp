@@ -10,8 +10,8 @@
 #include <string_view>
 #include <variant>
 
-// What the save state holds, in the order in which it stands in the file. Writing and reading go by the same
-// tables, so that they cannot drift apart. Floats are Double tokens, whole numbers Int32, the score Int64.
+// What the save state holds, in the order of the file. Writing and reading go by the same tables, so that
+// they agree. Floats are Double tokens, whole numbers Int32, the score Int64.
 
 inline constexpr std::string_view HighScoreKey = "HighScore";
 inline constexpr std::string_view HasRunStateKey = "HasRunState";
@@ -20,11 +20,11 @@ inline constexpr std::string_view PlayerKey = "Player";
 
 template <typename Record>
 using SaveMember = std::variant<float Record::*, std::int32_t Record::*, std::int64_t Record::*,
-    bool Record::*, struct Color Record::*>;
+    bool Record::*, Color Record::*>;
 
 inline constexpr double NoLimit = std::numeric_limits<double>::infinity();
 
-/// A field, and the range that a number is brought into after reading.
+/// A field under its key, and the range that a number is brought into after reading, both ends included.
 template <typename Record> struct SaveField {
     std::string_view Key;
     SaveMember<Record> Member;
@@ -32,8 +32,8 @@ template <typename Record> struct SaveField {
     double Highest = NoLimit;
 };
 
-/// The run without its player and its lists. The initial values of a GameState stand for missing keys.
-inline constexpr std::array<SaveField<GameState>, 24> RunFields{{
+/// The run without its player and its lists. A missing key leaves the initial value of the record's field.
+inline constexpr auto RunFields = std::to_array<SaveField<GameState>>({
     {"Score", &GameState::Score, 0},
     {"Stage", &GameState::Stage, 1},
     {"PreviousStage", &GameState::PreviousStage, 1},
@@ -58,34 +58,34 @@ inline constexpr std::array<SaveField<GameState>, 24> RunFields{{
     {"SpecialTimer", &GameState::SpecialTimer, 0},
     {"InvincibilityPowerTimer", &GameState::InvincibilityPowerTimer, 0},
     {"DualWeaponPowerTimer", &GameState::DualWeaponPowerTimer, 0},
-}};
+});
 
-inline constexpr std::array<SaveField<Player>, 7> PlayerFields{{
-    {"X", &Player::X}, // replaced by the lane's
+inline constexpr auto PlayerFields = std::to_array<SaveField<Player>>({
+    {"X", &Player::X}, // replaced by the centre of the lane
     {"Y", &Player::Y, 0, LogicalHeight},
     {"Radius", &Player::Radius},
     {"Hp", &Player::Hp, 0}, // and at most MaxHp
     {"MaxHp", &Player::MaxHp, 1},
     {"Stocks", &Player::Stocks, 0, MaxStocks},
     {"FireCooldown", &Player::FireCooldown, 0},
-}};
+});
 
-inline constexpr std::array<SaveField<Bullet>, 4> BulletFields{{
+inline constexpr auto BulletFields = std::to_array<SaveField<Bullet>>({
     {"X", &Bullet::X},
     {"Y", &Bullet::Y},
     {"Speed", &Bullet::Speed},
     {"Radius", &Bullet::Radius},
-}};
+});
 
-inline constexpr std::array<SaveField<EnemyBullet>, 5> EnemyBulletFields{{
+inline constexpr auto EnemyBulletFields = std::to_array<SaveField<EnemyBullet>>({
     {"X", &EnemyBullet::X},
     {"Y", &EnemyBullet::Y},
     {"Speed", &EnemyBullet::Speed},
     {"Radius", &EnemyBullet::Radius},
     {"Damage", &EnemyBullet::Damage},
-}};
+});
 
-inline constexpr std::array<SaveField<Enemy>, 11> EnemyFields{{
+inline constexpr auto EnemyFields = std::to_array<SaveField<Enemy>>({
     {"X", &Enemy::X},
     {"Y", &Enemy::Y},
     {"Speed", &Enemy::Speed},
@@ -97,9 +97,9 @@ inline constexpr std::array<SaveField<Enemy>, 11> EnemyFields{{
     {"Hp", &Enemy::Hp},
     {"Score", &Enemy::Score},
     {"Color", &Enemy::Color},
-}};
+});
 
-inline constexpr std::array<SaveField<Obstacle>, 10> ObstacleFields{{
+inline constexpr auto ObstacleFields = std::to_array<SaveField<Obstacle>>({
     {"X", &Obstacle::X},
     {"Y", &Obstacle::Y},
     {"Speed", &Obstacle::Speed},
@@ -110,27 +110,27 @@ inline constexpr std::array<SaveField<Obstacle>, 10> ObstacleFields{{
     {"Hp", &Obstacle::Hp},
     {"Score", &Obstacle::Score},
     {"Type", &Obstacle::Type, ObstacleTypeBarrier, ObstacleTypeRock},
-}};
+});
 
-inline constexpr std::array<SaveField<Item>, 6> ItemFields{{
+inline constexpr auto ItemFields = std::to_array<SaveField<Item>>({
     {"X", &Item::X},
     {"Y", &Item::Y},
     {"Speed", &Item::Speed},
     {"Radius", &Item::Radius},
     {"Lane", &Item::Lane, 0, LaneCount - 1},
     {"Type", &Item::Type, ItemTypeFirstAid, ItemTypeDualWeapon},
-}};
+});
 
-inline constexpr std::array<SaveField<Explosion>, 6> ExplosionFields{{
+inline constexpr auto ExplosionFields = std::to_array<SaveField<Explosion>>({
     {"X", &Explosion::X},
     {"Y", &Explosion::Y},
     {"Age", &Explosion::Age},
     {"Life", &Explosion::Life},
     {"MaxRadius", &Explosion::MaxRadius},
     {"Color", &Explosion::Color},
-}};
+});
 
-// What stands for the missing keys of a list's entry.
+// What a list's entry has where its keys are missing.
 
 inline constexpr Bullet SavedBullet{.Radius = 2.0F};
 inline constexpr EnemyBullet SavedEnemyBullet{.Speed = 190.0F, .Radius = 2.0F, .Damage = 12};
@@ -140,7 +140,8 @@ inline constexpr Item SavedItem{};
 inline constexpr Explosion SavedExplosion{
     .Life = 0.5F, .MaxRadius = 20.0F, .Color = {0xFF, 0xDC, 0x64, 0xDC}};
 
-/// Calls Visit(key, member list of the state, its fields, its defaults) for each list, in the file's order.
+/// Calls Visit(key, pointer to the state's list, fields of an entry, default entry) for each list, in the
+/// file's order.
 template <typename Visitor> void VisitSaveLists(Visitor Visit) {
     Visit("Bullets", &GameState::Bullets, BulletFields, SavedBullet);
     Visit("EnemyBullets", &GameState::EnemyBullets, EnemyBulletFields, SavedEnemyBullet);
@@ -155,9 +156,9 @@ struct ColorChannel {
     std::uint8_t Color::*Value;
 };
 
-inline constexpr std::array<ColorChannel, 4> ColorChannels{{
+inline constexpr auto ColorChannels = std::to_array<ColorChannel>({
     {"R", &Color::R},
     {"G", &Color::G},
     {"B", &Color::B},
     {"A", &Color::A},
-}};
+});

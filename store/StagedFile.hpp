@@ -6,31 +6,37 @@
 #include <cstdio>
 #include <string>
 
-/// A file of the user's storage and the name of the plain file through which it is read and written. The
-/// plain file lives for one operation; one that a crash has left behind is overwritten and never read.
+/// Calls Use(path) with the path of a plain file in the preferences folder, and then removes the file. Use
+/// writes it before it is read, so what a crash has left there is never read. False if there is no such
+/// folder, otherwise what Use gives.
+template <typename Step> bool UseStagingFile(const char *StagingName, Step Use) {
+    const std::string staging = PrefFilePath(StagingName);
+    if (staging.empty()) {
+        return false;
+    }
+    const bool done = Use(staging);
+    std::remove(staging.c_str()); // in UTF-8, which on Windows has to be the program's code page
+    return done;
+}
+
+/// A file of the user's storage and the name of the staging file through which it is read and written.
 struct StagedFile {
     const char *Name;
     const char *StagingName;
 };
 
-/// Has WritePlainFile(path) write the plain file and hands that to the user's storage. False if any of it
+/// Has WritePlainFile(path) write the staging file and hands that to the user's storage. False if any of it
 /// fails.
 template <typename WriteStep> bool WriteStagedFile(const StagedFile &File, WriteStep WritePlainFile) {
-    const std::string staging = PrefFilePath(File.StagingName);
-    if (staging.empty()) {
-        return false;
-    }
-    const bool written = WritePlainFile(staging) && WriteUserStorageFile(File.Name, staging);
-    std::remove(staging.c_str());
-    return written;
+    return UseStagingFile(File.StagingName, [&](const std::string &Path) {
+        return WritePlainFile(Path) && WriteUserStorageFile(File.Name, Path);
+    });
 }
 
-/// Copies the file out of the user's storage and has ReadPlainFile(path) read it. False if there is none, or
-/// if the reading gives false.
+/// Copies the file out of the user's storage and has ReadPlainFile(path) read the copy. False if there is
+/// none, or if the reading gives false.
 template <typename ReadStep> bool ReadStagedFile(const StagedFile &File, ReadStep ReadPlainFile) {
-    const std::string staging = PrefFilePath(File.StagingName);
-    const bool copied = !staging.empty() && CopyUserStorageFile(File.Name, staging);
-    const bool read = copied && ReadPlainFile(staging);
-    std::remove(staging.c_str());
-    return read;
+    return UseStagingFile(File.StagingName, [&](const std::string &Path) {
+        return CopyUserStorageFile(File.Name, Path) && ReadPlainFile(Path);
+    });
 }

@@ -20,10 +20,10 @@ struct StorageClose {
         SDL_CloseStorage(Storage);
     }
 };
-using OpenStorage = std::unique_ptr<SDL_Storage, StorageClose>;
+using StorageHandle = std::unique_ptr<SDL_Storage, StorageClose>;
 
-OpenStorage OpenUserStorage() {
-    return OpenStorage(SDL_OpenUserStorage(Organisation, Application, 0));
+StorageHandle OpenUserStorage() {
+    return StorageHandle(SDL_OpenUserStorage(Organisation, Application, 0));
 }
 
 } // namespace
@@ -32,7 +32,7 @@ bool WaitForStorage(SDL_Storage *Storage) {
     const Uint64 start = SDL_GetTicks();
     while (!SDL_StorageReady(Storage)) {
         if (SDL_GetTicks() - start >= WaitLimitMilliseconds) {
-            // The same words for the storage of shipped files.
+            // These words for the storage of shipped files, too.
             return SDL_SetError("Timed out waiting for SDL user storage");
         }
         SDL_Delay(1);
@@ -58,8 +58,13 @@ bool CopyUserStorageFile(const std::string &Name, const std::string &StagingPath
     if (Name.empty()) {
         return false;
     }
-    const OpenStorage storage = OpenUserStorage();
+    const StorageHandle storage = OpenUserStorage();
     return storage && CopyStorageFile(storage.get(), Name.c_str(), StagingPath);
+}
+
+bool CopyTitleStorageFile(const std::string &Path, const std::string &StagingPath) {
+    const StorageHandle storage(SDL_OpenTitleStorage(nullptr, 0));
+    return storage && CopyStorageFile(storage.get(), Path.c_str(), StagingPath);
 }
 
 bool WriteUserStorageFile(const std::string &Name, const std::string &StagingPath) {
@@ -71,7 +76,7 @@ bool WriteUserStorageFile(const std::string &Name, const std::string &StagingPat
     if (!data || size == 0) {
         return false;
     }
-    const OpenStorage storage = OpenUserStorage();
+    const StorageHandle storage = OpenUserStorage();
     return storage && WaitForStorage(storage.get()) &&
            SDL_WriteStorageFile(storage.get(), Name.c_str(), data.get(), size);
 }

@@ -1,32 +1,17 @@
 #include "store/TitleIni.hpp"
 
 #include "store/Paths.hpp"
+#include "store/StagedFile.hpp"
 #include "store/Storage.hpp"
-
-#include <cstdio>
 
 namespace {
 
 constexpr const char *StagingName = ".TitleStorageRead.tmp";
 
-bool CopyTitleStorageFile(const std::string &Path, const std::string &StagingPath) {
-    SDL_Storage *const storage = SDL_OpenTitleStorage(nullptr, 0);
-    if (storage == nullptr) {
-        return false;
-    }
-    const bool copied = CopyStorageFile(storage, Path.c_str(), StagingPath);
-    SDL_CloseStorage(storage);
-    return copied;
-}
-
 bool ReadFromTitleStorage(const std::string &Path, quillINI::IniDocument &Document) {
-    const std::string staging = PrefFilePath(StagingName);
-    if (staging.empty()) {
-        return false;
-    }
-    const bool read = CopyTitleStorageFile(Path, staging) && quillINI::ReadIniFile(Document, staging);
-    std::remove(staging.c_str());
-    return read;
+    return UseStagingFile(StagingName, [&](const std::string &Staging) {
+        return CopyTitleStorageFile(Path, Staging) && quillINI::ReadIniFile(Document, Staging);
+    });
 }
 
 } // namespace

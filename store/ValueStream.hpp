@@ -62,7 +62,7 @@ private:
 
 struct ValueToken {
     ValueTag Tag = ValueTag::None;
-    std::uint32_t Depth = 0; ///< of an array or object, after entering it; otherwise 0
+    std::uint32_t Depth = 0; ///< of an array or object: how deep its entries lie; otherwise 0
     /// Text lives as long as the reader that gave it, and until that loads again.
     std::variant<std::monostate, std::string_view, std::uint64_t, std::int64_t, double, std::uint32_t,
         std::int32_t, bool>
@@ -88,7 +88,8 @@ private:
     bool ReadValue(ValueToken &Token);
     bool ReadText(ValueToken &Token);
     template <typename Number> bool TakeNumber(Number &Out);
-    template <typename Number> bool ReadNumber(ValueToken &Token);
+    bool ReadBool(ValueToken &Token);
+    template <typename Number, typename Bits> bool ReadNumber(ValueToken &Token);
     void SkipUnread(const ValueToken &Container);
 
     std::vector<char> Bytes;
@@ -111,5 +112,5 @@ bool TokenToBool(const ValueToken &Token, bool &Out);
 /// Whole numbers; neither a Double nor a Bool.
 bool TokenToInt64(const ValueToken &Token, std::int64_t &Out);
 
-/// A Double narrowed, or a number that TokenToInt32 takes.
+/// A Double narrowed, an infinity beyond FLT_MAX, or a number that TokenToInt32 takes.
 bool TokenToFloat(const ValueToken &Token, float &Out);

@@ -3,19 +3,18 @@
 #include <algorithm>
 #include <bit>
 #include <limits>
-#include <type_traits>
 
 namespace {
 
 constexpr ValueTag LastTag = ValueTag::ObjectBegin;
 
-/// No file of the game is larger; some systems tell an endless size for a folder.
+/// No file of the game is larger, but some systems give a folder the largest size there is.
 constexpr long MaxReservation = 1L << 20;
 
-/// As far as a position reaches; what lies behind is not read.
+/// As far as Position reaches; what lies behind is not read.
 constexpr std::size_t MaxBytes = std::numeric_limits<std::uint32_t>::max();
 
-/// Makes room for the size that the file tells.
+/// Makes room for the size of a file and goes back to its start.
 void ReserveFor(std::FILE *File, std::vector<char> &Bytes) {
     if (std::fseek(File, 0, SEEK_END) != 0) {
         std::fputs("Error: Failed to seek to end of file, proceeding without reservation!\n", stderr);
@@ -42,8 +41,8 @@ bool ValueStreamReader::Load(const std::string &Path) {
         return false;
     }
     ReserveFor(file.get(), Bytes);
-    int byte = 0;
-    while (Bytes.size() < MaxBytes && (byte = std::getc(file.get())) != EOF) {
+    for (int byte = std::getc(file.get()); byte != EOF && Bytes.size() < MaxBytes;
+         byte = std::getc(file.get())) {
         Bytes.push_back(static_cast<char>(byte));
     }
     return true;
@@ -73,17 +72,17 @@ bool ValueStreamReader::ReadValue(ValueToken &Token) {
         Token.Depth = ++Depth;
         return true;
     case ValueTag::Bool:
-        return ReadNumber<bool>(Token);
+        return ReadBool(Token);
     case ValueTag::Int32:
-        return ReadNumber<std::int32_t>(Token);
+        return ReadNumber<std::int32_t, std::uint32_t>(Token);
     case ValueTag::UInt32:
-        return ReadNumber<std::uint32_t>(Token);
+        return ReadNumber<std::uint32_t, std::uint32_t>(Token);
     case ValueTag::Int64:
-        return ReadNumber<std::int64_t>(Token);
+        return ReadNumber<std::int64_t, std::uint64_t>(Token);
     case ValueTag::UInt64:
-        return ReadNumber<std::uint64_t>(Token);
+        return ReadNumber<std::uint64_t, std::uint64_t>(Token);
     case ValueTag::Double:
-        return ReadNumber<double>(Token);
+        return ReadNumber<double, std::uint64_t>(Token);
     case ValueTag::String:
         return ReadText(Token);
     default:
@@ -116,18 +115,19 @@ template <typename Number> bool ValueStreamReader::TakeNumber(Number &Out) {
     return true;
 }
 
-template <typename Number> bool ValueStreamReader::ReadNumber(ValueToken &Token) {
-    using Small = std::conditional_t<sizeof(Number) == 4, std::uint32_t, std::uint8_t>;
-    std::conditional_t<sizeof(Number) == 8, std::uint64_t, Small> bits = 0;
-    if (!TakeNumber(bits)) {
-        return false;
-    }
-    if constexpr (std::is_same_v<Number, bool>) {
-        Token.Value = bits != 0;
-    } else {
-        Token.Value = std::bit_cast<Number>(bits);
-    }
-    return true;
+bool ValueStreamReader::ReadBool(ValueToken &Token) {
+    std::uint8_t byte = 0;
+    const bool isRead = TakeNumber(byte);
+    Token.Value = byte != 0;
+    return isRead;
+}
+
+/// Reads a number whose bits are taken as an unsigned one of the same size.
+template <typename Number, typename Bits> bool ValueStreamReader::ReadNumber(ValueToken &Token) {
+    Bits bits = 0;
+    const bool isRead = TakeNumber(bits);
+    Token.Value = std::bit_cast<Number>(bits);
+    return isRead;
 }
 
 /// Passes over what is left of the entry before, up to where the container's next entry or end begins.

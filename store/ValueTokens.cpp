@@ -6,18 +6,18 @@
 
 namespace {
 
-/// The nearest whole number, half away from zero; the nearest end of the 32 bits beyond them.
+/// The nearest whole number, half away from zero; INT32_MIN or INT32_MAX for one beyond them.
 std::int32_t RoundToInt32(double Value) {
     constexpr double lowest = std::numeric_limits<std::int32_t>::min();
     constexpr double highest = std::numeric_limits<std::int32_t>::max();
     return static_cast<std::int32_t>(std::clamp(std::round(Value), lowest, highest));
 }
 
-/// An infinity beyond the floats.
+/// The nearest float, but an infinity for all beyond FLT_MAX, where C++ leaves the conversion undefined.
 float NarrowToFloat(double Value) {
-    constexpr auto largest = static_cast<double>(std::numeric_limits<float>::max());
-    if (std::abs(Value) > largest) {
-        return std::copysign(std::numeric_limits<float>::infinity(), Value < 0.0 ? -1.0F : 1.0F);
+    constexpr float infinity = std::numeric_limits<float>::infinity();
+    if (std::abs(Value) > static_cast<double>(std::numeric_limits<float>::max())) {
+        return Value < 0.0 ? -infinity : infinity;
     }
     return static_cast<float>(Value);
 }

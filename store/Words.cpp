@@ -5,13 +5,14 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <span>
 
 namespace {
 
-constexpr std::array<std::string_view, 4> TrueWords{"1", "true", "yes", "on"};
-constexpr std::array<std::string_view, 4> FalseWords{"0", "false", "no", "off"};
+constexpr auto TrueWords = std::to_array<std::string_view>({"1", "true", "yes", "on"});
+constexpr auto FalseWords = std::to_array<std::string_view>({"0", "false", "no", "off"});
 
-bool IsOneOf(const std::array<std::string_view, 4> &Words, std::string_view Text) {
+bool IsOneOf(std::span<const std::string_view> Words, std::string_view Text) {
     return std::ranges::any_of(Words, [Text](std::string_view Word) {
         return std::ranges::equal(Text, Word, {}, ToLowerAscii);
     });

@@ -9,6 +9,6 @@
 /// with nothing around them; anything else gives Default.
 bool ParseBoolWord(std::string_view Text, bool Default);
 
-/// Reads a text that is wholly an optional "-" and decimal digits and fits 32 bits. False for any other, and
-/// Out stays as it was.
+/// Reads a text that is an optional "-" and decimal digits and fits 32 bits. False, with Out as it was, for
+/// any other: what a bad number means is the caller's to say.
 bool ParseInt32(std::string_view Text, std::int32_t &Out);

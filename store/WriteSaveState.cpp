@@ -7,6 +7,7 @@
 
 namespace {
 
+// NOT-BUGS: `FormatVersion` in the save state is written and never looked at
 constexpr std::int32_t FormatVersion = 1;
 
 void WriteValue(ValueStreamWriter &Writer, float Value) {
@@ -25,11 +26,11 @@ void WriteValue(ValueStreamWriter &Writer, bool Value) {
     Writer.WriteBool(Value);
 }
 
-void WriteValue(ValueStreamWriter &Writer, const Color &Color) {
+void WriteValue(ValueStreamWriter &Writer, const Color &Value) {
     Writer.BeginObject();
     for (const ColorChannel &channel : ColorChannels) {
         Writer.WriteKey(channel.Key);
-        Writer.WriteInt32(Color.*channel.Value);
+        Writer.WriteInt32(Value.*channel.Value);
     }
     Writer.End();
 }
@@ -47,10 +48,11 @@ void WriteFields(
     }
 }
 
-void WritePlayer(ValueStreamWriter &Writer, const Player &Player) {
-    Writer.WriteKey(PlayerKey);
+template <typename Record, std::size_t Count>
+void WriteObject(
+    ValueStreamWriter &Writer, const std::array<SaveField<Record>, Count> &Fields, const Record &From) {
     Writer.BeginObject();
-    WriteFields(Writer, PlayerFields, Player);
+    WriteFields(Writer, Fields, From);
     Writer.End();
 }
 
@@ -59,9 +61,7 @@ void WriteLists(ValueStreamWriter &Writer, const GameState &State) {
         Writer.WriteKey(Key);
         Writer.BeginArray();
         for (const auto &entry : State.*List) {
-            Writer.BeginObject();
-            WriteFields(Writer, Fields, entry);
-            Writer.End();
+            WriteObject(Writer, Fields, entry);
         }
         Writer.End();
     });
@@ -79,7 +79,8 @@ void WriteRoot(ValueStreamWriter &Writer, const GameState &State) {
     Writer.BeginObject();
     if (State.HasRunState) {
         WriteFields(Writer, RunFields, State);
-        WritePlayer(Writer, State.Player);
+        Writer.WriteKey(PlayerKey);
+        WriteObject(Writer, PlayerFields, State.Player);
         WriteLists(Writer, State);
     }
     Writer.End();

@@ -45,7 +45,7 @@ void AddLanguage(const quillINI::IniDocument &Document, const std::string &Secti
 std::vector<LanguageEntry> ReadLanguages(const quillINI::IniDocument &Document) {
     std::vector<LanguageEntry> languages;
     for (const quillINI::IniSection &section : Document.Sections) {
-        if (section.Name != quillINI::IniGlobalSection && section.Name.starts_with(LanguagePrefix)) {
+        if (section.Name.starts_with(LanguagePrefix)) {
             AddLanguage(Document, section.Name, languages);
         }
     }
@@ -56,7 +56,8 @@ std::string ReadCode(const quillINI::IniDocument &Document, const char *Key, con
     return NormalizeLanguageCode(quillINI::GetIniValue(Document, CatalogueSection, Key, Default));
 }
 
-/// False if there is no catalogue or no language in it; then the built-in one stands.
+/// False if there is no catalogue or no language in it; then the built-in one stands. In either case the
+/// default and the fallback language are in the catalogue.
 bool LoadCatalogue() {
     quillINI::IniDocument document;
     if (!ReadTitleIni(CatalogueFile, document)) {
@@ -78,18 +79,21 @@ bool LoadCatalogue() {
     return true;
 }
 
+/// The entry of a code that is in the catalogue.
+const LanguageEntry &EntryOf(std::string_view Code) {
+    return *FindCode(Localization.Languages, Code);
+}
+
 /// The wanted language, or the default one where there is no such language.
-const LanguageEntry *ChooseLanguage(std::string_view Wanted) {
-    const LanguageEntry *wanted = FindLanguage(NormalizeLanguageCode(Wanted));
-    return wanted != nullptr ? wanted : FindLanguage(Localization.DefaultLanguage);
+const LanguageEntry &ChooseLanguage(std::string_view Wanted) {
+    const LanguageEntry *const wanted = FindLanguage(NormalizeLanguageCode(Wanted));
+    return wanted != nullptr ? *wanted : EntryOf(Localization.DefaultLanguage);
 }
 
 /// Loads the fallback's texts and over them those of the current language, unless that is the fallback.
-void LoadTexts(const LanguageEntry *Fallback, const LanguageEntry &Current) {
-    if (Fallback != nullptr) {
-        Localization.TextsLoaded = LoadLanguageFile(Fallback->File);
-    }
-    if (Fallback == nullptr || Current.Code != Fallback->Code) {
+void LoadTexts(const LanguageEntry &Fallback, const LanguageEntry &Current) {
+    Localization.TextsLoaded = LoadLanguageFile(Fallback.File);
+    if (Current.Code != Fallback.Code) {
         Localization.TextsLoaded = LoadLanguageFile(Current.File) || Localization.TextsLoaded;
     }
 }
@@ -102,10 +106,8 @@ void LoadLanguage(GameState &State) {
     if (!LoadCatalogue()) {
         SDL_Log("Localization catalog '%s' could not be loaded; using built-in defaults", CatalogueFile);
     }
-    const LanguageEntry *const fallback = FindLanguage(Localization.FallbackLanguage);
-    const LanguageEntry *const chosen = ChooseLanguage(State.Language);
-    const LanguageEntry &current = chosen != nullptr ? *chosen : *fallback;
-    LoadTexts(fallback, current);
+    const LanguageEntry &current = ChooseLanguage(State.Language);
+    LoadTexts(EntryOf(Localization.FallbackLanguage), current);
     Localization.CurrentLanguage = current.Code;
     State.Language = Localization.CurrentLanguage;
 }
@@ -121,6 +123,7 @@ std::string LanguageDisplayName(std::string_view Code) {
     if (entry != nullptr && !entry->Name.empty()) {
         return ToUpperUtf8(entry->Name);
     }
+    // No code is empty after NormalizeLanguageCode, but the page does not rely on it.
     return code.empty() ? GetText(TextKey::DeviceUnknown) : ToUpperUtf8(code);
 }
 

@@ -12,7 +12,8 @@ const std::string &GetText(const char *Key, std::string_view Default) {
     if (found == Localization.Texts.end()) {
         found = Localization.Texts.emplace(key, Default).first;
     } else if (found->second.empty()) {
-        found->second = Default; // an empty translation counts as missing: no label can be blanked out
+        // NOT-BUGS: An empty text in a language file counts as missing
+        found->second = Default;
     }
     return found->second;
 }

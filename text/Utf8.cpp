@@ -1,5 +1,6 @@
 #include "text/Utf8.hpp"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -8,7 +9,7 @@ namespace {
 constexpr std::uint32_t QuestionMark = 0x3F;
 constexpr std::uint32_t LastCodePoint = 0x10FFFF;
 
-/// A kind of sequence by its lead byte, and the code points that may be written with it.
+/// A kind of sequence by the bits of its lead byte under LeadMask, and the code points that it may hold.
 struct SequenceKind {
     std::uint8_t LeadMask;
     std::uint8_t Lead;
@@ -17,11 +18,11 @@ struct SequenceKind {
     std::uint32_t Last;
 };
 
-constexpr std::array<SequenceKind, 3> SequenceKinds{{
+constexpr auto SequenceKinds = std::to_array<SequenceKind>({
     {0xE0, 0xC0, 1, 0x80, 0x7FF},
     {0xF0, 0xE0, 2, 0x800, 0xFFFF},
     {0xF8, 0xF0, 3, 0x10000, LastCodePoint},
-}};
+});
 
 bool IsSurrogate(std::uint32_t CodePoint) {
     return CodePoint >= 0xD800 && CodePoint <= 0xDFFF;
@@ -64,7 +65,7 @@ std::uint32_t ToUpperCodePoint(std::uint32_t CodePoint) {
         return 0xDC;
     case 0xE9: // e with acute
         return 0xC9;
-    case 0x1E9E: // the capital sharp s becomes the small one on purpose: they share a glyph
+    case 0x1E9E: // NOT-BUGS: The capital sharp s (U+1E9E) becomes the small one
         return 0xDF;
     default:
         return CodePoint;
@@ -93,25 +94,14 @@ void AppendUtf8(std::string &Text, std::uint32_t CodePoint) {
     const auto append = [&Text](std::uint32_t Byte) {
         Text.push_back(static_cast<char>(Byte));
     };
-    const auto continuation = [CodePoint](unsigned Shift) {
-        return 0x80U | (CodePoint >> Shift & 0x3FU);
-    };
-    if (CodePoint < 0x80) {
-        append(CodePoint);
-    } else if (CodePoint < 0x800) {
-        append(0xC0U | CodePoint >> 6U);
-        append(continuation(0));
-    } else if (CodePoint < 0x10000) {
-        append(0xE0U | CodePoint >> 12U);
-        append(continuation(6));
-        append(continuation(0));
-    } else if (CodePoint <= LastCodePoint) {
-        append(0xF0U | CodePoint >> 18U);
-        append(continuation(12));
-        append(continuation(6));
-        append(continuation(0));
-    } else {
-        append(QuestionMark);
+    if (CodePoint < 0x80 || CodePoint > LastCodePoint) {
+        append(CodePoint < 0x80 ? CodePoint : QuestionMark);
+        return;
+    }
+    const SequenceKind &kind = *std::ranges::lower_bound(SequenceKinds, CodePoint, {}, &SequenceKind::Last);
+    append(kind.Lead | CodePoint >> 6 * kind.Continuations);
+    for (std::size_t left = kind.Continuations; left > 0; --left) {
+        append(0x80U | (CodePoint >> 6 * (left - 1) & 0x3FU));
     }
 }
 

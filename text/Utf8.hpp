@@ -17,5 +17,5 @@ DecodedCodePoint DecodeUtf8(std::string_view Text, std::size_t Index);
 /// Appends a code point's UTF-8 bytes; one above U+10FFFF appends a question mark.
 void AppendUtf8(std::string &Text, std::uint32_t CodePoint);
 
-/// The text in capitals, as far as the built-in font has them.
+/// The text in capitals, as far as the built-in font has them; each invalid byte becomes a question mark.
 std::string ToUpperUtf8(std::string_view Text);

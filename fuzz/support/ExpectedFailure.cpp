@@ -13,7 +13,7 @@ struct FailureKind {
     std::string_view Words;
 };
 
-const std::array<FailureKind, 8> ExpectedFailures{{
+const auto ExpectedFailures = std::to_array<FailureKind>({
     // Invalid UTF-16 or UTF-32.
     {typeid(std::range_error), "Text cannot be converted between UTF-8 and its file's encoding!"},
     // Unicode escapes.
@@ -26,7 +26,7 @@ const std::array<FailureKind, 8> ExpectedFailures{{
     {typeid(std::out_of_range), "No index is left behind the largest one!"},
     // Writing what is no UTF-8.
     {typeid(std::runtime_error), "Invalid UTF-8 sequence!"},
-}};
+});
 
 } // namespace
 

@@ -2,8 +2,8 @@
 
 #include <exception>
 
-/// Whether this is one of the failures that a damaged INI file raises on purpose. Nothing in the game catches
-/// them; every other exception is a finding.
+/// Whether this is one of the failures that the INI library raises for a damaged file. Nothing in the game
+/// catches them; every other exception is a finding.
 bool IsExpected(const std::exception &Failure);
 
 /// False if the action raised such a failure. Others pass through.

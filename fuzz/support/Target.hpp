@@ -20,6 +20,6 @@ void Demand(bool Holds, const char *Words);
 /// Whether a quoted value of an INI file comes back as it was: valid UTF-8 without control characters.
 bool SurvivesEscaping(std::string_view Text);
 
-/// Where a target's files are. The first call makes the folder, empties the game's messages into nowhere and
-/// has SDL keep the user's files there.
+/// Where a target's files are. The first call makes the folder, drops all messages of the game from then on
+/// and has SDL keep the user's files there.
 const TemporaryHome &Home();

@@ -20,9 +20,9 @@ double AsHeld(SaveKind Kind, double Value) {
     return Kind == SaveKind::Real ? static_cast<double>(static_cast<float>(Value)) : Value;
 }
 
-std::string BytesOf(const Color &Color) {
-    return {static_cast<char>(Color.R), static_cast<char>(Color.G), static_cast<char>(Color.B),
-        static_cast<char>(Color.A)};
+std::string BytesOf(const Color &Channels) {
+    return {static_cast<char>(Channels.R), static_cast<char>(Channels.G), static_cast<char>(Channels.B),
+        static_cast<char>(Channels.A)};
 }
 
 std::string ColorBytes(std::string_view Channels) {

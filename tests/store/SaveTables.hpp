@@ -197,7 +197,7 @@ inline constexpr std::array SaveLists{
 inline constexpr std::string_view SampleColor = "\x12\x34\x56\x78";
 
 /// A colour's channels, red first.
-std::string BytesOf(const Color &Color);
+std::string BytesOf(const Color &Channels);
 
 /// The value of a colour's key.
 std::string ColorBytes(std::string_view Channels);

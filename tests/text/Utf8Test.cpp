@@ -22,8 +22,8 @@ struct Piece {
     bool operator==(const Piece &) const = default;
 };
 
-void PrintTo(const Piece &Piece, std::ostream *Stream) {
-    *Stream << "U+" << std::hex << Piece.CodePoint << std::dec << " from " << Piece.Length;
+void PrintTo(const Piece &Decoded, std::ostream *Stream) {
+    *Stream << "U+" << std::hex << Decoded.CodePoint << std::dec << " from " << Decoded.Length;
 }
 
 Piece DecodeAt(std::string_view Text, std::size_t Index = 0) {
@@ -72,7 +72,7 @@ struct WellFormed {
     std::size_t Length;
 };
 
-constexpr std::array<WellFormed, 8> WellFormedSequences{{
+constexpr auto WellFormedSequences = std::to_array<WellFormed>({
     {0xC2, 0xDF, 0x80, 0xBF, 2},
     {0xE0, 0xE0, 0xA0, 0xBF, 3},
     {0xE1, 0xEC, 0x80, 0xBF, 3},
@@ -81,7 +81,7 @@ constexpr std::array<WellFormed, 8> WellFormedSequences{{
     {0xF0, 0xF0, 0x90, 0xBF, 4},
     {0xF1, 0xF3, 0x80, 0xBF, 4},
     {0xF4, 0xF4, 0x80, 0x8F, 4},
-}};
+});
 
 /// How many bytes the well-formed sequence at the start of some bytes takes, or 0.
 std::size_t WellFormedLength(std::string_view Text) {
@@ -118,8 +118,8 @@ void ExpectByTheTable(const std::string &Text) {
 }
 
 /// Bytes on both sides of every border between the kinds of bytes.
-constexpr std::array<unsigned, 18> BorderBytes{0x00, 0x20, 0x3F, 0x41, 0x7F, 0x80, 0x8F, 0x90, 0x9F, 0xA0,
-    0xBF, 0xC0, 0xC2, 0xDF, 0xE0, 0xF0, 0xF8, 0xFF};
+constexpr auto BorderBytes = std::to_array<unsigned>({0x00, 0x20, 0x3F, 0x41, 0x7F, 0x80, 0x8F, 0x90, 0x9F,
+    0xA0, 0xBF, 0xC0, 0xC2, 0xDF, 0xE0, 0xF0, 0xF8, 0xFF});
 
 } // namespace
 
