@@ -36,7 +36,7 @@ template <typename Thing, typename Other> bool Touches(const Thing &A, const Oth
     } else if constexpr (requires { A.Radius; }) {
         return CircleHitsRect(A.X, A.Y, A.Radius, B.X, B.Y, B.Width, B.Height);
     } else if constexpr (requires { B.Radius; }) {
-        return Touches(B, A);
+        return CircleHitsRect(B.X, B.Y, B.Radius, A.X, A.Y, A.Width, A.Height);
     } else {
         return std::abs(A.X - B.X) <= (A.Width + B.Width) / 2.0F &&
                std::abs(A.Y - B.Y) <= (A.Height + B.Height) / 2.0F;
