@@ -130,6 +130,8 @@ bool StartUp(Program &Game) {
     }
     StartLanguage(Game.State);
     RestoreGame(Game.State);
+    // Nothing of an earlier start in the same process is left, as in the state.
+    Game.Devices = InputDevices{};
     OpenFirstInputDevices(Game.Devices);
     ApplyDisplaySettings(Game.State, Game.Window, Game.Renderer);
     StartAudio(Game);
