@@ -37,8 +37,7 @@ constexpr bool IsKeyRight(std::int32_t Scancode) {
     return Scancode == ScancodeRight || Scancode == ScancodeD;
 }
 
-/// The keys besides Escape that leave help and credits.
-/// NOT-BUGS: The space bar does not leave help and credits
+/// The two Return keys.
 constexpr bool IsKeyEnter(std::int32_t Scancode) {
     return Scancode == ScancodeReturn || Scancode == ScancodeKeypadEnter;
 }
@@ -59,9 +58,9 @@ constexpr bool IsKeyEscape(std::int32_t Scancode) {
 /// Moves a selection among Count rows by the keys for up and down, round the ends. False for any other key.
 template <typename Index> constexpr bool MoveSelection(Index &Selection, Index Count, std::int32_t Scancode) {
     if (IsKeyUp(Scancode)) {
-        Selection = RowAbove(Selection, Count);
+        Selection = StepRound(Selection, -1, Count);
     } else if (IsKeyDown(Scancode)) {
-        Selection = RowBelow(Selection, Count);
+        Selection = StepRound(Selection, 1, Count);
     } else {
         return false;
     }

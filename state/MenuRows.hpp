@@ -75,11 +75,3 @@ template <typename Index>
 constexpr Index StepRound(std::type_identity_t<Index> Place, std::int32_t Direction, Index Count) {
     return (Place + Count + static_cast<Index>(Direction)) % Count;
 }
-
-template <typename Index> constexpr Index RowAbove(Index Selection, Index Count) {
-    return StepRound(Selection, -1, Count);
-}
-
-template <typename Index> constexpr Index RowBelow(Index Selection, Index Count) {
-    return StepRound(Selection, 1, Count);
-}

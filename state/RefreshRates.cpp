@@ -7,7 +7,6 @@
 #include <algorithm>
 
 void RebuildRefreshRates(GameState &State) {
-    const std::int32_t wanted = std::max(State.RefreshRate, 0);
     State.RefreshRates = {0};
     if (State.Fullscreen) {
         const Resolution current = CurrentResolution(State);
@@ -18,5 +17,7 @@ void RebuildRefreshRates(GameState &State) {
         }
         std::ranges::sort(State.RefreshRates); // 0 stays in front
     }
-    State.RefreshRate = Contains(State.RefreshRates, wanted) ? wanted : 0;
+    if (!Contains(State.RefreshRates, State.RefreshRate)) {
+        State.RefreshRate = 0;
+    }
 }

@@ -78,9 +78,7 @@ bool RatioMatches(
     }
     const std::int64_t a = std::int64_t{Width} * RatioHeight;
     const std::int64_t b = std::int64_t{RatioWidth} * Height;
-    const std::int64_t larger = std::max(a, b);
-    const std::int64_t tolerance = larger < 400 ? 1 : larger / 200;
-    return std::abs(a - b) <= tolerance;
+    return std::abs(a - b) <= std::max<std::int64_t>(std::max(a, b) / 200, 1);
 }
 
 bool IsUltrawide(std::int32_t Width, std::int32_t Height) {
@@ -123,11 +121,9 @@ Resolution CurrentResolution(const GameState &State) {
 std::int32_t FindResolutionIndex(
     const GameState &State, std::int32_t Width, std::int32_t Height, std::int32_t Fallback) {
     const std::span<const Resolution> list = ResolutionsInForce(State);
-    if (Width > 0 && Height > 0) {
-        const auto found = std::find(list.begin(), list.end(), Resolution{Width, Height});
-        if (found != list.end()) {
-            return static_cast<std::int32_t>(found - list.begin());
-        }
+    const auto found = std::ranges::find(list, Resolution{Width, Height});
+    if (Width > 0 && Height > 0 && found != list.end()) {
+        return static_cast<std::int32_t>(found - list.begin());
     }
     return ClampToList(Fallback, list);
 }

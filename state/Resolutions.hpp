@@ -37,6 +37,7 @@ std::span<const Resolution> ResolutionsInForce(const GameState &State);
 /// is.
 Resolution CurrentResolution(const GameState &State);
 
-/// The place of an exact size in the list that is in force, otherwise Fallback clamped to that list.
+/// The place of an exact size in the list that is in force, otherwise Fallback clamped to that list. A size
+/// with a 0 or less in it is never found.
 std::int32_t FindResolutionIndex(
     const GameState &State, std::int32_t Width, std::int32_t Height, std::int32_t Fallback);
