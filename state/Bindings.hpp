@@ -59,8 +59,7 @@ inline constexpr BindingTable DefaultKeyboardBindings{80, 79, 224, 27, 44};
 /// NOT-BUGS: Fire and confirm share a button
 inline constexpr BindingTable DefaultGamepadBindings{0, 2, 3, 0, 1};
 
-/// Joystick button indices.
-/// NOT-BUGS: Fire and confirm share a button
+/// Joystick button indices; fire and confirm share one here too.
 inline constexpr BindingTable DefaultJoystickBindings{0, 1, 2, 0, 3};
 
 /// The values that an SDL scancode and an SDL gamepad button of a table may have; the buttons begin at 0.

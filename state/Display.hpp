@@ -16,7 +16,7 @@ struct Resolution {
     auto operator<=>(const Resolution &) const = default;
 };
 
-/// What a display offers.
+/// What a display offers, in physical pixels.
 struct DisplayMode {
     std::int32_t Width = 0;
     std::int32_t Height = 0;

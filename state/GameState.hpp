@@ -106,11 +106,11 @@ struct GameState {
     bool PendingAudioValid = false; ///< the Audio page is in edit
 
     // Bookkeeping of the options.
-    bool OptionsDirty = false;    ///< the options file is to be written
-    bool ResetFrameClock = false; ///< the next frame's step is to have length 0
-    std::vector<Resolution> Resolutions;
-    std::vector<std::int32_t> RefreshRates;
-    std::vector<DisplayMode> DisplayModes;
+    bool OptionsDirty = false;              ///< the options file is to be written
+    bool ResetFrameClock = false;           ///< the next frame's step is to have length 0
+    std::vector<Resolution> Resolutions;    ///< those of the aspect mode, smallest first
+    std::vector<std::int32_t> RefreshRates; ///< Hz, ascending from 0, which is automatic
+    std::vector<DisplayMode> DisplayModes;  ///< all that the display offers, in SDL's order
 
     // What moves on the road, each list in order of birth.
     std::vector<Bullet> Bullets;
