@@ -10,10 +10,9 @@
 
 namespace {
 
-// How long nothing hurts after a blow, and after a lost life; how long the death is shown.
-constexpr float HurtSeconds = 1.0F;
-constexpr float RespawnSeconds = 2.0F;
-constexpr float DeathSeconds = 0.85F;
+constexpr float HurtSeconds = 1.0F;    ///< nothing hurts after a blow
+constexpr float RespawnSeconds = 2.0F; ///< nothing hurts after a lost life
+constexpr float DeathSeconds = 0.85F;  ///< the death is shown
 
 /// Hp less Amount, kept within 32 bits: a damaged file may hold a shot of any damage.
 std::int32_t SaturatingSubtract(std::int32_t Hp, std::int32_t Amount) {
@@ -39,7 +38,6 @@ void BeginDeath(GameState &State) {
     State.PlayerDying = true;
     player.Hp = 0;
     State.DeathTimer = DeathSeconds;
-    State.InvulnerabilityTimer = std::max(DeathSeconds, State.InvulnerabilityTimer);
     player.FireCooldown = 0.0F;
     State.Bullets.clear();
     State.EnemyBullets.clear();

@@ -22,11 +22,10 @@ namespace {
 constexpr float ChaseBelow = 0.62F;
 constexpr float WanderBelow = 0.87F;
 
-// Distances in logical pixels, the lead in logical pixels a second.
-constexpr float EnemyGap = 8.0F; ///< between the circles of two enemies
-constexpr float EnemyLead = 6.0F;
+constexpr float EnemyGap = 8.0F;  ///< between the circles of two enemies, in logical pixels
+constexpr float EnemyLead = 6.0F; ///< as RollingDistance takes it
 
-// Between which heights an enemy shoots, both ends excluded.
+// An enemy shoots between these heights, both ends excluded; all in logical pixels.
 constexpr float ShootFromY = 14.0F;
 constexpr float ShootToY = 650.0F;
 constexpr float MuzzleDistance = 11.0F;
@@ -181,8 +180,8 @@ void TakeTurn(const Turn &Turn, Enemy &Enemy) {
 void MoveEnemies(GameState &State, float dt) {
     // On the stack, because a frame allocates no memory; only a crowd that no road holds is taken from the
     // heap.
-    std::array<std::byte, UsualEnemyLimit * sizeof(Snapshot)> room;
-    std::pmr::monotonic_buffer_resource memory(room.data(), room.size());
+    std::array<std::byte, UsualEnemyLimit * sizeof(Snapshot)> buffer;
+    std::pmr::monotonic_buffer_resource memory(buffer.data(), buffer.size());
     std::pmr::vector<Snapshot> others(&memory);
     others.reserve(State.Enemies.size());
     for (const Enemy &enemy : State.Enemies) {

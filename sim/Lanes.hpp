@@ -13,9 +13,8 @@ using LaneOrder = std::array<std::int32_t, LaneCount>;
 inline constexpr LaneOrder LanesFromLeft{0, 1, 2, 3, 4, 5, 6, 7, 8};
 static_assert(LanesFromLeft.back() == LaneCount - 1);
 
+/// The road's width and edges in logical pixels; it is centred on the logical screen.
 inline constexpr float RoadWidth = 320.0F;
-
-/// The road's edges in logical pixels; the road is centred on the logical screen.
 float RoadLeft();
 float RoadRight();
 

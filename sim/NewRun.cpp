@@ -49,7 +49,7 @@ void ResetMenus(GameState &State) {
     State.HelpReturnScreen = ScreenMainMenu;
 }
 
-void ClearRoad(GameState &State) {
+void ClearLists(GameState &State) {
     State.Bullets.clear();
     State.EnemyBullets.clear();
     State.Enemies.clear();
@@ -66,7 +66,7 @@ void StartNewRun(GameState &State) {
     ResetRoad(State);
     ResetPlayer(State);
     ResetMenus(State);
-    ClearRoad(State);
+    ClearLists(State);
     State.HasRunState = true;
     State.PendingSounds.Count = 0;
     RequestSave(State, 0.0F);

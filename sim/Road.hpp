@@ -9,7 +9,7 @@
 /// StageTransition and GameTime.
 void MoveRoad(GameState &State, float dt);
 
-/// How much faster than in stage 1 the road is now: what the traffic and the spawn timers are scaled by.
+/// How many times as fast as in stage 1 the road is now: what the traffic and the spawn timers are scaled by.
 inline float SpeedScale(const GameState &State) {
     return State.CurrentScrollSpeed / FirstStageSpeed;
 }

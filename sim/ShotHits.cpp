@@ -33,7 +33,7 @@ void DestroyEnemy(GameState &State, const Enemy &Enemy) {
 }
 
 /// Lets a shot hit the first of the targets that it touches, and returns whether it touches one. Destroy is
-/// called for a target that has left its list.
+/// called when the target has left its list and cannot block the item that it drops.
 template <typename Target>
 bool HitFirst(GameState &State, const Bullet &Shot, std::vector<Target> &Targets, const ExplosionLook &Look,
     void (*Destroy)(GameState &State, const Target &Destroyed)) {

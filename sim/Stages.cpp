@@ -31,7 +31,7 @@ const StageRow &RowOf(std::int32_t Stage) {
     return StageTable[static_cast<std::size_t>(std::max(Stage, 1) - 1) % StageTable.size()];
 }
 
-/// Every stage that is a multiple of five gives a spare life. An old stage below 5 has given none.
+/// Every stage that is a multiple of five gives a spare life. None was given before stage 1.
 void AddSpareLives(GameState &State, std::int32_t NewStage, std::int32_t OldStage) {
     const std::int32_t extra = NewStage / 5 - std::max(OldStage, 0) / 5;
     if (extra > 0) {
