@@ -87,9 +87,7 @@ void Apply(GameState &State) {
 
 /// NOT-BUGS: A page that is left drops what was not applied
 void Leave(GameState &State) {
-    if (AudioEditDirty(State)) {
-        BeginAudioEdit(State);
-    }
+    BeginAudioEdit(State);
     State.PendingAudioValid = false;
     State.OptionsPage = OptionsPageMain;
 }
@@ -147,7 +145,7 @@ void CycleLanguage(GameState &State, std::int32_t Direction) {
     const auto count = static_cast<std::int32_t>(languages.size());
     const std::int32_t next = StepRound(PlaceOfLanguage(pending), Direction, count);
     const std::string &code = languages[static_cast<std::size_t>(next)].Code;
-    // The only language that there is keeps its spelling.
+    // Where there is only this language, the pending code stays as it was written.
     if (code != pending) {
         State.PendingLanguage = code;
     }

@@ -35,9 +35,7 @@ void Apply(GameState &State) {
 
 /// NOT-BUGS: A page that is left drops what was not applied
 void Leave(GameState &State) {
-    if (ControlsEditDirty(State)) {
-        BeginControlsEdit(State);
-    }
+    BeginControlsEdit(State);
     State.PendingControlsValid = false;
     State.OptionsPage = OptionsPageMain;
 }
