@@ -7,8 +7,8 @@
 #include <vector>
 
 /// The samples of a sound at a rate in Hz, from -1 to 1, interleaved for one or more channels: a sine with a
-/// short rise and fall, so that it does not click. All in single precision. Rate times the recipe's duration
-/// is at least 1000, which gives one frame.
+/// short rise and fall, so that it does not click. Computed in single precision. Rate times the recipe's
+/// duration is at least 1000, which gives one frame.
 std::vector<float> SfxSamples(const SfxRecipe &Recipe, int Rate, int Channels);
 
 /// Makes a sound at the mixer's own rate; where that cannot be, the mixer's own sine without rise and fall.

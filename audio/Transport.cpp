@@ -115,7 +115,7 @@ void FollowWanted(MusicRuntime &Runtime, std::string_view Wanted, Screen Previou
 bool IsAtLoopBoundary(const MusicPlayer &Player, std::int64_t Position) {
     const bool loops = MIX_GetTrackLoops(Player.Track) != 0;
     if (Position >= 0) {
-        return loops ? Player.LastPosition >= 0 && Player.LastPosition > Position
+        return loops ? Player.LastPosition > Position
                      : Player.LoopBoundaryMs <= MIX_TrackFramesToMS(Player.Track, Position);
     }
     return !loops && !MIX_TrackPlaying(Player.Track);

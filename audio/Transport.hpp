@@ -15,7 +15,7 @@ struct GameState;
 void UpdateMusicRuntime(const GameState &State, MusicRuntime &Runtime);
 
 /// Starts a pattern as an endless loop that rises from silence in FadeInMs; 0 starts it at its gain. False
-/// without a pattern or a track, and if the mixer refuses; then the player stays as it was.
+/// without a pattern or a track, and if the mixer refuses; then Player stays as it was, its track may not.
 bool PlayMusicPattern(MusicPlayer &Player, const MusicPattern *Pattern, std::int32_t FadeInMs);
 
 /// Asks UpdateMusicRuntime for a pattern at the next opportunity. Throws std::runtime_error, whose message is

@@ -9,7 +9,7 @@
 
 namespace {
 
-std::string PercentLabel(std::int32_t Volume) {
+std::string PercentText(std::int32_t Volume) {
     return std::to_string(Volume) + "%";
 }
 
@@ -17,10 +17,10 @@ std::array<OptionsRow, AudioRowCount> Rows(const GameState &State) {
     const bool isPending = State.PendingAudioValid;
     return {{
         {TextKey::OptionsAudioMasterVolume,
-            PercentLabel(isPending ? State.PendingMasterVolume : State.MasterVolume)},
+            PercentText(isPending ? State.PendingMasterVolume : State.MasterVolume)},
         {TextKey::OptionsAudioMusicVolume,
-            PercentLabel(isPending ? State.PendingMusicVolume : State.MusicVolume)},
-        {TextKey::OptionsAudioSfxVolume, PercentLabel(isPending ? State.PendingSfxVolume : State.SfxVolume)},
+            PercentText(isPending ? State.PendingMusicVolume : State.MusicVolume)},
+        {TextKey::OptionsAudioSfxVolume, PercentText(isPending ? State.PendingSfxVolume : State.SfxVolume)},
         {TextKey::OptionsAudioMusic, SwitchText(isPending ? State.PendingMusicEnabled : State.MusicEnabled)},
         {TextKey::OptionsAudioSfx, SwitchText(isPending ? State.PendingSfxEnabled : State.SfxEnabled)},
         {TextKey::OptionsAudioLanguage,

@@ -35,9 +35,8 @@ void RenderCredits(SDL_Renderer *Renderer, const GameState &State) {
     const float base = FirstLineY - State.CreditsScroll;
     ClearToBlack(Renderer);
     for (const Credit &credit : CreditTable) {
-        const float nameY = base + (credit.Drop + NameDrop);
         DrawTextCentered(
             Renderer, GetText(credit.Heading), centerX, base + credit.Drop, MenuScale, SelectedColor);
-        DrawTextCentered(Renderer, Name, centerX, nameY, MenuScale, NameColor);
+        DrawTextCentered(Renderer, Name, centerX, base + (credit.Drop + NameDrop), MenuScale, NameColor);
     }
 }

@@ -92,6 +92,7 @@ void DrawBullets(SDL_Renderer *Renderer, const GameState &State) {
     }
 }
 
+/// NOT-BUGS: An enemy car's own colour is not drawn
 void DrawEnemies(SDL_Renderer *Renderer, const GameState &State) {
     for (const Enemy &enemy : State.Enemies) {
         const SpriteId sprite = enemy.Hp > 1 ? SpriteEnemyTough : SpriteEnemy;

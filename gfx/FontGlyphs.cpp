@@ -8,7 +8,7 @@ namespace {
 
 struct GlyphEntry {
     std::uint32_t CodePoint;
-    std::uint64_t Rows; ///< a byte a row, the top row first
+    std::uint64_t Rows; ///< as in Glyph
 };
 
 // Sorted by code point.

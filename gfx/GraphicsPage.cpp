@@ -10,7 +10,7 @@
 
 namespace {
 
-// Higher than on the other pages, which have ten rows.
+// NOT-BUGS: The hints of the graphics page stand higher than those of the other pages
 constexpr float FirstHintY = 464.0F;
 constexpr float SecondHintY = 492.0F;
 

@@ -47,8 +47,8 @@ struct BarStyle {
 constexpr BarStyle HealthBar{34.0F, 0xFF28461C, 0xFF82E65F};
 constexpr BarStyle AmmoBar{68.0F, 0xFF193C3C, 0xFF50DCF0};
 
-/// A number as a text that lives in the object, for a frame allocates nothing: a prefix of at most 12
-/// characters, then the number, filled up with zeros to Digits characters.
+/// A number as text: a prefix of at most 12 characters, then the number, filled up with zeros to Digits
+/// characters, at most 20. It keeps the characters itself, since a frame allocates nothing.
 class NumberText {
 public:
     explicit NumberText(std::int64_t Number, std::size_t Digits = 1, std::string_view Prefix = "") {

@@ -17,7 +17,7 @@ constexpr std::string_view FirstWord = "KESTREL";
 constexpr std::string_view SecondWord = "VOLLEY";
 constexpr std::uint32_t FirstWordColor = 0xFFFF8237;
 constexpr std::uint32_t SecondWordColor = 0xFF32A0F5;
-constexpr float FirstWordLeft = 362.0F; ///< of the centre
+constexpr float FirstWordLeft = 362.0F; ///< from its left edge to the centre
 constexpr float SecondWordLeft = 60.0F;
 constexpr float SecondWordDrop = 112.0F; ///< drops are below the top of the title
 
@@ -36,7 +36,7 @@ constexpr float RowsDrop = 250.0F;
 constexpr float RowHeight = 32.0F;
 
 constexpr std::string_view Footer = "\u00A9 2026 Orrin";
-constexpr float FooterDrop = 280.0F; ///< with the height of the list added
+constexpr float FooterDrop = 280.0F; ///< and the height of the list besides
 constexpr std::uint32_t FooterColor = 0xFF8C8C8C;
 
 /// In the order of MainMenuRow.

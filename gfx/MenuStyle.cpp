@@ -51,7 +51,5 @@ void DrawLabelRows(SDL_Renderer *Renderer, std::span<const TextKey> Labels, std:
 
 void DrawHint(
     SDL_Renderer *Renderer, std::string_view Hint, float CenterX, float Y, std::uint32_t PackedColor) {
-    if (!Hint.empty()) {
-        DrawTextCentered(Renderer, Hint, CenterX, Y, HintScale, PackedColor);
-    }
+    DrawTextCentered(Renderer, Hint, CenterX, Y, HintScale, PackedColor);
 }

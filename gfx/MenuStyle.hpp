@@ -67,6 +67,6 @@ void DrawMarkedLabel(
 void DrawLabelRows(SDL_Renderer *Renderer, std::span<const TextKey> Labels, std::size_t Selected,
     float CenterX, float Top, const RowStyle &Style);
 
-/// Draws a hint line centred about CenterX; an empty one draws nothing.
+/// Draws a hint line centred about CenterX.
 void DrawHint(SDL_Renderer *Renderer, std::string_view Hint, float CenterX, float Y,
     std::uint32_t PackedColor = HintColor);

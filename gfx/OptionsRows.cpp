@@ -32,9 +32,8 @@ Columns PlaceColumns(std::span<const OptionsRow> Rows) {
 void DrawMenuRow(SDL_Renderer *Renderer, std::string_view Label, std::string_view Value, float Y,
     bool Selected, float LabelX, float ValueX) {
     DrawMarkedLabel(Renderer, Label, LabelX, Y, Selected, OptionsRowStyle);
-    if (!Value.empty()) {
-        DrawText(Renderer, Value, ValueX, Y, PageScale, Selected ? SelectedColor : UnselectedColor);
-    }
+    DrawText(Renderer, Value, ValueX, Y, OptionsRowStyle.Scale,
+        Selected ? SelectedColor : OptionsRowStyle.UnselectedColor);
 }
 
 void DrawOptionsRows(SDL_Renderer *Renderer, std::span<const OptionsRow> Rows, std::int32_t Selection) {

@@ -19,7 +19,7 @@ struct OptionsRow {
 inline constexpr float OptionsFirstHintY = 498.0F;
 inline constexpr float OptionsSecondHintY = 526.0F;
 
-/// Draws one row in two columns, with the marker before a selected one. An empty value is not drawn.
+/// Draws one row of a page of options in two columns, with the marker before a selected one.
 void DrawMenuRow(SDL_Renderer *Renderer, std::string_view Label, std::string_view Value, float Y,
     bool Selected, float LabelX, float ValueX);
 

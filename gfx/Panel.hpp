@@ -16,9 +16,9 @@ struct Panel {
     }
 };
 
-/// A panel of this height that holds ContentWidth and Padding, at least MinWidth wide and never wider than
-/// the screen less 80 pixels.
+/// A panel of this height that holds ContentWidth and Padding (left and right together), at least MinWidth
+/// wide and never wider than the screen less 80 pixels.
 Panel PlacePanel(float ContentWidth, float Padding, float MinWidth, float Height);
 
-/// Draws the border and the veil, a packed 0xAABBGGRR, which let the world shine through.
+/// Draws the border and over it the veil, both translucent. VeilColor is packed 0xAABBGGRR.
 void DrawPanel(SDL_Renderer *Renderer, const Panel &Box, std::uint32_t VeilColor);

@@ -43,7 +43,7 @@ const SceneryTheme &ThemeRow(std::int32_t Theme) {
 // Water, in logical pixels and seconds.
 constexpr float DriftSpeed = 18.0F;
 constexpr float RippleAmplitude = 6.0F;
-constexpr int TexelStep = 2; ///< one texel of a tile at TileScale
+constexpr int TexelStep = static_cast<int>(TileScale); ///< one texel of a tile
 
 // Shrubs stand one every ShrubPeriod on each side, the right ones a little behind the left ones.
 constexpr float ShrubPeriod = 72.8F;
@@ -114,9 +114,9 @@ void DrawRails(SDL_Renderer *Renderer, float RoadScroll, float Y0, float Y1) {
     FillRails(Renderer, y0, y1 - y0, RailColor);
     const int bandTop = TruncateToInt(std::floor(y0));
     const int bandBottom = TruncateToInt(std::ceil(y1));
-    for (int s = FirstMark(RoadScroll, PostPeriod); s <= PostPeriod + LogicalHeight - 1; s += PostPeriod) {
-        const int top = std::max(s, bandTop);
-        const int bottom = std::min(s + PostLength, bandBottom);
+    for (int y = FirstMark(RoadScroll, PostPeriod); y < LogicalHeight + PostPeriod; y += PostPeriod) {
+        const int top = std::max(y, bandTop);
+        const int bottom = std::min(y + PostLength, bandBottom);
         if (top < bottom) {
             FillRails(Renderer, static_cast<float>(top), static_cast<float>(bottom - top), PostColor);
         }
@@ -175,11 +175,11 @@ void DrawRoadside(SDL_Renderer *Renderer, std::int32_t Theme, float RoadScroll, 
     }
     const float y0 = OnScreen(Y0);
     const float y1 = OnScreen(Y1);
-    float p = std::fmod(RoadScroll, ShrubPeriod) - ShrubPeriod;
-    while (p < LogicalHeightF + ShrubPeriod) {
-        DrawShrub(Renderer, theme.Shrub, RoadLeft() - ShrubSize, p + LeftShrubShift, y0, y1);
-        DrawShrub(Renderer, theme.Shrub, RoadRight() + ShrubSize, p + RightShrubShift, y0, y1);
-        p += ShrubPeriod;
+    float y = std::fmod(RoadScroll, ShrubPeriod) - ShrubPeriod;
+    while (y < LogicalHeightF + ShrubPeriod) {
+        DrawShrub(Renderer, theme.Shrub, RoadLeft() - ShrubSize, y + LeftShrubShift, y0, y1);
+        DrawShrub(Renderer, theme.Shrub, RoadRight() + ShrubSize, y + RightShrubShift, y0, y1);
+        y += ShrubPeriod;
     }
 }
 
@@ -196,7 +196,6 @@ void DrawScenery(SDL_Renderer *Renderer, const GameState &State) {
     const std::int32_t oldTheme = StageThemeOf(State.PreviousStage);
     const std::int32_t newTheme = StageThemeOf(State.Stage);
     const float seam = std::clamp(State.StageTransition, 0.0F, 1.0F) * LogicalHeightF;
-    // Also false for NaN, should a damaged run hold that.
     if (oldTheme != newTheme && seam < LogicalHeightF) {
         DrawTwoBands(Renderer, State, oldTheme, newTheme, seam);
     } else {

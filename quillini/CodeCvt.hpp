@@ -10,7 +10,7 @@ namespace quillINI {
 namespace quillINIStream {
 
 /// The standard conversion between UTF-8 and char16_t or char32_t, with a public destructor.
-// NOLINTNEXTLINE(readability-identifier-naming): the library's own word
+// NOLINTNEXTLINE(readability-identifier-naming): named after the library
 template <class Unit> struct quillINICodeCvt : std::codecvt<Unit, char8_t, std::mbstate_t> {
     using std::codecvt<Unit, char8_t, std::mbstate_t>::codecvt;
     ~quillINICodeCvt() override = default;

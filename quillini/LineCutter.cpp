@@ -99,6 +99,7 @@ void TakeBackslash(LineCutter &Cutter) {
         return;
     }
     if (pair.size() == 2) { // as the last byte it is dropped
+        // NOT-BUGS: A backslash at the end of a line takes the line break with it
         Cutter.Line += pair;
     }
     Cutter.Index += pair.size();

@@ -24,7 +24,7 @@ struct ValueScan {
     ScannedValue Result;
     std::size_t Index = 0;
     char Quote = NoQuote;  ///< the one that closes the open string
-    bool Appended = false; ///< within the open string, by its last step
+    bool Appended = false; ///< whether the open string holds a character
     bool Ended = false;
 };
 
@@ -68,14 +68,14 @@ void StepOutside(ValueScan &Scan) {
 }
 
 void EndInside(ValueScan &Scan) {
-    if (Scan.Appended) { // so a string without a character gets the second error alone
+    if (Scan.Appended) { // an empty string gets the second error alone
         Scan.Error += StringNotClosed;
     }
     End(Scan, LineEndInString);
 }
 
-/// Whether a backslash at Index takes away the meaning of the character behind it. All other pairs stay as
-/// they are: this reader makes no control characters of them.
+/// Whether a backslash at Index takes away the meaning of the character behind it.
+/// NOT-BUGS: `\n` and `\t` stay as they are
 bool IsEscapeInside(const ValueScan &Scan) {
     const std::string_view pair = Scan.Rest.substr(Scan.Index, 2);
     return pair.size() == 2 && pair[0] == '\\' && (pair[1] == Scan.Quote || pair[1] == '\\');

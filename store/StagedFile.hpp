@@ -8,7 +8,7 @@
 
 /// Calls Use(path) with the path of a plain file in the preferences folder, and then removes the file. Use
 /// writes it before it is read, so what a crash has left there is never read. False if there is no such
-/// folder, otherwise what Use gives.
+/// folder, otherwise what Use gives. If Use throws, the file stays.
 template <typename Step> bool UseStagingFile(const char *StagingName, Step Use) {
     const std::string staging = PrefFilePath(StagingName);
     if (staging.empty()) {

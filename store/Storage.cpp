@@ -32,7 +32,7 @@ bool WaitForStorage(SDL_Storage *Storage) {
     const Uint64 start = SDL_GetTicks();
     while (!SDL_StorageReady(Storage)) {
         if (SDL_GetTicks() - start >= WaitLimitMilliseconds) {
-            // These words for the storage of shipped files, too.
+            // Title storage gets the same words.
             return SDL_SetError("Timed out waiting for SDL user storage");
         }
         SDL_Delay(1);

@@ -63,7 +63,7 @@ private:
 struct ValueToken {
     ValueTag Tag = ValueTag::None;
     std::uint32_t Depth = 0; ///< of an array or object: how deep its entries lie; otherwise 0
-    /// Text lives as long as the reader that gave it, and until that loads again.
+    /// A text lives until its reader loads again or is destroyed.
     std::variant<std::monostate, std::string_view, std::uint64_t, std::int64_t, double, std::uint32_t,
         std::int32_t, bool>
         Value;
@@ -103,7 +103,7 @@ private:
 /// The text of a String.
 bool TokenToKey(const ValueToken &Token, std::string_view &Out);
 
-/// Whole numbers cut to 32 bits, and a finite Double rounded half away from zero; not a Bool.
+/// Whole numbers cut to 32 bits, and a finite Double rounded half away from zero and clamped; not a Bool.
 bool TokenToInt32(const ValueToken &Token, std::int32_t &Out);
 
 /// A Bool, or a number that TokenToInt32 takes, as not equal to 0.

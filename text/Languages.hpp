@@ -20,5 +20,5 @@ const LanguageEntry *FindLanguage(std::string_view Code);
 std::string LanguageDisplayName(std::string_view Code);
 
 /// Adds the texts of one file to those there are; a present key gets the file's text. Path is relative to the
-/// program's folder. False if it cannot be read.
+/// program's folder. False if it cannot be read. Throws what ReadIniFile throws.
 bool LoadLanguageFile(const std::string &Path);
