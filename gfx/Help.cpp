@@ -60,7 +60,7 @@ float NameWidth(std::size_t Index) {
 }
 
 /// The distance from item to item: wide enough for neighbouring names, but not wider than lets the outer ones
-/// stay on the screen. Names too wide for both overlap.
+/// stay on the screen, as long as that leaves MinItemStep. Names too wide for both overlap.
 float ItemStep() {
     float wanted = MinItemStep;
     float widest = NameWidth(0);

@@ -5,7 +5,7 @@
 struct GameState;
 
 // The Audio page edits pending copies of the volumes, the switches and the language. The applied ones change
-// only with APPLY, which also loads another language and sets OptionsDirty.
+// only with APPLY, which also loads another language and, if anything was changed, sets OptionsDirty.
 
 /// Takes the pending copies from the applied options, so that the page is in edit.
 void BeginAudioEdit(GameState &State);

@@ -5,7 +5,7 @@
 struct GameState;
 
 // The Controls page edits pending copies of the three binding tables and of the device whose table it shows.
-// The applied ones change only with APPLY, which also sets OptionsDirty.
+// The applied ones change only with APPLY, which also sets OptionsDirty if anything was changed.
 
 /// Takes the pending copies from the applied options, so that the page is in edit, and ends a capture.
 void BeginControlsEdit(GameState &State);

@@ -7,8 +7,8 @@
 struct GameState;
 
 // The Graphics page edits the live options, so that the lists of resolutions and rates can follow them, and
-// keeps a snapshot of what was last applied. The window changes with APPLY alone, which sets OptionsDirty.
-// Without a window (null) the lists are those of the first display.
+// keeps a snapshot of what was last applied. The window changes with APPLY alone, which sets OptionsDirty if
+// anything was changed. Without a window (null) the lists are those of the first display.
 
 /// Takes the snapshot, so that the page is in edit, and rebuilds the lists.
 void BeginGraphicsEdit(GameState &State, SDL_Window *Window);

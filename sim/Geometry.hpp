@@ -1,7 +1,6 @@
 #pragma once
 
 #include <algorithm>
-#include <cmath>
 
 // Contact tests in logical pixels; a touch counts as a hit. They are by far the most frequent calls of a step
 // and stand here so that they can be inlined.
@@ -29,16 +28,13 @@ inline bool CircleHitsRect(
 }
 
 /// Whether two things share a point. One with a Radius is a circle, one with a Width and a Height a
-/// rectangle.
+/// rectangle; two rectangles are never asked for.
 template <typename Thing, typename Other> bool Touches(const Thing &A, const Other &B) {
     if constexpr (requires { A.Radius + B.Radius; }) {
         return CirclesTouch(A.X, A.Y, A.Radius, B.X, B.Y, B.Radius);
     } else if constexpr (requires { A.Radius; }) {
         return CircleHitsRect(A.X, A.Y, A.Radius, B.X, B.Y, B.Width, B.Height);
-    } else if constexpr (requires { B.Radius; }) {
-        return CircleHitsRect(B.X, B.Y, B.Radius, A.X, A.Y, A.Width, A.Height);
     } else {
-        return std::abs(A.X - B.X) <= (A.Width + B.Width) / 2.0F &&
-               std::abs(A.Y - B.Y) <= (A.Height + B.Height) / 2.0F;
+        return CircleHitsRect(B.X, B.Y, B.Radius, A.X, A.Y, A.Width, A.Height);
     }
 }

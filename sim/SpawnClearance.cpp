@@ -4,6 +4,7 @@
 #include "state/GameState.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace {
@@ -18,15 +19,27 @@ template <typename Thing> Circle Widened(const Thing &Round) {
     return {Round.X, Round.Y, Round.Radius + SpawnMargin};
 }
 
+/// The margin at both ends of a side.
+constexpr float Doubled = 2.0F * SpawnMargin;
+
 Obstacle Widened(Obstacle Obstacle) {
-    Obstacle.Width += 2.0F * SpawnMargin;
-    Obstacle.Height += 2.0F * SpawnMargin;
+    Obstacle.Width += Doubled;
+    Obstacle.Height += Doubled;
     return Obstacle;
 }
 
+template <typename Thing, typename NewThing> bool IsTooClose(const Thing &Other, const NewThing &New) {
+    return Touches(Widened(Other), Widened(New));
+}
+
+bool IsTooClose(const Obstacle &Other, const Obstacle &New) {
+    return std::abs(Other.X - New.X) <= (Other.Width + Doubled + New.Width + Doubled) / 2.0F &&
+           std::abs(Other.Y - New.Y) <= (Other.Height + Doubled + New.Height + Doubled) / 2.0F;
+}
+
 template <typename Thing> bool IsClear(const GameState &State, const Thing &New) {
-    const auto isTooClose = [place = Widened(New)](const auto &Other) {
-        return Touches(Widened(Other), place);
+    const auto isTooClose = [&New](const auto &Other) {
+        return IsTooClose(Other, New);
     };
     return std::ranges::none_of(State.Enemies, isTooClose) &&
            std::ranges::none_of(State.Obstacles, isTooClose) && std::ranges::none_of(State.Items, isTooClose);

@@ -65,6 +65,11 @@ std::int32_t LogicalWidthFor(enum AspectMode AspectMode, std::int32_t Width, std
     return DefaultLogicalWidth;
 }
 
+/// In 32 bits, which only a size that no display has exceeds.
+std::int32_t WrappingProduct(std::int32_t A, std::int32_t B) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(A) * static_cast<std::uint32_t>(B));
+}
+
 std::int32_t ClampToList(std::int32_t Index, std::span<const Resolution> List) {
     return std::clamp(Index, 0, static_cast<std::int32_t>(List.size()) - 1);
 }
@@ -76,9 +81,9 @@ bool RatioMatches(
     if (Width <= 0 || Height <= 0) {
         return false;
     }
-    const std::int64_t a = std::int64_t{Width} * RatioHeight;
-    const std::int64_t b = std::int64_t{RatioWidth} * Height;
-    return std::abs(a - b) <= std::max<std::int64_t>(std::max(a, b) / 200, 1);
+    const std::int32_t a = WrappingProduct(Width, RatioHeight);
+    const std::int32_t b = WrappingProduct(RatioWidth, Height);
+    return std::abs(std::int64_t{a} - b) <= std::max(std::max(a, b) / 200, 1);
 }
 
 bool IsUltrawide(std::int32_t Width, std::int32_t Height) {
