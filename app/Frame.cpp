@@ -28,8 +28,9 @@ void AdvanceCredits(GameState &State, float DeltaSeconds) {
 
 void Simulate(Program &Game, float DeltaSeconds) {
     GameState &state = Game.State;
+    const bool *keyboardState = SDL_GetKeyboardState(nullptr);
     if (state.Screen == ScreenPlaying) {
-        const StepInput input = PollGameplayInput(state, SDL_GetKeyboardState(nullptr), Game.Devices);
+        const StepInput input = PollGameplayInput(state, keyboardState, Game.Devices);
         SimulationStep(state, DeltaSeconds, input);
     } else if (state.Screen == ScreenCredits) {
         AdvanceCredits(state, DeltaSeconds);
@@ -96,11 +97,12 @@ void RunFrame(Program &Game) {
         Game.LastFrameTicks = now;
     }
     const float deltaSeconds = DeltaSecondsBetween(Game.LastFrameTicks, now);
-    Game.LastFrameTicks = now;
     Simulate(Game, deltaSeconds);
     SaveTick(state, deltaSeconds, Game.Writers.WriteSaveState);
     UpdateMusicRuntime(state, Game.Music);
     PlayQueuedSfx(state, Game.Music);
     Present(Game);
     CapFrame(state, frameStartTicks);
+    // The next step is measured from here, the cap from the top of the frame.
+    Game.LastFrameTicks = now;
 }

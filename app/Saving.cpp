@@ -35,6 +35,7 @@ void SaveTick(GameState &State, float DeltaSeconds, StateWriter Write) {
     }
     if (Write(State)) {
         State.SaveRequested = false;
+        State.SaveDelay = 0.0F;
     } else {
         SDL_Log("Failed to write save state: %s", SaveStateFileName);
         State.SaveDelay = RetrySeconds;

@@ -14,7 +14,6 @@ struct SaveWriters {
 
 /// Writes the options if OptionsDirty is set, and clears it once that has worked. Every failure is logged.
 /// NOT-BUGS: Options that cannot be written are tried again in every frame
-/// NOT-BUGS: Options that are written late
 void SaveOptionsIfDirty(GameState &State, StateWriter Write);
 
 /// Takes DeltaSeconds (a negative value counts as 0) from the delay of a requested save, and writes when

@@ -14,6 +14,7 @@
 #include "store/SaveState.hpp"
 #include "text/Languages.hpp"
 
+#include <algorithm>
 #include <random>
 
 namespace {
@@ -42,7 +43,7 @@ bool CreateWindow(Program &Game) {
     const Resolution size = CurrentResolution(state);
     ComputeLogicalWidth(state.AspectMode, size.Width, size.Height);
     const SDL_WindowFlags flags = state.Fullscreen ? SDL_WINDOW_FULLSCREEN : 0;
-    Game.Window = SDL_CreateWindow(WindowTitle, size.Width, size.Height, flags);
+    Game.Window = SDL_CreateWindow(WindowTitle, std::max(size.Width, 1), std::max(size.Height, 1), flags);
     if (Game.Window == nullptr) {
         SDL_Log("SDL_CreateWindow failed: %s", SDL_GetError());
         return false;

@@ -25,8 +25,9 @@ void AppendWords(std::string &Line, std::initializer_list<std::string_view> Word
 /// Appends what one device's buttons do.
 void AppendGroup(std::string &Line, TextKey Prefix, const BindingTable &Bindings, BindingLabel Label,
     std::string_view ConfirmLabel, std::string_view BackLabel) {
+    const bool same = !ConfirmLabel.empty() && ConfirmLabel == BackLabel;
     const std::string_view between =
-        ConfirmLabel == BackLabel ? std::string_view(GetText(TextKey::ControllerHintOr)) : ConfirmLabel;
+        same ? std::string_view(GetText(TextKey::ControllerHintOr)) : ConfirmLabel;
     const std::string confirm = Label(BindingOf(Bindings, PadAction::Confirm));
     const std::string back = Label(BindingOf(Bindings, PadAction::Back));
     AppendWords(Line, {GetText(Prefix), confirm, between, back, BackLabel});

@@ -53,7 +53,8 @@ bool IsButtonHeld(SDL_Joystick *Joystick, std::int32_t Button) {
            SDL_GetJoystickButton(Joystick, Button);
 }
 
-/// Adds what is held on a gamepad or joystick, null if none is open.
+/// Adds what is held on a gamepad or joystick, null if none is open. It is asked only for what no device
+/// before it has set.
 template <typename Device>
 void AddDevice(StepInput &Input, Device *OpenDevice, const BindingTable &Bindings) {
     if (OpenDevice == nullptr) {

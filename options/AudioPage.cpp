@@ -87,7 +87,9 @@ void Apply(GameState &State) {
 
 /// NOT-BUGS: A page that is left drops what was not applied
 void Leave(GameState &State) {
-    BeginAudioEdit(State);
+    if (AudioEditDirty(State)) {
+        BeginAudioEdit(State);
+    }
     State.PendingAudioValid = false;
     State.OptionsPage = OptionsPageMain;
 }
@@ -145,7 +147,7 @@ void CycleLanguage(GameState &State, std::int32_t Direction) {
     const auto count = static_cast<std::int32_t>(languages.size());
     const std::int32_t next = StepRound(PlaceOfLanguage(pending), Direction, count);
     const std::string &code = languages[static_cast<std::size_t>(next)].Code;
-    // Where there is only this language, the pending code stays as it was written.
+    // The only language that there is keeps its spelling.
     if (code != pending) {
         State.PendingLanguage = code;
     }

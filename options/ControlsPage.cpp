@@ -35,7 +35,9 @@ void Apply(GameState &State) {
 
 /// NOT-BUGS: A page that is left drops what was not applied
 void Leave(GameState &State) {
-    BeginControlsEdit(State);
+    if (ControlsEditDirty(State)) {
+        BeginControlsEdit(State);
+    }
     State.PendingControlsValid = false;
     State.OptionsPage = OptionsPageMain;
 }

@@ -46,7 +46,7 @@ void ListResolutions(GameState &State) {
         const std::span<const Resolution> builtIn = BuiltInResolutions(State.AspectMode);
         State.Resolutions.assign(builtIn.begin(), builtIn.end());
     }
-    std::ranges::sort(State.Resolutions);
+    std::sort(State.Resolutions.begin(), State.Resolutions.end());
 }
 
 } // namespace

@@ -38,6 +38,7 @@ void BeginDeath(GameState &State) {
     State.PlayerDying = true;
     player.Hp = 0;
     State.DeathTimer = DeathSeconds;
+    State.InvulnerabilityTimer = std::max(DeathSeconds, State.InvulnerabilityTimer);
     player.FireCooldown = 0.0F;
     State.Bullets.clear();
     State.EnemyBullets.clear();

@@ -150,7 +150,7 @@ TEST(Damage, WithoutASpareLifeTheRunBeginsToEnd) {
     EXPECT_EQ(state.Player.Hp, 0);
     EXPECT_EQ(state.Player.Stocks, 0);
     EXPECT_EQ(state.DeathTimer, 0.85F);
-    EXPECT_EQ(state.InvulnerabilityTimer, 1.0F) << "what the blow has set";
+    EXPECT_EQ(state.InvulnerabilityTimer, 1.0F) << "the greater of 0.85 and what the blow has set";
     EXPECT_EQ(state.Player.FireCooldown, 0.0F);
     EXPECT_EQ(state.PlayerLane, 7);
     EXPECT_TRUE(state.Bullets.empty());
