@@ -1,4 +1,5 @@
 #include "gfx/Atlas.hpp"
+#include "gfx/Credits.hpp"
 #include "gfx/Draw.hpp"
 #include "gfx/GameOverPanel.hpp"
 #include "gfx/Help.hpp"
@@ -12,6 +13,7 @@
 #include "tests/gfx/GfxTest.hpp"
 #include "tests/support/watch/SdlWatch.hpp"
 
+#include <array>
 #include <functional>
 #include <optional>
 
@@ -140,13 +142,14 @@ TEST_F(BlendMode, ChangesOnceInABusyFrame) {
 
 TEST_F(BlendMode, ChangesThriceWithShrubsBetweenGroundAndRoad) {
     const BatchCounter counter(Renderer());
-    RenderGameplay(Renderer(), BusyRun(3, 3));
+    RenderGameplay(Renderer(), BusyRun(4, 4));
     EXPECT_EQ(counter.ModeChanges, 3);
 }
 
 TEST_F(BlendMode, AddsNoBatchToTheWorldInAnyScenery) {
-    for (std::int32_t stage = 1; stage <= 4; ++stage) {
-        for (std::int32_t previous = 1; previous <= 4; ++previous) {
+    constexpr std::array stages{1, 2, 4, 8}; // earth, water, dirt, grass
+    for (const std::int32_t stage : stages) {
+        for (const std::int32_t previous : stages) {
             ExpectNoMoreBatches(RenderGameplay, BusyRun(stage, previous));
             GameState empty = BusyRun(stage, previous);
             empty.Items.clear();
@@ -160,7 +163,10 @@ TEST_F(BlendMode, AddsNoBatchToTheWorldInAnyScenery) {
 
 TEST_F(BlendMode, AddsNoBatchToAnyPageOrPanel) {
     GameState state = BusyRun(1, 1);
+    state.Bombs = 0; // so that the last of the HUD is a text
+    state.CreditsScroll = 400.0F;
     ExpectNoMoreBatches(RenderMainMenu, state);
+    ExpectNoMoreBatches(RenderCredits, state);
     const auto help = [this](SDL_Renderer *Renderer, const GameState &State) {
         RenderHelp(Renderer, State, Devices);
     };
@@ -190,7 +196,7 @@ TEST_F(BlendMode, IsSetOnlyWhereItChanges) {
         EXPECT_NE(old, Mode);
         ++settings;
     };
-    RenderGameplay(Renderer(), BusyRun(3, 3));
+    RenderGameplay(Renderer(), BusyRun(4, 4));
     EXPECT_EQ(settings, 6); // there and back for each bank and for the road
     EXPECT_EQ(watch.SetRenderDrawBlendMode.Count(), 0);
     RenderMainMenu(Renderer(), GameState{});
