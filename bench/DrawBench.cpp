@@ -2,7 +2,10 @@
 #include "bench/DrawCalls.hpp"
 #include "gfx/Atlas.hpp"
 #include "gfx/Hud.hpp"
+#include "gfx/MainMenu.hpp"
+#include "gfx/PausePanel.hpp"
 #include "gfx/World.hpp"
+#include "input/Devices.hpp"
 #include "sim/Lanes.hpp"
 #include "state/LogicalScreen.hpp"
 #include "tests/support/LogicalWidthScope.hpp"
@@ -78,9 +81,34 @@ void PlayBackBareHudCalls(benchmark::State &Bench) {
     PlayBackCallsOf(Bench, DrawHud);
 }
 
+void RenderPaused(SDL_Renderer *Renderer, const GameState &State) {
+    RenderGameplay(Renderer, State);
+    RenderPauseOverlay(Renderer, State, {});
+}
+
+void DrawPausedFrame(benchmark::State &Bench) {
+    DrawWith(Bench, RenderPaused);
+}
+
+void PlayBackBarePausedCalls(benchmark::State &Bench) {
+    PlayBackCallsOf(Bench, RenderPaused);
+}
+
+void DrawMenuFrame(benchmark::State &Bench) {
+    DrawWith(Bench, RenderMainMenu);
+}
+
+void PlayBackBareMenuCalls(benchmark::State &Bench) {
+    PlayBackCallsOf(Bench, RenderMainMenu);
+}
+
 BENCHMARK(DrawBusyFrame)->Arg(1280)->Arg(2560)->Unit(benchmark::kMillisecond);
 BENCHMARK(PlayBackBareCalls)->Arg(1280)->Arg(2560)->Unit(benchmark::kMillisecond);
 BENCHMARK(DrawHudFrame)->Arg(1280)->Unit(benchmark::kMillisecond);
 BENCHMARK(PlayBackBareHudCalls)->Arg(1280)->Unit(benchmark::kMillisecond);
+BENCHMARK(DrawPausedFrame)->Arg(1280)->Unit(benchmark::kMillisecond);
+BENCHMARK(PlayBackBarePausedCalls)->Arg(1280)->Unit(benchmark::kMillisecond);
+BENCHMARK(DrawMenuFrame)->Arg(1280)->Unit(benchmark::kMillisecond);
+BENCHMARK(PlayBackBareMenuCalls)->Arg(1280)->Unit(benchmark::kMillisecond);
 
 } // namespace

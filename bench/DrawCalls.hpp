@@ -8,5 +8,6 @@
 /// Draw calls of SDL with their arguments, as one frame made them.
 using DrawCalls = std::vector<std::function<void(SDL_Renderer *)>>;
 
-/// What a drawing function asks of SDL, call by call.
+/// What a drawing function asks of SDL, call by call, but for the blend modes that it sets: played back, all
+/// is blended.
 DrawCalls RecordDrawCalls(const std::function<void()> &Draw);

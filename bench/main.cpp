@@ -32,9 +32,11 @@ struct Ratio {
 };
 
 constexpr std::array Ratios{
-    Ratio{"drawing at 1280x720", "DrawBusyFrame/1280", "PlayBackBareCalls/1280", 1.10},
-    Ratio{"drawing at 2560x720", "DrawBusyFrame/2560", "PlayBackBareCalls/2560", 1.10},
+    Ratio{"drawing at 1280x720", "DrawBusyFrame/1280", "PlayBackBareCalls/1280", 0.30},
+    Ratio{"drawing at 2560x720", "DrawBusyFrame/2560", "PlayBackBareCalls/2560", 0.30},
     Ratio{"the HUD", "DrawHudFrame/1280", "PlayBackBareHudCalls/1280", 1.10},
+    Ratio{"the paused game", "DrawPausedFrame/1280", "PlayBackBarePausedCalls/1280", 0.54},
+    Ratio{"the main menu", "DrawMenuFrame/1280", "PlayBackBareMenuCalls/1280", 0.25},
     Ratio{"start-up", "StartGame/iterations:20/manual_time", "StartBareProgram/iterations:20/manual_time",
         1.25},
     Ratio{"saving a busy run", "SaveBusyRun", "WriteSameBytes", 10.0},

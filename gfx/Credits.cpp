@@ -33,7 +33,7 @@ static_assert(FirstLineY + CreditTable.back().Drop + NameDrop + MenuScale * Glyp
 void RenderCredits(SDL_Renderer *Renderer, const GameState &State) {
     const float centerX = ScreenCenterX();
     const float base = FirstLineY - State.CreditsScroll;
-    ClearToBlack(Renderer);
+    const BlackPage page(Renderer);
     for (const Credit &credit : CreditTable) {
         DrawTextCentered(
             Renderer, GetText(credit.Heading), centerX, base + credit.Drop, MenuScale, SelectedColor);

@@ -2,6 +2,7 @@
 
 #include "gfx/Atlas.hpp"
 #include "gfx/Clip.hpp"
+#include "gfx/SpriteMaps.hpp"
 #include "state/LogicalScreen.hpp"
 #include "state/Numbers.hpp"
 
@@ -55,6 +56,19 @@ bool IsWithinReach(float Y) {
 
 int TileSize(float SourceSize, float Scale) {
     return std::max(RoundToInt(SourceSize * Scale), 1);
+}
+
+/// Lays tiles side by side and row by row, the first with its corner at First, up to End.
+void LayTiles(
+    SDL_Renderer *Renderer, const SDL_FRect &Source, SDL_Point First, SDL_Point Size, SDL_Point End) {
+    for (int ty = First.y; ty < End.y; ty += Size.y) {
+        for (int tx = First.x; tx < End.x; tx += Size.x) {
+            // NOT-BUGS: Tiles of ground and road are drawn one pixel taller than they are
+            const SDL_FRect tile{static_cast<float>(tx), static_cast<float>(ty), static_cast<float>(Size.x),
+                static_cast<float>(Size.y + 1)};
+            SDL_RenderTexture(Renderer, SpriteAtlas.Texture, &Source, &tile);
+        }
+    }
 }
 
 } // namespace
@@ -138,18 +152,18 @@ void DrawTiledSprite(SDL_Renderer *Renderer, SpriteId Id, float X, float Y, floa
         return;
     }
     const SDL_FRect &source = SourceOf(Id);
-    const int tileWidth = TileSize(source.w, Scale);
-    const int tileHeight = TileSize(source.h, Scale);
+    const SDL_Point size{TileSize(source.w, Scale), TileSize(source.h, Scale)};
+    const SDL_Point first{
+        left + FloorModulo(OffsetX, size.x) - size.x, top + FloorModulo(OffsetY, size.y) - size.y};
     const ClipGuard guard(Renderer);
     SDL_SetRenderClipRect(Renderer, &clip);
-    const int firstX = left + FloorModulo(OffsetX, tileWidth) - tileWidth;
-    const int firstY = top + FloorModulo(OffsetY, tileHeight) - tileHeight;
-    for (int ty = firstY; ty < bottom; ty += tileHeight) {
-        for (int tx = firstX; tx < right; tx += tileWidth) {
-            // NOT-BUGS: Tiles of ground and road are drawn one pixel taller than they are
-            const SDL_FRect tile{static_cast<float>(tx), static_cast<float>(ty),
-                static_cast<float>(tileWidth), static_cast<float>(tileHeight + 1)};
-            SDL_RenderTexture(Renderer, SpriteAtlas.Texture, &source, &tile);
-        }
+    // Opaque tiles look the same without blending, and a software renderer copies them much faster so.
+    const bool isOpaque = IsOpaque(Id);
+    if (isOpaque) {
+        SDL_SetTextureBlendMode(SpriteAtlas.Texture, SDL_BLENDMODE_NONE);
+    }
+    LayTiles(Renderer, source, first, size, {right, bottom});
+    if (isOpaque) {
+        SDL_SetTextureBlendMode(SpriteAtlas.Texture, SDL_BLENDMODE_BLEND);
     }
 }

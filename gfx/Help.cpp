@@ -100,7 +100,7 @@ void RenderHelp(SDL_Renderer *Renderer, const GameState &State, const InputDevic
     const TextKey hint = isInRun ? TextKey::HelpHintBackToPauseMenu : TextKey::HelpHintBackToMainMenu;
     const std::string &back =
         GetText(isInRun ? TextKey::ControllerHintPauseMenu : TextKey::ControllerHintMainMenu);
-    ClearToBlack(Renderer);
+    const BlackPage page(Renderer);
     DrawLines(Renderer, LinesAboveItems);
     DrawItems(Renderer);
     DrawLines(Renderer, LinesBelowItems);

@@ -84,7 +84,7 @@ void RenderMainMenu(SDL_Renderer *Renderer, const GameState &State) {
     const std::size_t selected = std::min<std::size_t>(State.MainMenuSelection, rowCount - 1);
     const float centerX = ScreenCenterX();
     const float top = BlockTop(rowCount);
-    ClearToBlack(Renderer);
+    const BlackPage page(Renderer);
     DrawTitle(Renderer, centerX, top);
     DrawLabelRows(
         Renderer, std::span(RowLabels).last(rowCount), selected, centerX, top + RowsDrop, MainMenuRowStyle);

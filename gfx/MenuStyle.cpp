@@ -11,8 +11,14 @@ float ScreenCenterX() {
     return static_cast<float>(LogicalWidth) * 0.5F;
 }
 
-void ClearToBlack(SDL_Renderer *Renderer) {
-    FillRect(Renderer, 0.0F, 0.0F, static_cast<float>(LogicalWidth), LogicalHeightF, 0xFF000000);
+BlackPage::BlackPage(SDL_Renderer *Renderer) : Target(Renderer) {
+    SDL_GetRenderDrawBlendMode(Target, &OldMode);
+    SDL_SetRenderDrawBlendMode(Target, SDL_BLENDMODE_NONE);
+    FillRect(Target, 0.0F, 0.0F, static_cast<float>(LogicalWidth), LogicalHeightF, 0xFF000000);
+}
+
+BlackPage::~BlackPage() {
+    SDL_SetRenderDrawBlendMode(Target, OldMode);
 }
 
 int WidestText(std::span<const TextKey> Keys, int Scale) {

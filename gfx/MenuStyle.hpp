@@ -49,8 +49,20 @@ inline constexpr RowStyle OptionsRowStyle{PageScale, 34.0F, 24.0F, 0.0F, Unselec
 /// The x of the logical screen's middle.
 float ScreenCenterX();
 
-/// Covers the whole logical screen in black.
-void ClearToBlack(SDL_Renderer *Renderer);
+/// Covers the whole logical screen in black. While it lives, fills are drawn without blending: all of a page
+/// are opaque and so look the same, a software renderer is many times faster, and one batch holds the black
+/// and the text.
+class BlackPage {
+public:
+    explicit BlackPage(SDL_Renderer *Renderer);
+    ~BlackPage();
+    BlackPage(const BlackPage &) = delete;
+    BlackPage &operator=(const BlackPage &) = delete;
+
+private:
+    SDL_Renderer *Target;
+    SDL_BlendMode OldMode = SDL_BLENDMODE_BLEND;
+};
 
 /// The width of the widest of some texts in logical pixels.
 int WidestText(std::span<const TextKey> Keys, int Scale);

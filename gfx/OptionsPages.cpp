@@ -64,7 +64,7 @@ std::string PageDeviceLine(const GameState &State, const InputDevices &Devices) 
 } // namespace
 
 void RenderOptions(SDL_Renderer *Renderer, const GameState &State, const InputDevices &Devices) {
-    ClearToBlack(Renderer);
+    const BlackPage page(Renderer);
     DrawHeadings(Renderer, State.OptionsPage);
     switch (State.OptionsPage) {
     case OptionsPageMain:

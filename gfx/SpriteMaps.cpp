@@ -462,8 +462,26 @@ constexpr bool IsWellFormed(const SpriteMap &Map) {
 
 static_assert(std::ranges::all_of(SpriteMaps, IsWellFormed), "a row is not 16 wide or names no colour");
 
+constexpr bool HasOpaquePixelsOnly(const SpriteMap &Map) {
+    return std::ranges::all_of(Map.Rows, [&Map](std::string_view Row) {
+        return std::ranges::all_of(Row, [&Map](char Symbol) {
+            return SymbolColor(Map, Symbol) >> 24U == 0xFF;
+        });
+    });
+}
+
+constexpr auto OpaqueSprites = [] {
+    std::array<bool, SpriteCount> opaque{};
+    std::ranges::transform(SpriteMaps, opaque.begin(), HasOpaquePixelsOnly);
+    return opaque;
+}();
+
 } // namespace
 
 const SpriteMap &MapOf(SpriteId Id) {
     return SpriteMaps[static_cast<std::size_t>(Id)];
+}
+
+bool IsOpaque(SpriteId Id) {
+    return OpaqueSprites[static_cast<std::size_t>(Id)];
 }

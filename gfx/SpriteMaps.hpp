@@ -27,3 +27,6 @@ constexpr std::uint32_t SymbolColor(const SpriteMap &Map, char Symbol) {
 
 /// The picture of a sprite; Id is one of the enumeration.
 const SpriteMap &MapOf(SpriteId Id);
+
+/// Whether no pixel of a sprite lets the ground show through; Id is one of the enumeration.
+bool IsOpaque(SpriteId Id);

@@ -56,6 +56,7 @@
     STEERED(4, SDL_RenderTexture, RenderTexture)                                                             \
     STEERED(4, SDL_SetTextureColorMod, SetTextureColorMod)                                                   \
     STEERED(2, SDL_SetTextureAlphaMod, SetTextureAlphaMod)                                                   \
+    STEERED(2, SDL_SetTextureBlendMode, SetTextureBlendMode)                                                 \
     /* Devices. */                                                                                           \
     NOTED(1, SDL_GetGamepads, GetGamepads)                                                                   \
     NOTED(1, SDL_GetJoysticks, GetJoysticks)                                                                 \
