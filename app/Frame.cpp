@@ -103,6 +103,6 @@ void RunFrame(Program &Game) {
     PlayQueuedSfx(state, Game.Music);
     Present(Game);
     CapFrame(state, frameStartTicks);
-    // The next step is measured from here, the cap from the top of the frame.
+    // The next step is measured from the clock of this one, the cap from the top of the frame.
     Game.LastFrameTicks = now;
 }

@@ -17,6 +17,7 @@ inline constexpr float CreditsScrollSpeed = 42.0F;
 /// The seconds between two ticks in milliseconds, the earlier one first; at most MaxDeltaSeconds.
 float DeltaSecondsBetween(Uint64 LastFrameTicks, Uint64 Now);
 
-/// Runs one frame: events, saving, simulation, music and sounds, drawing, and the pause that keeps the pace.
+/// Runs one frame: events, the options file, simulation, the save state, music and sounds, drawing, and the
+/// pause that keeps the pace.
 /// Whether another one follows stands in Running.
 void RunFrame(Program &Game);

@@ -25,7 +25,7 @@ void HandlePlayingKey(GameState &State, std::int32_t Scancode) {
     }
 }
 
-/// On a page of text a key can only go back, and Return sounds like it.
+/// On a page of text Return and Escape both go back, with the sound of going back.
 /// NOT-BUGS: The space bar does not leave help and credits
 void HandleTextPageKey(GameState &State, std::int32_t Scancode, enum Screen ReturnScreen) {
     if (IsKeyEnter(Scancode) || IsKeyEscape(Scancode)) {

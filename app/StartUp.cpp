@@ -130,7 +130,7 @@ bool StartUp(Program &Game) {
     }
     StartLanguage(Game.State);
     RestoreGame(Game.State);
-    // Nothing of an earlier start in the same process is left, as in the state.
+    // The devices of a start that failed are forgotten, as the state is.
     Game.Devices = InputDevices{};
     OpenFirstInputDevices(Game.Devices);
     ApplyDisplaySettings(Game.State, Game.Window, Game.Renderer);

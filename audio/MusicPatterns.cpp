@@ -110,8 +110,7 @@ void LoadPattern(const quillINI::IniDocument &Document, const std::string &Secti
     if (pattern.ResolvedPath.empty()) {
         return;
     }
-    // Decoded as it plays.
-    pattern.Audio = MIX_LoadAudio(Runtime.Mixer, pattern.ResolvedPath.c_str(), false);
+    pattern.Audio = MIX_LoadAudio(Runtime.Mixer, pattern.ResolvedPath.c_str(), false); // decoded as it plays
     if (pattern.Audio == nullptr) {
         SDL_Log("MIX_LoadAudio failed for pattern '%s' (configured='%s', resolved='%s'): %s",
             pattern.Name.c_str(), fileName.c_str(), pattern.ResolvedPath.c_str(), SDL_GetError());

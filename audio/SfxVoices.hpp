@@ -14,6 +14,6 @@ void DestroySfxTracks(MusicRuntime &Runtime);
 void DestroySfxAudio(MusicRuntime &Runtime);
 
 /// Plays the sounds of State.PendingSounds, each on a voice of its own, and empties that queue even where
-/// nothing can play. With every voice busy the oldest in round-robin order is cut off. A sound that the mixer
-/// refuses is logged and lost.
+/// nothing can play. With every voice busy the one whose turn it is, round and round, is cut off. A sound
+/// that the mixer refuses is logged and lost.
 void PlayQueuedSfx(GameState &State, MusicRuntime &Runtime);

@@ -46,7 +46,8 @@ if(KESTREL_CCACHE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_CXX_COM
         CCACHE_SLOPPINESS=pch_defines,time_macros ${KESTREL_CCACHE})
 endif()
 
-# The rooms that read files tell the fuzzer what an input reached. The others would only be slowed down by it.
+# These rooms, which what is read from a file passes through, are compiled so that the fuzzer sees which code an input
+# reached. The others would only be slowed down by it.
 set(readers quillini state store text)
 
 # kestrel_room(<folder> <links>...): the library of one room, made of every source file in its folder but a main

@@ -15,8 +15,8 @@ struct TextureAtlas {
 /// The one atlas of the process: built once at start-up, read by every drawing function.
 extern TextureAtlas SpriteAtlas;
 
-/// Fills a sprite's pixels, without the atlas, with the upper left corner of its cell at (X, Y). An id that
-/// is no sprite paints nothing.
+/// Fills a sprite's pixels on the render target, for which it needs no atlas, with the upper left corner of
+/// its cell at (X, Y). An id that is no sprite paints nothing.
 void PaintSprite(SDL_Renderer *Renderer, SpriteId Id, float X, float Y);
 
 /// Creates and fills the atlas; does nothing if it exists. False if the texture cannot be created or drawn

@@ -101,7 +101,7 @@ void DrawEnemies(SDL_Renderer *Renderer, const GameState &State) {
 }
 
 void DrawExplosion(SDL_Renderer *Renderer, const Explosion &Disc) {
-    // Only a damaged file holds a life of 0; such an explosion is drawn as newly born.
+    // Only a damaged file holds a life of 0; such an explosion is drawn as at its first moment.
     const float t = Disc.Life == 0.0F ? 0.0F : std::clamp(Disc.Age / Disc.Life, 0.0F, 1.0F);
     const auto alpha =
         static_cast<std::uint32_t>(TruncateToInt(static_cast<float>(Disc.Color.A) * (1.0F - t)));

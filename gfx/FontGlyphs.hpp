@@ -16,6 +16,6 @@ constexpr bool IsSet(Glyph Letter, int Row, int Column) {
     return (Letter.Rows >> static_cast<unsigned>(bit) & 1U) != 0;
 }
 
-/// The built-in font's picture of a code point: blank below U+0080 where it draws nothing, a question mark
-/// for what it does not have.
+/// The built-in font's picture of a code point. What the font lacks is blank below U+0080 and a question mark
+/// above.
 Glyph FindGlyph(std::uint32_t CodePoint);

@@ -29,5 +29,5 @@ void DrawOptionsRows(SDL_Renderer *Renderer, std::span<const OptionsRow> Rows, s
 /// Draws the hints of a page of values: how to change one, and the device line or, without one, the keys.
 void DrawValueHints(SDL_Renderer *Renderer, std::string_view DeviceLine, float FirstY, float SecondY);
 
-/// The word for a switch that is on or off. The reference dies when a language is loaded.
+/// The word for a switch that is on or off. The reference holds until a language is loaded.
 const std::string &SwitchText(bool On);

@@ -156,7 +156,7 @@ void DrawTwoBands(SDL_Renderer *Renderer, const GameState &State, std::int32_t O
 void DrawGround(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme, float Y0, float Y1,
     std::int32_t FlowDirection) {
     const SceneryTheme &theme = ThemeRow(Theme);
-    // The tiling follows the road alone, so bands join without a jump.
+    // Rows follow the road alone, so bands join without a jump.
     const float offsetY = State.RoadScroll - Y0;
     WaterOffsets offsetX{0.0F, 0.0F};
     if (theme.IsWater) {

@@ -29,8 +29,7 @@ bool IsOpenJoystick(const InputDevices &Devices, SDL_JoystickID Id);
 /// that cannot be opened is skipped, and nothing is logged.
 void OpenFirstInputDevices(InputDevices &Devices);
 
-/// Opens a joystick, unless one is open. True if one is open afterwards, whichever; false if Id is a gamepad
-/// or cannot be opened.
+/// Opens a joystick, unless one is open or Id is a gamepad. Whether a joystick is open afterwards.
 bool TryOpenJoystick(InputDevices &Devices, SDL_JoystickID Id);
 
 /// Opens and closes devices as they are plugged in and out; every other event is ignored. When an open device

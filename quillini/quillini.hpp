@@ -41,7 +41,7 @@ struct IniEntry {
     bool RawComment = false;
     /// Of an array: the last index that was chosen for an element without one, not the one to come.
     std::int32_t NextIndex = 0;
-    /// Of an array: the writer spells the indexes out. Nothing here sets it.
+    /// Of an array: the writer spells the indexes out. For the caller to set; reading leaves it false.
     bool WriteIndexes = false;
     /// Of an array: each of kind Value, with a key of its own.
     std::vector<IniEntry> Elements;

@@ -2,8 +2,8 @@
 
 struct GameState;
 
-// What touches the player's car is removed, whether it hurts or not, and what has passed the bottom of the
-// screen leaves. Neither pays points.
+// What touches the player's car is removed, whether it hurts or not, and so is what has passed the bottom of
+// the screen. No points are paid for what is removed here.
 // NOT-BUGS: Rammed cars and obstacles vanish without points
 
 /// Enemies ram the player.

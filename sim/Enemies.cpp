@@ -23,7 +23,7 @@ constexpr float ChaseBelow = 0.62F;
 constexpr float WanderBelow = 0.87F;
 
 constexpr float EnemyGap = 8.0F;  ///< between the circles of two enemies, in logical pixels
-constexpr float EnemyLead = 6.0F; ///< as RollingDistance takes it
+constexpr float EnemyLead = 6.0F; ///< pixels a second, for RollingDistance
 
 // An enemy shoots between these heights, both ends excluded; all in logical pixels.
 constexpr float ShootFromY = 14.0F;

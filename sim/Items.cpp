@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr float ItemLead = 2.0F;
+constexpr float ItemLead = 2.0F;               ///< pixels a second, for RollingDistance
 constexpr std::int32_t FullPocketPoints = 300; ///< before stage scaling
 constexpr float InvincibilitySeconds = 6.0F;
 constexpr float DualWeaponSeconds = 8.0F;

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr float ObstacleLead = 4.0F;
+constexpr float ObstacleLead = 4.0F; ///< pixels a second, for RollingDistance
 
 } // namespace
 

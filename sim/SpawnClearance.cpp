@@ -20,11 +20,11 @@ template <typename Thing> Circle Widened(const Thing &Round) {
 }
 
 /// The margin at both ends of a side.
-constexpr float Doubled = 2.0F * SpawnMargin;
+constexpr float DoubleMargin = 2.0F * SpawnMargin;
 
 Obstacle Widened(Obstacle Obstacle) {
-    Obstacle.Width += Doubled;
-    Obstacle.Height += Doubled;
+    Obstacle.Width += DoubleMargin;
+    Obstacle.Height += DoubleMargin;
     return Obstacle;
 }
 
@@ -33,8 +33,8 @@ template <typename Thing, typename NewThing> bool IsTooClose(const Thing &Other,
 }
 
 bool IsTooClose(const Obstacle &Other, const Obstacle &New) {
-    return std::abs(Other.X - New.X) <= (Other.Width + Doubled + New.Width + Doubled) / 2.0F &&
-           std::abs(Other.Y - New.Y) <= (Other.Height + Doubled + New.Height + Doubled) / 2.0F;
+    return std::abs(Other.X - New.X) <= (Other.Width + DoubleMargin + New.Width + DoubleMargin) / 2.0F &&
+           std::abs(Other.Y - New.Y) <= (Other.Height + DoubleMargin + New.Height + DoubleMargin) / 2.0F;
 }
 
 template <typename Thing> bool IsClear(const GameState &State, const Thing &New) {

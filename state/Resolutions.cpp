@@ -65,7 +65,7 @@ std::int32_t LogicalWidthFor(enum AspectMode AspectMode, std::int32_t Width, std
     return DefaultLogicalWidth;
 }
 
-/// In 32 bits, which only a size that no display has exceeds.
+/// Wraps around beyond 32 bits, where only sizes lie that no display has.
 std::int32_t WrappingProduct(std::int32_t A, std::int32_t B) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(A) * static_cast<std::uint32_t>(B));
 }

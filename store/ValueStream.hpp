@@ -103,7 +103,8 @@ private:
 /// The text of a String.
 bool TokenToKey(const ValueToken &Token, std::string_view &Out);
 
-/// Whole numbers cut to 32 bits, and a finite Double rounded half away from zero and clamped; not a Bool.
+/// The low 32 bits of a whole number, and a finite Double rounded half away from zero and clamped; not a
+/// Bool.
 bool TokenToInt32(const ValueToken &Token, std::int32_t &Out);
 
 /// A Bool, or a number that TokenToInt32 takes, as not equal to 0.

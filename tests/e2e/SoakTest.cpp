@@ -121,13 +121,15 @@ private:
         Keys.insert(Keys.end(), static_cast<std::size_t>(Times), Repeated);
     }
 
-    // Goes down to a row, which QUIT is not, from the selected one.
+    // Goes down to a row, which QUIT is not, from the selected one: to the first, which goes on with the run,
+    // until there was a game over, for a new run could last longer than the test.
     void ChooseFromMainMenu(const Screenshot &Seen) {
         const std::optional<SeenMenu> menu = FindMenu(Seen);
         if (!menu) {
             return;
         }
-        const int wanted = Draw(4) == 0 ? Draw(menu->Rows - 1) : 0;
+        const bool isFree = Visits[SeenScreen::GameOver] > 0 && Draw(4) == 0;
+        const int wanted = isFree ? Draw(menu->Rows - 1) : 0;
         std::vector<Key> keys;
         Repeat(keys, Key::Down, (wanted + menu->Rows - menu->Selected) % menu->Rows);
         keys.push_back(Key::Return);
