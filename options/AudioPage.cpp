@@ -20,13 +20,11 @@ void StepVolume(std::int32_t &Percent, std::int32_t Direction) {
 /// The place in the catalogue where cycling starts: that of a language, or else of the default one, or else
 /// the first.
 std::int32_t PlaceOfLanguage(const std::string &Code) {
-    const std::vector<LanguageEntry> &languages = Localization.Languages;
-    auto found = std::ranges::find(languages, Code, &LanguageEntry::Code);
-    if (found == languages.end()) {
-        const std::string defaultCode = NormalizeLanguageCode(Localization.DefaultLanguage);
-        found = std::ranges::find(languages, defaultCode, &LanguageEntry::Code);
+    const LanguageEntry *entry = FindLanguage(Code);
+    if (entry == nullptr) {
+        entry = FindLanguage(NormalizeLanguageCode(Localization.DefaultLanguage));
     }
-    return found != languages.end() ? static_cast<std::int32_t>(found - languages.begin()) : 0;
+    return entry != nullptr ? static_cast<std::int32_t>(entry - Localization.Languages.data()) : 0;
 }
 
 void Adjust(GameState &State, std::int32_t Direction) {
