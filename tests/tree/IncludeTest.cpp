@@ -1,4 +1,5 @@
 #include "tests/tree/SourceTree.hpp"
+#include "tools/support/Files.hpp"
 
 #include <gtest/gtest.h>
 
@@ -95,14 +96,14 @@ Names LinksWithoutInclude(const Room &Room, const std::vector<Include> &Includes
 
 TEST(Rooms, EachIsTheLibraryOfItsOwnFolder) {
     for (const std::string &folder : FoldersOfTheBuild()) {
-        for (const Room &room : DeclaredRooms(TextOf(Tree() / folder / "CMakeLists.txt"))) {
+        for (const Room &room : DeclaredRooms(ReadBytes(Tree() / folder / "CMakeLists.txt"))) {
             EXPECT_EQ(room.Name, folder);
         }
     }
 }
 
 TEST(Rooms, StandInTheReadmeInTheOrderOfTheBuild) {
-    EXPECT_EQ(RoomsOfTable(TextOf(Tree() / "README.md")), NamesOf(Rooms()));
+    EXPECT_EQ(RoomsOfTable(ReadBytes(Tree() / "README.md")), NamesOf(Rooms()));
     EXPECT_GE(Rooms().size(), 10U) << "the rooms were not found";
 }
 

@@ -1,4 +1,5 @@
 #include "tests/tree/SourceTree.hpp"
+#include "tools/support/Files.hpp"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +46,8 @@ std::vector<Mark> MarksOfAllRooms() {
     std::vector<Mark> marks;
     for (const Room &room : Rooms()) {
         for (const std::filesystem::path &source : SourcesOfRoom(room.Name)) {
-            std::ranges::move(MarksOf(TextOf(source), source.filename().string()), std::back_inserter(marks));
+            std::ranges::move(
+                MarksOf(ReadBytes(source), source.filename().string()), std::back_inserter(marks));
         }
     }
     return marks;
@@ -75,7 +77,7 @@ Names LostMarks(const std::vector<Mark> &Marks, const Names &Titles) {
 TEST(NotBugs, EachMarkLeadsToItsParagraph) {
     const std::vector<Mark> marks = MarksOfAllRooms();
     EXPECT_FALSE(marks.empty()) << "no mark was found";
-    EXPECT_EQ(LostMarks(marks, TitlesOf(TextOf(Tree() / "docs" / "NOT-BUGS.md"))), Names{});
+    EXPECT_EQ(LostMarks(marks, TitlesOf(ReadBytes(Tree() / "docs" / "NOT-BUGS.md"))), Names{});
 }
 
 TEST(NotBugs, TitlesAreReadFromThePage) {

@@ -1,7 +1,8 @@
 #include "tests/tree/SourceTree.hpp"
 
+#include "tools/support/Files.hpp"
+
 #include <algorithm>
-#include <fstream>
 #include <iterator>
 #include <regex>
 #include <sstream>
@@ -19,12 +20,6 @@ const std::filesystem::path &Tree() {
     return tree;
 }
 
-std::string TextOf(const std::filesystem::path &File) {
-    std::ostringstream text;
-    text << std::ifstream(File).rdbuf();
-    return text.str();
-}
-
 Names AllMatches(const std::string &Text, const std::string &Pattern) {
     const std::regex pattern(Pattern, std::regex::ECMAScript | std::regex::multiline);
     Names found;
@@ -35,7 +30,7 @@ Names AllMatches(const std::string &Text, const std::string &Pattern) {
 }
 
 Names FoldersOfTheBuild() {
-    return AllMatches(TextOf(Tree() / "CMakeLists.txt"), R"(^\s*add_subdirectory\(([^)\s]+)\))");
+    return AllMatches(ReadBytes(Tree() / "CMakeLists.txt"), R"(^\s*add_subdirectory\(([^)\s]+)\))");
 }
 
 std::vector<Room> DeclaredRooms(const std::string &CMakeText) {
@@ -58,7 +53,7 @@ const std::vector<Room> &Rooms() {
         std::vector<Room> found;
         for (const std::string &folder : FoldersOfTheBuild()) {
             std::ranges::copy(
-                DeclaredRooms(TextOf(Tree() / folder / "CMakeLists.txt")), std::back_inserter(found));
+                DeclaredRooms(ReadBytes(Tree() / folder / "CMakeLists.txt")), std::back_inserter(found));
         }
         return found;
     }();

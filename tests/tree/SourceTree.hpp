@@ -14,9 +14,6 @@ struct Room {
 /// The folder that holds the rooms.
 const std::filesystem::path &Tree();
 
-/// The whole text of a file.
-std::string TextOf(const std::filesystem::path &File);
-
 /// What the first group of a pattern matches, from the beginning of a text to its end.
 Names AllMatches(const std::string &Text, const std::string &Pattern);
 
