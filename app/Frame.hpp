@@ -18,6 +18,5 @@ inline constexpr float CreditsScrollSpeed = 42.0F;
 float DeltaSecondsBetween(Uint64 LastFrameTicks, Uint64 Now);
 
 /// Runs one frame: events, the options file, simulation, the save state, music and sounds, drawing, and the
-/// pause that keeps the pace.
-/// Whether another one follows stands in Running.
+/// pause that keeps the pace. Whether another one follows stands in Running.
 void RunFrame(Program &Game);

@@ -130,7 +130,7 @@ bool StartUp(Program &Game) {
     }
     StartLanguage(Game.State);
     RestoreGame(Game.State);
-    // The devices of a start that failed are forgotten, as the state is.
+    // Whatever was there is forgotten, as the state was above.
     Game.Devices = InputDevices{};
     OpenFirstInputDevices(Game.Devices);
     ApplyDisplaySettings(Game.State, Game.Window, Game.Renderer);

@@ -49,7 +49,7 @@ inline EnemyBullet EnemyBulletAt(float X, float Y, std::int32_t Damage = 10) {
     return {X, Y, 0.0F, 2.0F, Damage};
 }
 
-/// A explosion as it is born.
+/// An explosion of age 0.
 inline Explosion NewExplosion(float X, float Y, float Life, float MaxRadius, struct Color Color) {
     return {X, Y, 0.0F, Life, MaxRadius, Color};
 }
