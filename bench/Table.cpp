@@ -84,7 +84,7 @@ std::string RowText(const Row &Told, const Measurements &Results, std::optional<
         Told.By != Judgement::Part ? Find(Results, Told.Bare) : std::nullopt;
     return std::string("| ") + Told.Words + " | " + (ours ? ValueText(*ours) : "not measured") + " | " +
            (bare ? ValueText(*bare) : "") + " | " + (Result ? ResultText(Told, *Result) : "") + " | " +
-           TargetText(Told) + (IsKept ? "" : ", **missed**") + " |\n";
+           TargetText(Told) + (IsKept ? "" : " **missed**") + " |\n";
 }
 
 bool IsLeftOut(const Row &Asked, bool IsMeasured, TableWish Wish) {
