@@ -44,7 +44,7 @@ public:
     void ReportRuns(const std::vector<Run> &Runs) override {
         ConsoleReporter::ReportRuns(Runs);
         for (const Run &run : Runs) {
-            if (!run.error_occurred) {
+            if (run.GetAdjustedCPUTime() > 0.0) { // none after an error
                 Remember(run);
             }
         }
