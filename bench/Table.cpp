@@ -9,15 +9,15 @@
 
 namespace {
 
-std::string Formatted(const char *Format, double Number) {
+std::string Fixed(double Number, int Digits) {
     std::array<char, 64> text{};
-    std::snprintf(text.data(), text.size(), Format, Number);
+    std::snprintf(text.data(), text.size(), "%.*f", Digits, Number);
     return text.data();
 }
 
 /// Three digits that count, and no more.
 std::string Rounded(double Number) {
-    return Formatted(Number < 10.0 ? "%.2f" : Number < 100.0 ? "%.1f" : "%.0f", Number);
+    return Fixed(Number, Number < 10.0 ? 2 : Number < 100.0 ? 1 : 0);
 }
 
 std::string ValueText(const Measurement &Measured) {
@@ -54,11 +54,11 @@ std::optional<double> ResultOf(const Row &Asked, const Measurements &Results) {
 std::string ResultText(const Row &Told, double Result) {
     switch (Told.By) {
     case Judgement::Part:
-        return Formatted("%.0f %% of it", Result * 100.0);
+        return Fixed(Result * 100.0, 0) + " % of it";
     case Judgement::Ratio:
-        return Formatted("%.3f", Result);
+        return Fixed(Result, 3);
     case Judgement::Excess:
-        return Formatted("%.1f MiB more", Result);
+        return Fixed(Result, 1) + " MiB more";
     default:
         return "";
     }
@@ -68,11 +68,11 @@ std::string ResultText(const Row &Told, double Result) {
 std::string TargetText(const Row &Told) {
     switch (Told.By) {
     case Judgement::Value:
-        return Formatted("%.0f %%", Told.Most);
+        return Fixed(Told.Most, 0) + " %";
     case Judgement::Ratio:
-        return Formatted("%.2f", Told.Most);
+        return Fixed(Told.Most, 2);
     case Judgement::Excess:
-        return Formatted("%.0f MiB", Told.Most);
+        return Fixed(Told.Most, 0) + " MiB";
     default:
         return "";
     }

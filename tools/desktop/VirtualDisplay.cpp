@@ -25,7 +25,8 @@ std::vector<std::string> ServerArguments(ScreenSize Size, ScreenMemory Memory) {
     std::vector<std::string> arguments{
         "-displayfd", NumberDescriptor, "-screen", "0", screen, "-nolisten", "tcp", "-noreset"};
     if (Memory == ScreenMemory::Shared) {
-        arguments.emplace_back("-shmem");
+        // The pointer is drawn into that memory, over what programs show.
+        arguments.insert(arguments.end(), {"-shmem", "-nocursor"});
     }
     return arguments;
 }
