@@ -103,7 +103,7 @@ void Close(GameSession &Session) {
 void MeasureGame(const DrawingWay &Way, std::chrono::seconds PlayTime, Measurements &Results) {
     const PreparedHome home;
     PutRun(home, LongRun());
-    GameSession session(GameProgram, {}, Way.Settings, &home);
+    GameSession session(GameProgram, {}, Way.Settings, &home, Desk::Managed);
     WaitForWindow(session, MainMenuOn(0));
     for (const Step &step : WayThroughTheGame()) {
         Take(session, step);
@@ -119,7 +119,7 @@ void MeasureGame(const DrawingWay &Way, std::chrono::seconds PlayTime, Measureme
 
 void MeasureBareProgram(const DrawingWay &Way, Measurements &Results) {
     const PreparedHome home;
-    GameSession session(BareProgram, {}, Way.Settings, &home);
+    GameSession session(BareProgram, {}, Way.Settings, &home, Desk::Managed);
     WaitForWindow(session, ShowsAnything);
     std::this_thread::sleep_for(MenuTime);
     NoteMemory(session, std::string(Way.Name) + "/Bare", Results);

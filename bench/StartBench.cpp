@@ -21,10 +21,14 @@ namespace {
 constexpr std::chrono::microseconds Glance{50};
 constexpr std::chrono::milliseconds Pause{50}; // for the display to settle between two starts
 
-/// A display whose screen can be watched without asking it.
+/// A display whose screen can be watched without asking it. A window manager looks after it, as on any
+/// desktop: without one SDL waits in vain for its answers.
 struct WatchedDisplay {
     VirtualDisplay Display{ScreenSize{}, ScreenMemory::Shared};
     SharedScreen Screen{Display};
+    PreparedHome Home;
+    XClient Client{Display.Name()};
+    WindowManager Manager{Display.Name(), Home.Path(), Client};
 };
 
 /// Waits until the program's picture has gone with its window.
@@ -101,7 +105,7 @@ void MeasureInTurn(const std::string &Name, StartSeries &Game, StartSeries &Bare
 } // namespace
 
 void RunOnce(const std::filesystem::path &Program, const PreparedHome &Home, const DrawingWay &Way) {
-    GameSession session(Program, {}, Way.Settings, &Home);
+    GameSession session(Program, {}, Way.Settings, &Home, Desk::Managed);
     const bool isShown = session.WaitForWindow() && session.WaitForPicture(ShowsAnything);
     if (!isShown || session.Close() != 0) {
         throw std::runtime_error(
