@@ -31,7 +31,7 @@ inline constexpr auto Rows = std::to_array<Row>({
         1.10},
     {"busy frame, 2560x720, OpenGL", "Draw/Busy2560/OpenGl", "PlayBack/Busy2560/OpenGl", Judgement::Ratio,
         1.10},
-    {"HUD, OpenGL", "Draw/Hud/OpenGl", "PlayBack/Hud/OpenGl", Judgement::Ratio, 1.10},
+    {"HUD, OpenGL", "Draw/Hud/OpenGl", "PlayBack/Hud/OpenGl"},
     {"paused game, OpenGL", "Draw/Paused/OpenGl", "PlayBack/Paused/OpenGl", Judgement::Ratio, 1.10},
     {"main menu, OpenGL", "Draw/MainMenu/OpenGl", "PlayBack/MainMenu/OpenGl", Judgement::Ratio, 1.10},
 
