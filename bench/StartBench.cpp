@@ -11,6 +11,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 // A picture counts from the moment in which the X server has it: what the screen shows is looked at some ten
@@ -65,7 +66,8 @@ double TimeToFirstPicture(const std::filesystem::path &Program, const PreparedHo
 /// One program and the times of its starts.
 class StartSeries {
 public:
-    StartSeries(const char *StartedProgram, const DrawingWay &Way) : Program(StartedProgram), DrawnBy(Way) {}
+    StartSeries(const char *StartedProgram, DrawingWay Way)
+        : Program(StartedProgram), DrawnBy(std::move(Way)) {}
 
     /// From now on the program finds what it has left in an earlier run.
     void KeepHome() {

@@ -52,12 +52,14 @@ public:
 
 private:
     void Remember(const Run &Done) {
-        const std::string &arguments = Done.run_name.args;
-        const std::string name = Done.run_name.function_name + (arguments.empty() ? "" : "/" + arguments);
+        std::string name = Done.run_name.function_name;
+        if (!Done.run_name.args.empty()) {
+            name.append("/").append(Done.run_name.args);
+        }
         const std::string unit = benchmark::GetTimeUnitString(Done.time_unit);
         Results[name] = {Done.GetAdjustedCPUTime(), unit};
         for (const auto &[counter, value] : Done.counters) {
-            Results[name + "/" + counter] = {value, unit};
+            Results[std::string(name).append("/").append(counter)] = {value, unit};
         }
     }
 
