@@ -1,5 +1,8 @@
+#include "bench/DrawBench.hpp"
+
 #include "bench/BusyRoad.hpp"
 #include "bench/DrawCalls.hpp"
+#include "bench/Programs.hpp"
 #include "gfx/Atlas.hpp"
 #include "gfx/Hud.hpp"
 #include "gfx/MainMenu.hpp"
@@ -8,9 +11,14 @@
 #include "input/Devices.hpp"
 #include "sim/Lanes.hpp"
 #include "state/LogicalScreen.hpp"
+#include "tests/support/EnvironmentScope.hpp"
 #include "tests/support/LogicalWidthScope.hpp"
+#include "tools/desktop/VirtualDisplay.hpp"
 
 #include <benchmark/benchmark.h>
+
+#include <array>
+#include <string>
 
 namespace {
 
@@ -33,6 +41,11 @@ public:
     MemoryScreen(const MemoryScreen &) = delete;
     MemoryScreen &operator=(const MemoryScreen &) = delete;
 
+    /// Has all drawing done that was asked for.
+    void Finish() const {
+        SDL_FlushRenderer(Renderer);
+    }
+
     SDL_Surface *Surface;
     SDL_Renderer *Renderer;
 
@@ -40,75 +53,115 @@ private:
     LogicalWidthScope ScreenWidth;
 };
 
-using DrawFunction = void (*)(SDL_Renderer *Renderer, const GameState &State);
-
-void DrawWith(benchmark::State &Bench, DrawFunction Draw) {
-    const MemoryScreen screen(static_cast<std::int32_t>(Bench.range(0)));
-    const GameState state = BusyRoad();
-    for (auto iteration : Bench) {
-        Draw(screen.Renderer, state);
-        SDL_FlushRenderer(screen.Renderer);
-    }
-}
-
-void PlayBackCallsOf(benchmark::State &Bench, DrawFunction Draw) {
-    const MemoryScreen screen(static_cast<std::int32_t>(Bench.range(0)));
-    const GameState state = BusyRoad();
-    const DrawCalls calls = RecordDrawCalls([&screen, &state, Draw] {
-        Draw(screen.Renderer, state);
-    });
-    for (auto iteration : Bench) {
-        for (const auto &call : calls) {
-            call(screen.Renderer);
+/// The same by OpenGL, in a window on a virtual display. The renderer is null where there is no OpenGL.
+class OpenGlScreen {
+public:
+    explicit OpenGlScreen(std::int32_t Width) : Display({Width, LogicalHeight}), ScreenWidth(Width) {
+        if (SDL_InitSubSystem(SDL_INIT_VIDEO) &&
+            SDL_CreateWindowAndRenderer("Drawing", Width, LogicalHeight, 0, &Window, &Renderer)) {
+            SDL_SetRenderDrawBlendMode(Renderer, SDL_BLENDMODE_BLEND);
+            BuildTextureAtlas(Renderer);
         }
-        SDL_FlushRenderer(screen.Renderer);
     }
-}
 
-void DrawBusyFrame(benchmark::State &Bench) {
-    DrawWith(Bench, RenderGameplay);
-}
+    ~OpenGlScreen() {
+        DestroyTextureAtlas();
+        SDL_DestroyRenderer(Renderer);
+        SDL_DestroyWindow(Window);
+        SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    }
 
-void PlayBackBareCalls(benchmark::State &Bench) {
-    PlayBackCallsOf(Bench, RenderGameplay);
-}
+    OpenGlScreen(const OpenGlScreen &) = delete;
+    OpenGlScreen &operator=(const OpenGlScreen &) = delete;
 
-void DrawHudFrame(benchmark::State &Bench) {
-    DrawWith(Bench, DrawHud);
-}
+    /// Has all drawing done that was asked for: OpenGL must, before it can tell a pixel.
+    void Finish() const {
+        const SDL_Rect pixel{0, 0, 1, 1};
+        SDL_DestroySurface(SDL_RenderReadPixels(Renderer, &pixel));
+    }
 
-void PlayBackBareHudCalls(benchmark::State &Bench) {
-    PlayBackCallsOf(Bench, DrawHud);
-}
+    SDL_Renderer *Renderer = nullptr;
+
+private:
+    VirtualDisplay Display;
+    EnvironmentScope DisplayName{"DISPLAY", Display.Name()};
+    EnvironmentScope VideoDriver{"SDL_VIDEO_DRIVER", "x11"};
+    EnvironmentScope RenderDriver{"SDL_RENDER_DRIVER", "opengl"};
+    LogicalWidthScope ScreenWidth;
+    SDL_Window *Window = nullptr;
+};
 
 void RenderPaused(SDL_Renderer *Renderer, const GameState &State) {
     RenderGameplay(Renderer, State);
     RenderPauseOverlay(Renderer, State, {});
 }
 
-void DrawPausedFrame(benchmark::State &Bench) {
-    DrawWith(Bench, RenderPaused);
+/// What is drawn, of the busy road, on a screen of that width.
+struct Picture {
+    const char *Name;
+    void (*Render)(SDL_Renderer *Renderer, const GameState &State);
+    std::int32_t Width;
+};
+
+constexpr auto Pictures = std::to_array<Picture>({
+    {"Busy1280", RenderGameplay, 1280},
+    {"Busy2560", RenderGameplay, 2560},
+    {"Hud", DrawHud, 1280},
+    {"Paused", RenderPaused, 1280},
+    {"MainMenu", RenderMainMenu, 1280},
+});
+
+template <typename Screen> void Draw(benchmark::State &Bench, const Picture &Drawn) {
+    const Screen screen(Drawn.Width);
+    if (screen.Renderer == nullptr) {
+        Bench.SkipWithError(SDL_GetError());
+        return;
+    }
+    const GameState state = BusyRoad();
+    for (auto iteration : Bench) {
+        Drawn.Render(screen.Renderer, state);
+        screen.Finish();
+    }
 }
 
-void PlayBackBarePausedCalls(benchmark::State &Bench) {
-    PlayBackCallsOf(Bench, RenderPaused);
+template <typename Screen> void PlayBack(benchmark::State &Bench, const Picture &Drawn) {
+    const Screen screen(Drawn.Width);
+    if (screen.Renderer == nullptr) {
+        Bench.SkipWithError(SDL_GetError());
+        return;
+    }
+    const GameState state = BusyRoad();
+    const DrawCalls calls = RecordDrawCalls([&screen, &state, &Drawn] {
+        Drawn.Render(screen.Renderer, state);
+    });
+    for (auto iteration : Bench) {
+        for (const auto &call : calls) {
+            call(screen.Renderer);
+        }
+        screen.Finish();
+    }
 }
 
-void DrawMenuFrame(benchmark::State &Bench) {
-    DrawWith(Bench, RenderMainMenu);
+using Bench = void (*)(benchmark::State &Bench, const Picture &Drawn);
+
+/// The time of all threads counts: OpenGL draws on several.
+void Register(const std::string &Name, Bench Run, const Picture &Drawn) {
+    benchmark::RegisterBenchmark(Name.c_str(), Run, Drawn)
+        ->MeasureProcessCPUTime()
+        ->Unit(benchmark::kMillisecond);
 }
 
-void PlayBackBareMenuCalls(benchmark::State &Bench) {
-    PlayBackCallsOf(Bench, RenderMainMenu);
+template <typename Screen> void RegisterAll(const std::string &Renderer) {
+    for (const Picture &picture : Pictures) {
+        const std::string name = std::string("/").append(picture.Name).append("/").append(Renderer);
+        Register("Draw" + name, Draw<Screen>, picture);
+        Register("PlayBack" + name, PlayBack<Screen>, picture);
+    }
 }
-
-BENCHMARK(DrawBusyFrame)->Arg(1280)->Arg(2560)->Unit(benchmark::kMillisecond);
-BENCHMARK(PlayBackBareCalls)->Arg(1280)->Arg(2560)->Unit(benchmark::kMillisecond);
-BENCHMARK(DrawHudFrame)->Arg(1280)->Unit(benchmark::kMillisecond);
-BENCHMARK(PlayBackBareHudCalls)->Arg(1280)->Unit(benchmark::kMillisecond);
-BENCHMARK(DrawPausedFrame)->Arg(1280)->Unit(benchmark::kMillisecond);
-BENCHMARK(PlayBackBarePausedCalls)->Arg(1280)->Unit(benchmark::kMillisecond);
-BENCHMARK(DrawMenuFrame)->Arg(1280)->Unit(benchmark::kMillisecond);
-BENCHMARK(PlayBackBareMenuCalls)->Arg(1280)->Unit(benchmark::kMillisecond);
 
 } // namespace
+
+void RegisterDrawBenches() {
+    RegisterAll<MemoryScreen>(Software().Name);
+    RegisterAll<OpenGlScreen>(OpenGl().Name);
+}

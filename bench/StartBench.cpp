@@ -1,118 +1,129 @@
-#include "app/Frame.hpp"
-#include "app/Program.hpp"
-#include "app/ShutDown.hpp"
-#include "app/StartUp.hpp"
-#include "tests/support/TemporaryHome.hpp"
-#include "tests/support/watch/SdlWatch.hpp"
-#include "tools/desktop/VirtualDisplay.hpp"
+#include "bench/StartBench.hpp"
 
-#include <SDL3_mixer/SDL_mixer.h>
-#include <benchmark/benchmark.h>
+#include "tools/desktop/GameSession.hpp"
+#include "tools/desktop/SharedScreen.hpp"
+#include "tools/desktop/WaitUntil.hpp"
 
-#include <cstdlib>
-#include <memory>
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
 #include <optional>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
 
-// From nothing to the first frame on screen, beside a program that opens the same window and mixer and shows
-// black. Both open a real window: on a machine without a display, on a virtual one.
+// A picture counts from the moment in which the X server has it: what the screen shows is looked at some ten
+// thousand times a second, in memory that the server shares, so that nobody waits for the one who looks.
 
 namespace {
 
-/// Sees to it that there is a display.
-class Desktop {
-public:
-    Desktop() {
-        if (std::getenv("DISPLAY") == nullptr && std::getenv("WAYLAND_DISPLAY") == nullptr) {
-            Virtual.emplace(ScreenSize{});
-            setenv("DISPLAY", Virtual->Name().c_str(), 1);
-        }
-    }
+constexpr std::chrono::microseconds Glance{50};
+constexpr std::chrono::milliseconds Pause{50}; // for the display to settle between two starts
 
-    ~Desktop() {
-        if (Virtual) {
-            unsetenv("DISPLAY");
-        }
-    }
-
-    Desktop(const Desktop &) = delete;
-    Desktop &operator=(const Desktop &) = delete;
-
-private:
-    std::optional<VirtualDisplay> Virtual;
+/// A display whose screen can be watched without asking it. A window manager looks after it, as on any
+/// desktop: without one SDL waits in vain for its answers.
+struct WatchedDisplay {
+    VirtualDisplay Display{ScreenSize{}, ScreenMemory::Shared};
+    SharedScreen Screen{Display};
+    PreparedHome Home;
+    XClient Client{Display.Name()};
+    WindowManager Manager{Display.Name(), Home.Path(), Client};
 };
 
-/// Notes when a frame is on screen.
-class PresentClock {
+/// Waits until the program's picture has gone with its window.
+void WaitForEmptyScreen(const WatchedDisplay &Desk) {
+    const bool isEmpty = WaitUntil([&Desk] {
+        return !Desk.Screen.ShowsAnything();
+    });
+    if (!isEmpty) {
+        throw std::runtime_error("The screen does not become empty again");
+    }
+    std::this_thread::sleep_for(Pause);
+}
+
+/// Launches a program and kills it when it has shown its first picture. The time between, in milliseconds.
+double TimeToFirstPicture(const std::filesystem::path &Program, const PreparedHome &Home,
+    const DrawingWay &Way, const WatchedDisplay &Desk) {
+    using std::chrono::steady_clock;
+    const Environment variables = SessionEnvironment(Home.Path(), Desk.Display.Name(), Way.Settings);
+    const steady_clock::time_point launch = steady_clock::now();
+    ChildProcess program(Program, {}, variables);
+    WaitUntil(
+        [&] {
+            return Desk.Screen.ShowsAnything() || !program.IsRunning();
+        },
+        PatientDeadline, Glance);
+    const std::chrono::duration<double, std::milli> time = steady_clock::now() - launch;
+    if (!Desk.Screen.ShowsAnything()) {
+        throw std::runtime_error(Program.string() + " shows nothing. It says:\n" + program.Output());
+    }
+    program.Send(SIGKILL);
+    return time.count();
+}
+
+/// One program and the times of its starts.
+class StartSeries {
 public:
-    PresentClock() {
-        Watch.RenderPresent.Answer = [this](SDL_Renderer *Renderer) {
-            const bool presented = SDL_RenderPresent(Renderer);
-            LastPresent = SDL_GetPerformanceCounter();
-            return presented;
-        };
+    StartSeries(const char *StartedProgram, DrawingWay Way)
+        : Program(StartedProgram), DrawnBy(std::move(Way)) {}
+
+    /// From now on the program finds what it has left in an earlier run.
+    void KeepHome() {
+        Home.emplace();
+        RunOnce(Program, *Home, DrawnBy);
     }
 
-    double SecondsSince(Uint64 Start) const {
-        return static_cast<double>(LastPresent - Start) / static_cast<double>(SDL_GetPerformanceFrequency());
+    void StartOnce(const WatchedDisplay &Desk) {
+        const PreparedHome fresh;
+        Times.push_back(TimeToFirstPicture(Program, Home ? *Home : fresh, DrawnBy, Desk));
+        WaitForEmptyScreen(Desk);
+    }
+
+    Measurement Result() {
+        std::ranges::sort(Times);
+        const std::size_t count = Times.size();
+        return {Times[count / 2], "ms", Times[count / 4], Times[count * 3 / 4]};
     }
 
 private:
-    SdlWatch Watch;
-    Uint64 LastPresent = 0;
+    std::filesystem::path Program;
+    DrawingWay DrawnBy;
+    std::optional<PreparedHome> Home;
+    std::vector<double> Times;
 };
 
-void StartGame(benchmark::State &Bench) {
-    const Desktop desktop;
-    const TemporaryHome home;
-    const EnvironmentScope silence("SDL_AUDIO_DRIVER", "dummy");
-    const PresentClock clock;
-    const auto program = std::make_unique<Program>();
-    for (auto iteration : Bench) {
-        const Uint64 start = SDL_GetPerformanceCounter();
-        if (!StartUp(*program)) {
-            Bench.SkipWithError("the game did not start");
-            return;
-        }
-        RunFrame(*program);
-        Bench.SetIterationTime(clock.SecondsSince(start));
-        program->Music.FadeOutMs = 0; // nobody listens
-        ShutDown(*program);
+void MeasureInTurn(const std::string &Name, StartSeries &Game, StartSeries &Bare, int Count,
+    const WatchedDisplay &Desk, Measurements &Results) {
+    for (int i = 0; i < Count; ++i) {
+        Game.StartOnce(Desk);
+        Bare.StartOnce(Desk);
     }
+    Results[Name + "/Game"] = Game.Result();
+    Results[Name + "/Bare"] = Bare.Result();
 }
-
-void StartBareProgram(benchmark::State &Bench) {
-    const Desktop desktop;
-    const TemporaryHome home;
-    const EnvironmentScope silence("SDL_AUDIO_DRIVER", "dummy");
-    const PresentClock clock;
-    for (auto iteration : Bench) {
-        const Uint64 start = SDL_GetPerformanceCounter();
-        SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK | SDL_INIT_GAMEPAD);
-        const SDL_DisplayMode *mode = SDL_GetDesktopDisplayMode(SDL_GetPrimaryDisplay());
-        if (mode == nullptr) {
-            Bench.SkipWithError("there is no display");
-            return;
-        }
-        SDL_Window *window = SDL_CreateWindow("Bare", mode->w, mode->h, SDL_WINDOW_FULLSCREEN);
-        SDL_Renderer *renderer = SDL_CreateRenderer(window, nullptr);
-        SDL_HideCursor();
-        MIX_Init();
-        MIX_Mixer *mixer = MIX_CreateMixerDevice(SDL_AUDIO_DEVICE_DEFAULT_PLAYBACK, nullptr);
-        SDL_Event event;
-        while (SDL_PollEvent(&event)) {
-        }
-        SDL_RenderClear(renderer);
-        SDL_RenderPresent(renderer);
-        Bench.SetIterationTime(clock.SecondsSince(start));
-        MIX_DestroyMixer(mixer);
-        MIX_Quit();
-        SDL_DestroyRenderer(renderer);
-        SDL_DestroyWindow(window);
-        SDL_Quit();
-    }
-}
-
-BENCHMARK(StartGame)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
-BENCHMARK(StartBareProgram)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
 
 } // namespace
+
+void RunOnce(const std::filesystem::path &Program, const PreparedHome &Home, const DrawingWay &Way) {
+    GameSession session(Program, {}, Way.Settings, &Home, Desk::Managed);
+    const bool isShown = session.WaitForWindow() && session.WaitForPicture(ShowsAnything);
+    if (!isShown || session.Close() != 0) {
+        throw std::runtime_error(
+            Program.string() + " did not start and end. It says:\n" + session.Program().Output());
+    }
+}
+
+void MeasureStarts(const DrawingWay &Way, int Count, Measurements &Results) {
+    std::printf("Starting the game and the bare program %d times each (%s) ...\n", 2 * Count, Way.Name);
+    const WatchedDisplay desk;
+    StartSeries firstGame(GameProgram, Way);
+    StartSeries firstBare(BareProgram, Way);
+    MeasureInTurn(std::string("FirstStart/") + Way.Name, firstGame, firstBare, Count, desk, Results);
+    StartSeries laterGame(GameProgram, Way);
+    StartSeries laterBare(BareProgram, Way);
+    laterGame.KeepHome();
+    laterBare.KeepHome();
+    MeasureInTurn(std::string("LaterStart/") + Way.Name, laterGame, laterBare, Count, desk, Results);
+}

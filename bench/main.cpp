@@ -1,45 +1,69 @@
+#include "bench/DrawBench.hpp"
+#include "bench/Measurements.hpp"
+#include "bench/Page.hpp"
+#include "bench/PlayBench.hpp"
+#include "bench/Programs.hpp"
+#include "bench/StartBench.hpp"
+#include "bench/Table.hpp"
+#include "tools/support/Files.hpp"
+
 #include <benchmark/benchmark.h>
 
-#include <array>
+#include <chrono>
 #include <cstdio>
-#include <map>
+#include <cstdlib>
+#include <exception>
+#include <set>
 #include <string>
+#include <string_view>
 #include <vector>
+
+// kestrel-bench [calls] [start] [play] [--starts=30] [--play-seconds=60] [--page=<file>], and the options of
+// Google Benchmark, which measures the calls: a filter of its own leaves out the other parts. Without a part
+// named all are measured; only then is there a page.
 
 namespace {
 
-/// Prints as usual and remembers each benchmark's time for the ratios at the end: processor time, so that
-/// other programs do not count, but for the start, where waiting for the display is part of it.
+struct Wishes {
+    std::set<std::string> Parts; ///< none for all
+    int Starts = 30;
+    int PlaySeconds = 60;
+    std::string Page; ///< where it is written; empty for nowhere
+
+    bool Has(const char *Part) const {
+        return Parts.empty() || Parts.contains(Part);
+    }
+};
+
+/// Prints as usual and remembers each benchmark's processor time, so that other programs do not count, and
+/// its counters.
 class RememberingReporter : public benchmark::ConsoleReporter {
 public:
+    explicit RememberingReporter(Measurements &Remembered) : Results(Remembered) {}
+
     void ReportRuns(const std::vector<Run> &Runs) override {
         ConsoleReporter::ReportRuns(Runs);
         for (const Run &run : Runs) {
-            const bool isStart = run.benchmark_name().find("manual_time") != std::string::npos;
-            Times[run.benchmark_name()] = isStart ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
+            if (run.GetAdjustedCPUTime() > 0.0) { // none after an error
+                Remember(run);
+            }
         }
     }
 
-    std::map<std::string, double> Times;
-};
+private:
+    void Remember(const Run &Done) {
+        std::string name = Done.run_name.function_name;
+        if (!Done.run_name.args.empty()) {
+            name.append("/").append(Done.run_name.args);
+        }
+        const std::string unit = benchmark::GetTimeUnitString(Done.time_unit);
+        Results[name] = {Done.GetAdjustedCPUTime(), unit};
+        for (const auto &[counter, value] : Done.counters) {
+            Results[std::string(name).append("/").append(counter)] = {value, unit};
+        }
+    }
 
-/// One figure of ours in terms of a bare one, and the most that it may be.
-struct Ratio {
-    const char *Words;
-    const char *Ours;
-    const char *Bare;
-    double Target;
-};
-
-constexpr std::array Ratios{
-    Ratio{"drawing at 1280x720", "DrawBusyFrame/1280", "PlayBackBareCalls/1280", 0.30},
-    Ratio{"drawing at 2560x720", "DrawBusyFrame/2560", "PlayBackBareCalls/2560", 0.30},
-    Ratio{"the HUD", "DrawHudFrame/1280", "PlayBackBareHudCalls/1280", 1.10},
-    Ratio{"the paused game", "DrawPausedFrame/1280", "PlayBackBarePausedCalls/1280", 0.54},
-    Ratio{"the main menu", "DrawMenuFrame/1280", "PlayBackBareMenuCalls/1280", 0.25},
-    Ratio{"start-up", "StartGame/iterations:20/manual_time", "StartBareProgram/iterations:20/manual_time",
-        1.25},
-    Ratio{"saving a busy run", "SaveBusyRun", "WriteSameBytes", 10.0},
+    Measurements &Results;
 };
 
 /// Whether no filter leaves out benchmarks.
@@ -48,47 +72,92 @@ bool AreAllWanted() {
     return filter.empty() || filter == "all" || filter == ".";
 }
 
-/// A benchmark's time; 0 if it failed, and if there is none of that name.
-double TimeOf(const std::map<std::string, double> &Times, const char *Name) {
-    const auto found = Times.find(Name);
-    return found != Times.end() ? found->second : 0.0;
-}
-
-/// Prints a ratio. False if it is above its target or could not be measured.
-bool CheckRatio(const Ratio &Ratio, const std::map<std::string, double> &Times) {
-    const double ours = TimeOf(Times, Ratio.Ours);
-    const double bare = TimeOf(Times, Ratio.Bare);
-    if (ours <= 0.0 || bare <= 0.0) {
-        std::printf("  %-20s not measured: it takes %s and %s\n", Ratio.Words, Ratio.Ours, Ratio.Bare);
+/// Reads the number behind a name such as "--starts=". False if the argument has another name, or no number.
+bool ReadNumber(std::string_view Argument, std::string_view Name, int &Out) {
+    if (!Argument.starts_with(Name)) {
         return false;
     }
-    const bool isKept = ours / bare <= Ratio.Target;
-    std::printf("  %-20s %.3f of the bare calls (target: at most %.2f%s)\n", Ratio.Words, ours / bare,
-        Ratio.Target, isKept ? "" : ", which is missed");
-    return isKept;
+    Out = std::atoi(std::string(Argument.substr(Name.size())).c_str());
+    return Out > 0;
 }
 
-/// Prints the ratios whose benchmarks were wanted, and tells whether all are within their targets.
-bool CheckRatios(const std::map<std::string, double> &Times) {
-    std::printf("\nOur share:\n");
-    bool areKept = true;
-    for (const Ratio &ratio : Ratios) {
-        if (AreAllWanted() || (Times.contains(ratio.Ours) && Times.contains(ratio.Bare))) {
-            areKept = CheckRatio(ratio, Times) && areKept;
+bool ReadWish(std::string_view Argument, Wishes &Out) {
+    constexpr std::string_view page = "--page=";
+    if (Argument.starts_with(page)) {
+        Out.Page = Argument.substr(page.size());
+        return true;
+    }
+    if (Argument == "calls" || Argument == "start" || Argument == "play") {
+        Out.Parts.emplace(Argument);
+        return true;
+    }
+    return ReadNumber(Argument, "--starts=", Out.Starts) ||
+           ReadNumber(Argument, "--play-seconds=", Out.PlaySeconds);
+}
+
+bool ReadWishes(const std::vector<std::string_view> &Arguments, Wishes &Out) {
+    for (const std::string_view argument : Arguments) {
+        if (!ReadWish(argument, Out)) {
+            std::fprintf(stderr, "kestrel-bench does not know %s\n", std::string(argument).c_str());
+            return false;
         }
     }
-    return areKept;
+    if (!AreAllWanted()) {
+        Out.Parts.emplace("calls");
+    }
+    if (!Out.Page.empty() && !Out.Parts.empty()) {
+        std::fputs("A page is only written of all figures.\n", stderr);
+        return false;
+    }
+    return true;
+}
+
+void MeasurePrograms(const Wishes &Wanted, const DrawingWay &Way, Measurements &Results) {
+    if (Wanted.Has("start")) {
+        MeasureStarts(Way, Wanted.Starts, Results);
+    }
+    if (Wanted.Has("play")) {
+        MeasurePlay(Way, std::chrono::seconds(Wanted.PlaySeconds), Results);
+    }
+}
+
+/// Measures what is wanted, prints it, and writes the page. False if a target was missed.
+bool MeasureAll(const Wishes &Wanted) {
+    const double load = LoadOfMachine();
+    Measurements results;
+    const bool hasOpenGl = (Wanted.Has("start") || Wanted.Has("play")) && CanDraw(OpenGl());
+    if (Wanted.Has("calls")) {
+        RememberingReporter reporter(results);
+        if (benchmark::RunSpecifiedBenchmarks(&reporter) == 0) {
+            return false;
+        }
+    }
+    MeasurePrograms(Wanted, Software(), results);
+    if (hasOpenGl) {
+        MeasurePrograms(Wanted, OpenGl(), results);
+    }
+    const bool isWhole = Wanted.Parts.empty();
+    const Table table = TableOf(results, {isWhole, hasOpenGl || !isWhole});
+    std::printf("\n%s", table.Text.c_str());
+    if (!Wanted.Page.empty()) {
+        WriteBytes(Wanted.Page, PageOf(table.Text, load, Wanted.Starts, Wanted.PlaySeconds));
+    }
+    return table.IsKept;
 }
 
 } // namespace
 
 int main(int ArgumentCount, char **Arguments) {
+    RegisterDrawBenches();
     benchmark::Initialize(&ArgumentCount, Arguments);
-    if (benchmark::ReportUnrecognizedArguments(ArgumentCount, Arguments)) {
-        return 1;
+    Wishes wishes;
+    if (!ReadWishes({Arguments + 1, Arguments + ArgumentCount}, wishes)) {
+        return EXIT_FAILURE;
     }
-    RememberingReporter reporter;
-    const bool areAny = benchmark::RunSpecifiedBenchmarks(&reporter) > 0;
-    const bool wereOnlyListed = areAny && reporter.Times.empty();
-    return wereOnlyListed || (areAny && CheckRatios(reporter.Times)) ? 0 : 1;
+    try {
+        return MeasureAll(wishes) ? EXIT_SUCCESS : EXIT_FAILURE;
+    } catch (const std::exception &failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return EXIT_FAILURE;
+    }
 }

@@ -96,18 +96,6 @@ testing::AssertionResult OpenedGame::KeepsFor(std::chrono::milliseconds Time, co
     return changed ? testing::AssertionFailure() << "the screen has changed" : testing::AssertionSuccess();
 }
 
-Sight ScreenIs(SeenScreen Screen) {
-    return [Screen](const Screenshot &Seen) {
-        return FindScreen(Seen) == Screen;
-    };
-}
-
-Sight MenuIs(SeenScreen Screen, int Rows, int Selected) {
-    return [wanted = SeenMenu{Screen, Rows, Selected}](const Screenshot &Seen) {
-        return FindMenu(Seen) == wanted;
-    };
-}
-
 Sight FiveRowMenu(int Selected) {
     return MenuIs(SeenScreen::MainMenu, 5, Selected);
 }

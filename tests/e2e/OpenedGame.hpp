@@ -2,7 +2,7 @@
 
 #include "tests/e2e/GameProgram.hpp"
 #include "tools/desktop/GameSession.hpp"
-#include "tools/desktop/MenuSight.hpp"
+#include "tools/desktop/Sights.hpp"
 #include "tools/desktop/WaitUntil.hpp"
 
 #include <chrono>
@@ -47,10 +47,7 @@ private:
     DesktopWindow Opened;
 };
 
-Sight ScreenIs(SeenScreen Screen);
-
-// A menu with its selected row, counted from 0. The main menu has five rows without a run and six with one.
-Sight MenuIs(SeenScreen Screen, int Rows, int Selected);
+// The main menu has five rows without a run and six with one; the selected row is counted from 0.
 Sight FiveRowMenu(int Selected);
 Sight SixRowMenu(int Selected);
 Sight PauseMenu(int Selected);

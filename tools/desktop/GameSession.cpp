@@ -16,7 +16,10 @@ constexpr const char *TitlePrefix = "Kestrel Volley";
 const std::vector<std::string> NeededNames{
     "PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS"};
 
-Environment PrivateEnvironment(const std::filesystem::path &Home, const std::string &DisplayName) {
+} // namespace
+
+Environment SessionEnvironment(
+    const std::filesystem::path &Home, const std::string &DisplayName, const Environment &Settings) {
     Environment variables = InheritedEnvironment(NeededNames);
     variables["HOME"] = Home.string();
     for (const auto &[name, folder] : std::initializer_list<std::pair<const char *, const char *>>{
@@ -39,20 +42,14 @@ Environment PrivateEnvironment(const std::filesystem::path &Home, const std::str
     variables["SDL_AUDIO_DRIVER"] = "dummy";
     // An allowance for a controller that does not exist shuts out all that do.
     variables["SDL_GAMECONTROLLER_IGNORE_DEVICES_EXCEPT"] = "0xFFFF/0xFFFF";
-    return variables;
-}
-
-Environment Joined(Environment Base, const Environment &Settings) {
     for (const auto &[name, value] : Settings) {
-        Base[name] = value;
+        variables[name] = value;
         if (value.empty()) {
-            Base.erase(name);
+            variables.erase(name);
         }
     }
-    return Base;
+    return variables;
 }
-
-} // namespace
 
 GameSession::GameSession(const std::filesystem::path &Program, ScreenSize Screen, const Environment &Settings,
     const PreparedHome *Prepared, Desk Kind)
@@ -60,7 +57,7 @@ GameSession::GameSession(const std::filesystem::path &Program, ScreenSize Screen
       UsedHome(Prepared == nullptr ? *OwnHome : *Prepared), Display(Screen), Client(Display.Name()),
       Manager(Kind == Desk::Managed ? std::make_unique<WindowManager>(Display.Name(), UsedHome.Path(), Client)
                                     : nullptr),
-      Game(Program, {}, Joined(PrivateEnvironment(UsedHome.Path(), Display.Name()), Settings)) {}
+      Game(Program, {}, SessionEnvironment(UsedHome.Path(), Display.Name(), Settings)) {}
 
 // One that is still there when nobody looks any more has nothing left to show, and its fade-out is not waited
 // for.

@@ -2,31 +2,34 @@
 
 #include "tools/desktop/ChildProcess.hpp"
 #include "tools/desktop/PreparedHome.hpp"
+#include "tools/desktop/Sights.hpp"
 #include "tools/desktop/VirtualDisplay.hpp"
 #include "tools/desktop/WindowManager.hpp"
 #include "tools/desktop/XClient.hpp"
 
 #include <chrono>
 #include <filesystem>
-#include <functional>
 #include <memory>
 #include <optional>
-
-// What a picture is asked for.
-using Sight = std::function<bool(const Screenshot &)>;
+#include <string>
 
 // Whether a window manager looks after the display. Without one a window stays as large as it was opened.
 enum class Desk { Bare, Managed };
+
+// The environment in which a session starts its program, in a home folder that exists: nothing of the
+// person's own, no sound, no controller, and SDL's own renderer. Settings come on top or replace these, or
+// take them away where they are empty.
+Environment SessionEnvironment(
+    const std::filesystem::path &Home, const std::string &DisplayName, const Environment &Settings);
 
 // The real game on a display of its own, with a home folder of its own: it finds no options, no saved run and
 // no controller of the person whose machine this is, makes no sound, and is drawn by SDL's own renderer. It
 // is killed with this record if it still runs.
 class GameSession {
 public:
-    // Starts the program. Settings are environment variables that come on top or replace ours, or take ours
-    // away where they are empty. Prepared is the home folder, which must outlive this record; without one it
-    // is a new, empty one. Throws std::runtime_error if the display, its window manager or the program cannot
-    // be started.
+    // Starts the program. Settings are environment variables, as above. Prepared is the home folder, which
+    // must outlive this record; without one it is a new, empty one. Throws std::runtime_error if the display,
+    // its window manager or the program cannot be started.
     GameSession(const std::filesystem::path &Program, ScreenSize Screen = {},
         const Environment &Settings = {}, const PreparedHome *Prepared = nullptr, Desk Kind = Desk::Bare);
     ~GameSession();

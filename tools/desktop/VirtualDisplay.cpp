@@ -7,6 +7,7 @@
 #include <optional>
 #include <sstream>
 #include <stdexcept>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -15,10 +16,19 @@ namespace {
 // ours to read already; the number is the one line there that holds digits only.
 constexpr const char *NumberDescriptor = "1";
 
-std::vector<std::string> ServerArguments(ScreenSize Size) {
+// With shared memory the server says its number in a line that begins so, before it listens.
+constexpr std::string_view MemoryLine = "screen 0 shmid ";
+
+std::vector<std::string> ServerArguments(ScreenSize Size, ScreenMemory Memory) {
     const std::string screen = std::to_string(Size.Width) + "x" + std::to_string(Size.Height) + "x24";
     // Without -noreset the server would start over whenever its last client leaves.
-    return {"-displayfd", NumberDescriptor, "-screen", "0", screen, "-nolisten", "tcp", "-noreset"};
+    std::vector<std::string> arguments{
+        "-displayfd", NumberDescriptor, "-screen", "0", screen, "-nolisten", "tcp", "-noreset"};
+    if (Memory == ScreenMemory::Shared) {
+        // The pointer is drawn into that memory, over what programs show.
+        arguments.insert(arguments.end(), {"-shmem", "-nocursor"});
+    }
+    return arguments;
 }
 
 bool IsNumber(const std::string &Line) {
@@ -40,8 +50,9 @@ std::optional<std::string> FindNumber(const std::string &Output) {
 
 } // namespace
 
-VirtualDisplay::VirtualDisplay(ScreenSize Size)
-    : Server("Xvfb", ServerArguments(Size), InheritedEnvironment({"PATH", "HOME", "TMPDIR"})) {
+VirtualDisplay::VirtualDisplay(ScreenSize Size, ScreenMemory Memory)
+    : Screen(Size),
+      Server("Xvfb", ServerArguments(Size, Memory), InheritedEnvironment({"PATH", "HOME", "TMPDIR"})) {
     std::optional<std::string> number;
     WaitUntil([&] {
         number = FindNumber(Server.Output());
@@ -55,4 +66,15 @@ VirtualDisplay::VirtualDisplay(ScreenSize Size)
 
 const std::string &VirtualDisplay::Name() const {
     return DisplayName;
+}
+
+ScreenSize VirtualDisplay::Size() const {
+    return Screen;
+}
+
+std::optional<int> VirtualDisplay::SharedMemory() const {
+    const std::string said = Server.Output();
+    const std::size_t line = said.find(MemoryLine);
+    return line != std::string::npos ? std::optional(std::stoi(said.substr(line + MemoryLine.size())))
+                                     : std::nullopt;
 }

@@ -14,7 +14,7 @@ inline constexpr std::chrono::milliseconds ShortRest{10};
 // Deadline; it is asked at least once, and once more after the time is up.
 template <typename Predicate>
 bool WaitUntil(Predicate IsTrue, std::chrono::milliseconds Deadline = PatientDeadline,
-    std::chrono::milliseconds Rest = ShortRest) {
+    std::chrono::microseconds Rest = ShortRest) {
     const auto end = std::chrono::steady_clock::now() + Deadline;
     while (std::chrono::steady_clock::now() < end) {
         if (IsTrue()) {
