@@ -14,7 +14,7 @@ help:
 	@echo 'make check    the daily loop: build the game, run all tests outside the window, lint what is new on this branch'
 	@echo 'make run      set up what is missing, build the game and play it (without a display: a short tour of it)'
 	@echo 'make test     set up what is missing and run everything: the game in its window, its rooms under sanitizers'
-	@echo 'make bench    measure drawing, stepping and saving, and the start, memory and pace of the real program'
+	@echo 'make bench    measure drawing, stepping, saving and reading, and the start, memory and pace of the real program'
 	@echo 'make fuzz     feed damaged files to each fuzz target for FUZZ_SECONDS ($(FUZZ_SECONDS))'
 	@echo 'make music    play the scores of tools/music into Music/ (the results are kept in the repository)'
 	@echo 'make install  install the game below PREFIX ($(PREFIX)); DESTDIR is honoured'

@@ -1,6 +1,7 @@
 #include "audio/MusicPatterns.hpp"
 
 #include "store/Paths.hpp"
+#include "store/PlainFile.hpp"
 #include "store/Words.hpp"
 
 #include <SDL3/SDL.h>
@@ -82,6 +83,15 @@ std::string ResolvePath(const std::string &Name, const std::string &FileName) {
     return path;
 }
 
+/// The music of a file, decoded as it plays; null with the reason as SDL's error.
+MIX_Audio *LoadMusic(MIX_Mixer *Mixer, const std::string &Path) {
+    if (IsOtherThanFile(Path)) {
+        SDL_SetError("%s is no regular file", Path.c_str());
+        return nullptr;
+    }
+    return MIX_LoadAudio(Mixer, Path.c_str(), false);
+}
+
 /// Appends the pattern of a section, or leaves it out: silently if it is switched off or has no name or file.
 void LoadPattern(const quillINI::IniDocument &Document, const std::string &Section, MusicRuntime &Runtime) {
     const auto read = [&](const char *Key, const std::string &Default) {
@@ -110,7 +120,7 @@ void LoadPattern(const quillINI::IniDocument &Document, const std::string &Secti
     if (pattern.ResolvedPath.empty()) {
         return;
     }
-    pattern.Audio = MIX_LoadAudio(Runtime.Mixer, pattern.ResolvedPath.c_str(), false); // decoded as it plays
+    pattern.Audio = LoadMusic(Runtime.Mixer, pattern.ResolvedPath);
     if (pattern.Audio == nullptr) {
         SDL_Log("MIX_LoadAudio failed for pattern '%s' (configured='%s', resolved='%s'): %s",
             pattern.Name.c_str(), fileName.c_str(), pattern.ResolvedPath.c_str(), SDL_GetError());

@@ -22,6 +22,10 @@ else()
         # A fused multiply-add rounds once where two operations round twice: with it, the same run would
         # come out differently from one optimisation level or processor to the next.
         -ffp-contract=off)
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "^(i[3-6]86|x86|x86_64|amd64|AMD64)$")
+        # The same goes for the old floating-point unit of 32-bit x86, which rounds later; sim/Step.cpp refuses it.
+        target_compile_options(compile_options INTERFACE -msse2 -mfpmath=sse)
+    endif()
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
         # This GCC sees overlapping copies in std::string's operator+ where there are none.
         target_compile_options(compile_options INTERFACE -Wno-restrict)

@@ -1,3 +1,4 @@
+#include "quillini/Model.hpp"
 #include "quillini/Text.hpp"
 #include "quillini/quillini.hpp"
 
@@ -15,45 +16,32 @@ namespace quillINI {
 
 namespace {
 
-IniEntry &ArrayToFill(IniSection &Section, std::string_view Key, bool HasIndex) {
-    const auto present = FindIniEntry(Section, Key);
-    if (present != Section.Entries.end()) {
-        return *present; // of whatever kind
-    }
-    IniEntry array;
-    array.Kind = IniEntryKind::Array;
-    array.Key = Key;
-    // NOT-BUGS: An array is marked as quoted if its first element came with an index
-    array.Quoted = HasIndex;
-    return Section.Entries.emplace_back(std::move(array));
-}
-
-std::int32_t NextIndexOf(const std::vector<IniEntry> &Elements) {
+std::int32_t NextIndexOf(const std::vector<IniEntry> &Elements, ElementNumbers &Known) {
     if (Elements.empty()) {
         return 0;
     }
-    std::int32_t largest = std::numeric_limits<std::int32_t>::min();
-    for (const IniEntry &element : Elements) {
-        largest = std::max(largest, NumberFromText(element.Key));
+    for (; Known.Count < Elements.size(); ++Known.Count) {
+        Known.Largest = std::max(Known.Largest, NumberFromText(Elements[Known.Count].Key));
     }
-    if (largest == std::numeric_limits<std::int32_t>::max()) {
+    if (Known.Largest == std::numeric_limits<std::int32_t>::max()) {
         throw std::out_of_range("No index is left behind the largest one!");
     }
-    return largest + 1;
+    return Known.Largest + 1;
 }
 
-void ReplaceElement(IniEntry &Element, std::string Value, bool Quoted, std::optional<std::string> Comment) {
-    Element.Value = std::move(Value);
+void ReplaceElement(
+    IniEntry &Element, std::string_view Value, bool Quoted, std::optional<std::string> Comment) {
+    Element.Value = Value;
     Element.Quoted = Quoted;
     Element.Comment = std::move(Comment);
 }
 
-void AppendElement(
-    IniEntry &Array, std::string Index, std::string Value, bool Quoted, std::optional<std::string> Comment) {
+void AppendElement(IniEntry &Array, std::string_view Index, std::string_view Value, bool Quoted,
+    std::optional<std::string> Comment) {
     IniEntry element;
     element.Kind = IniEntryKind::Value;
-    element.Key = std::move(Index);
-    element.Value = std::move(Value);
+    element.Key = Index;
+    element.Value = Value;
     // NOT-BUGS: A new element of an array without a comment is never marked as quoted
     element.Quoted = Comment.has_value() && Quoted;
     element.Comment = std::move(Comment);
@@ -73,19 +61,41 @@ void AddIniArrayElement(IniSection &Section, std::string_view Key, std::string_v
     bool HasComment, std::string_view Comment, std::string_view Index, bool HasIndex) {
     // Copied first: they may be texts of an entry that moves when another one is appended.
     std::string index(Index);
-    std::string value(Value);
+    const std::string value(Value);
     auto comment = HasComment ? std::optional<std::string>(Comment) : std::nullopt;
 
-    IniEntry &array = ArrayToFill(Section, Key, HasIndex);
+    IniEntry &array = ArrayToFill(Section, FindIniEntry(Section, Key), Key, HasIndex);
     if (!HasIndex) {
-        array.NextIndex = NextIndexOf(array.Elements);
-        index = std::to_string(array.NextIndex);
+        ElementNumbers none;
+        index = ChooseIndex(array, none);
     }
     const auto present = std::ranges::find(array.Elements, index, &IniEntry::Key);
-    if (present != array.Elements.end()) {
-        ReplaceElement(*present, std::move(value), Quoted, std::move(comment));
+    SetElement(array, present, index, value, Quoted, std::move(comment));
+}
+
+IniEntry &ArrayToFill(IniSection &Section, EntryPlace Present, std::string_view Key, bool HasIndex) {
+    if (Present != Section.Entries.end()) {
+        return *Present;
+    }
+    IniEntry array;
+    array.Kind = IniEntryKind::Array;
+    array.Key = Key;
+    // NOT-BUGS: An array is marked as quoted if its first element came with an index
+    array.Quoted = HasIndex;
+    return Section.Entries.emplace_back(std::move(array));
+}
+
+std::string ChooseIndex(IniEntry &Array, ElementNumbers &Known) {
+    Array.NextIndex = NextIndexOf(Array.Elements, Known);
+    return std::to_string(Array.NextIndex);
+}
+
+void SetElement(IniEntry &Array, EntryPlace Present, std::string_view Index, std::string_view Value,
+    bool Quoted, std::optional<std::string> Comment) {
+    if (Present != Array.Elements.end()) {
+        ReplaceElement(*Present, Value, Quoted, std::move(Comment));
     } else {
-        AppendElement(array, std::move(index), std::move(value), Quoted, std::move(comment));
+        AppendElement(Array, Index, Value, Quoted, std::move(Comment));
     }
 }
 

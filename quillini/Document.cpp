@@ -47,9 +47,10 @@ const IniSection &IniSectionAt(const IniDocument &Document, std::ptrdiff_t Index
 
 IniSection &SectionToFill(IniDocument &Document, std::string_view Name) {
     const auto present = FindIniSection(Document, Name);
-    if (present != Document.Sections.end()) {
-        return *present;
-    }
+    return present != Document.Sections.end() ? *present : AppendSection(Document, Name);
+}
+
+IniSection &AppendSection(IniDocument &Document, std::string_view Name) {
     IniSection section;
     section.Name = Name;
     return Document.Sections.emplace_back(std::move(section));

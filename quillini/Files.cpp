@@ -53,26 +53,32 @@ template <class Stream> Stream PlainStream() {
     return stream;
 }
 
-} // namespace
-
-std::ifstream OpenToRead(std::string_view Path) {
-    auto file = PlainStream<std::ifstream>();
-    const std::optional<std::filesystem::path> path = NativePath(Path);
+/// Whether a path leads to something that is no regular file. To open a pipe can wait for ever, a device need
+/// not end, and some systems open a folder like a file of the largest size there is.
+bool IsOtherThanFile(const std::filesystem::path &Path) {
     std::error_code ignored;
-    // Some systems open a folder like a file, and then give it the largest size there is.
-    if (path && !std::filesystem::is_directory(*path, ignored)) {
+    const std::filesystem::file_status status = std::filesystem::status(Path, ignored);
+    return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
+}
+
+/// The file of a UTF-8 path, open in the stream's own direction unless that failed.
+template <class Stream> Stream OpenFile(std::string_view Path) {
+    auto file = PlainStream<Stream>();
+    const std::optional<std::filesystem::path> path = NativePath(Path);
+    if (path && !IsOtherThanFile(*path)) {
         file.open(*path, std::ios::binary);
     }
     return file;
 }
 
+} // namespace
+
+std::ifstream OpenToRead(std::string_view Path) {
+    return OpenFile<std::ifstream>(Path);
+}
+
 std::ofstream OpenToWrite(std::string_view Path) {
-    auto file = PlainStream<std::ofstream>();
-    const std::optional<std::filesystem::path> path = NativePath(Path);
-    if (path) {
-        file.open(*path, std::ios::binary);
-    }
-    return file;
+    return OpenFile<std::ofstream>(Path);
 }
 
 } // namespace quillINI

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,9 @@ constexpr std::string_view NoSeparator = "No \"=\" or \":\" sign found!\n";
 constexpr std::string_view TagInKey = "Start section tag within key tag!\n";
 constexpr std::string_view TagEndInKey = "Close section tag within key tag!\n";
 constexpr std::string_view CommentInKey = "Found comment tag within key tag!\n";
+
+/// From so many elements on, what the reader knows of an array is kept.
+constexpr std::size_t LongArray = 8;
 
 enum class KeyForm : std::uint8_t {
     Plain,
@@ -85,28 +89,40 @@ std::string CollectName(std::string_view Line, char Separator, KeyForm Form, std
     return name;
 }
 
-void StoreValue(IniSection &Section, std::string_view Name, const ScannedValue &Scanned) {
-    SetIniEntryComment(AddIniValue(Section, Name, Scanned.Value, Scanned.Quoted), Scanned.Comment);
+void StoreValue(ReadState &State, std::string_view Name, const ScannedValue &Scanned) {
+    const CurrentSection current = SectionToFill(State);
+    IniEntry &entry =
+        SetValue(current.Section, FindEntry(current, Name), Name, Scanned.Value, Scanned.Quoted);
+    SetIniEntryComment(entry, Scanned.Comment);
 }
 
-void StoreElement(IniSection &Section, std::string_view Name, const ScannedValue &Scanned,
-    std::string_view Index, bool HasIndex) {
-    AddIniArrayElement(Section, Name, Scanned.Value, Scanned.Quoted, !Scanned.Comment.empty(),
-        Scanned.Comment, Index, HasIndex);
+void StoreElement(ReadState &State, std::string_view Name, const ScannedValue &Scanned,
+    const std::optional<std::string> &Index) {
+    const CurrentSection current = SectionToFill(State);
+    IniEntry &array = ArrayToFill(current.Section, FindEntry(current, Name), Name, Index.has_value());
+    const auto place = static_cast<std::size_t>(&array - current.Section.Entries.data());
+    // For a short array this is quickly made anew; for thousands of them it would take more room than they
+    // do.
+    ElementIndex ofShortArray;
+    ElementIndex &elements =
+        array.Elements.size() < LongArray ? ofShortArray : State.Elements[{current.Place, place}];
+    const EntryPlace present =
+        Index ? elements.Keys.Find(array.Elements, &IniEntry::Key, *Index) : array.Elements.end();
+    SetElement(array, present, Index ? *Index : ChooseIndex(array, elements.Numbers), Scanned.Value,
+        Scanned.Quoted, CommentOrNone(Scanned.Comment));
 }
 
-void Store(
-    IniSection &Section, std::string_view Name, const ScannedValue &Scanned, std::string_view KeyText) {
+void Store(ReadState &State, std::string_view Name, const ScannedValue &Scanned, std::string_view KeyText) {
     switch (FormOf(KeyText)) {
     case KeyForm::NextElement:
-        StoreElement(Section, Name, Scanned, "", false);
+        StoreElement(State, Name, Scanned, std::nullopt);
         break;
     case KeyForm::IndexedElement:
-        StoreElement(Section, Name, Scanned, IndexOf(KeyText), true);
+        StoreElement(State, Name, Scanned, IndexOf(KeyText));
         break;
     case KeyForm::Plain:
     default:
-        StoreValue(Section, Name, Scanned);
+        StoreValue(State, Name, Scanned);
     }
 }
 
@@ -127,7 +143,7 @@ void ReadKeyLine(ReadState &State, std::string_view Line) {
     const ScannedValue scanned = ScanValue(Line.substr(separatorAt + 1), State.Error);
     if (State.Error.empty()) {
         State.HasLookalikes = State.HasLookalikes || name.starts_with(ReservedPrefix);
-        Store(SectionToFill(State.Document, State.Section), name, scanned, keyText);
+        Store(State, name, scanned, keyText);
     }
 }
 

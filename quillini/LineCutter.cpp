@@ -21,8 +21,7 @@ constexpr std::string_view EscapeBegin = "\\x";
 struct LineCutter {
     std::string_view Text;
     std::size_t Index = 0;
-    std::string Line;
-    std::vector<std::string> Lines;
+    CutText Cut;
 };
 
 /// The hex digits before any other character, at most four.
@@ -67,16 +66,16 @@ std::uint32_t ReadSecondEscape(std::string_view Text) {
 void FinishEscape(LineCutter &Cutter, std::uint32_t Value) {
     const std::string_view rest = Cutter.Text.substr(Cutter.Index);
     if (!rest.starts_with(EscapeBegin)) {
-        Cutter.Line += EncodeCodePointUtf8(Value);
+        Cutter.Cut.Text += EncodeCodePointUtf8(Value);
         return;
     }
     // NOT-BUGS: An escape right behind another one ends the program if it has not all four digits
     const std::uint32_t second = ReadSecondEscape(rest);
     if (!IsHighSurrogate(Value)) {
-        Cutter.Line += EncodeCodePointUtf8(Value);
+        Cutter.Cut.Text += EncodeCodePointUtf8(Value);
         return;
     }
-    Cutter.Line += EncodeCodePointUtf8(CodePointOfPair(Value, second));
+    Cutter.Cut.Text += EncodeCodePointUtf8(CodePointOfPair(Value, second));
     Cutter.Index += EscapeBegin.size() + DigitsOfEscape;
 }
 
@@ -85,8 +84,8 @@ void TakeEscape(LineCutter &Cutter) {
     const EscapeDigits digits = ReadDigits(Cutter.Text.substr(begin));
     Cutter.Index = begin + digits.Count;
     if (digits.Count < DigitsOfEscape) { // no escape: it loses its backslash
-        Cutter.Line += 'x';
-        Cutter.Line += Cutter.Text.substr(begin, digits.Count);
+        Cutter.Cut.Text += 'x';
+        Cutter.Cut.Text += Cutter.Text.substr(begin, digits.Count);
         return;
     }
     FinishEscape(Cutter, digits.Value);
@@ -100,14 +99,14 @@ void TakeBackslash(LineCutter &Cutter) {
     }
     if (pair.size() == 2) { // as the last byte it is dropped
         // NOT-BUGS: A backslash at the end of a line takes the line break with it
-        Cutter.Line += pair;
+        Cutter.Cut.Text += pair;
     }
     Cutter.Index += pair.size();
 }
 
 void EndLine(LineCutter &Cutter) {
-    Cutter.Line += '\n';
-    Cutter.Lines.push_back(std::exchange(Cutter.Line, {}));
+    Cutter.Cut.Text += '\n';
+    Cutter.Cut.LineEnds.push_back(Cutter.Cut.Text.size());
 }
 
 void TakeCarriageReturn(LineCutter &Cutter) {
@@ -132,23 +131,25 @@ void TakeNext(LineCutter &Cutter) {
         TakeBackslash(Cutter);
         break;
     default:
-        Cutter.Line += character;
+        Cutter.Cut.Text += character;
         ++Cutter.Index;
     }
 }
 
 } // namespace
 
-std::vector<std::string> CutLines(std::string_view Text) {
+CutText CutLines(std::string_view Text) {
     LineCutter cutter;
     cutter.Text = Text;
+    cutter.Cut.Text.reserve(Text.size() + 1); // no line becomes longer but the last one
     while (cutter.Index < Text.size()) {
         TakeNext(cutter);
     }
-    if (!cutter.Line.empty()) {
+    const std::vector<std::size_t> &ends = cutter.Cut.LineEnds;
+    if (cutter.Cut.Text.size() > (ends.empty() ? 0 : ends.back())) {
         EndLine(cutter);
     }
-    return std::move(cutter.Lines);
+    return std::move(cutter.Cut);
 }
 
 } // namespace quillINI

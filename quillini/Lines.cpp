@@ -65,12 +65,6 @@ void InsertLine(
     }
 }
 
-void AppendLine(IniSection &Section, IniEntry Line, bool KeyMayBeTaken) {
-    if (!KeyMayBeTaken || !IsTaken(Section, Line.Key)) {
-        Section.Entries.push_back(std::move(Line));
-    }
-}
-
 } // namespace
 
 void AddIniComment(IniSection &Section, std::string_view Key, std::string_view Text,
@@ -85,22 +79,20 @@ void AddIniEmptyLine(
     InsertLine(Section, EmptyLine(Key), Position, ReferenceKey);
 }
 
-void AppendComment(IniSection &Section, std::string_view Text, bool KeyMayBeTaken) {
+IniEntry NextComment(IniSection &Section, std::string_view Text) {
     ++Section.CommentCount;
-    const std::string key = std::string(CommentKey) + std::to_string(Section.CommentCount);
-    AppendLine(Section, CommentLine(key, Text), KeyMayBeTaken);
+    return CommentLine(std::string(CommentKey) + std::to_string(Section.CommentCount), Text);
 }
 
-void AppendEmptyLine(IniSection &Section, bool KeyMayBeTaken) {
+IniEntry NextEmptyLine(IniSection &Section) {
     ++Section.EmptyLineCount;
-    const std::string key = std::string(EmptyLineKey) + std::to_string(Section.EmptyLineCount);
-    AppendLine(Section, EmptyLine(key), KeyMayBeTaken);
+    return EmptyLine(std::string(EmptyLineKey) + std::to_string(Section.EmptyLineCount));
 }
 
 void AppendIniEmptyLine(IniDocument &Document, std::string_view SectionName) {
     const auto section = FindIniSection(Document, SectionName.empty() ? IniGlobalSection : SectionName);
     if (section != Document.Sections.end()) {
-        AppendEmptyLine(*section, true);
+        InsertLine(*section, NextEmptyLine(*section), IniInsertPosition::Back, {});
     }
 }
 

@@ -1,11 +1,23 @@
 #pragma once
 
+#include "quillini/Model.hpp"
+#include "quillini/NameIndex.hpp"
 #include "quillini/quillini.hpp"
 
+#include <cstddef>
+#include <map>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace quillINI {
+
+/// What the reader keeps beside an array's elements.
+struct ElementIndex {
+    NameIndex Keys;
+    ElementNumbers Numbers;
+};
 
 /// What the lines of a file share while they are read.
 struct ReadState {
@@ -15,10 +27,29 @@ struct ReadState {
     /// The words of all syntax errors of a line, empty without one; reading stops behind that line.
     std::string Error;
     /// Whether a key of the document may begin like a reserved one. While none does, a comment or blank line
-    /// need not be compared with all entries before it, which would take minutes for a file of nothing but
-    /// line ends.
+    /// need not be looked for.
     bool HasLookalikes = false;
+
+    // Beside the lists of the document, so that no line is compared with all before it: a file of ten
+    // megabytes would take minutes.
+    NameIndex Sections;
+    std::vector<NameIndex> Entries; ///< by the place of their section
+    /// By the places of their section and of their array in it.
+    std::map<std::pair<std::size_t, std::size_t>, ElementIndex> Elements;
 };
+
+/// The section that is being filled.
+struct CurrentSection {
+    IniSection &Section;
+    NameIndex &Keys;
+    std::size_t Place; ///< in the document
+};
+
+/// The current section, appended to the document if it is absent.
+CurrentSection SectionToFill(ReadState &State);
+
+/// The entry of that key in the section.
+EntryPlace FindEntry(const CurrentSection &Current, std::string_view Key);
 
 /// The text of a comment without one leading blank and without the line feed at its end. Rest is what stands
 /// behind the comment character.

@@ -5,11 +5,12 @@
 #include "quillini/quillini.hpp"
 
 #include <algorithm>
+#include <cstddef>
 #include <iostream>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 namespace quillINI {
 
@@ -30,13 +31,21 @@ bool HasEntries(const IniDocument &Document) {
     });
 }
 
+/// Appends a comment or blank line, unless a key has swallowed it.
+void AppendLine(const CurrentSection &Current, IniEntry Line, bool KeyMayBeTaken) {
+    if (!KeyMayBeTaken || FindEntry(Current, Line.Key) == Current.Section.Entries.end()) {
+        Current.Section.Entries.push_back(std::move(Line));
+    }
+}
+
 void ReadLine(ReadState &State, std::string_view Line) {
     const std::string_view text = WithoutLeadingSpace(Line);
     if (text.empty()) {
-        AppendEmptyLine(SectionToFill(State.Document, State.Section), State.HasLookalikes);
+        const CurrentSection current = SectionToFill(State);
+        AppendLine(current, NextEmptyLine(current.Section), State.HasLookalikes);
     } else if (text.front() == ';' || text.front() == '#') {
-        AppendComment(
-            SectionToFill(State.Document, State.Section), CommentText(text.substr(1)), State.HasLookalikes);
+        const CurrentSection current = SectionToFill(State);
+        AppendLine(current, NextComment(current.Section, CommentText(text.substr(1))), State.HasLookalikes);
     } else if (text.front() == '[') {
         ReadSectionTag(State, text.substr(1));
     } else {
@@ -45,18 +54,20 @@ void ReadLine(ReadState &State, std::string_view Line) {
 }
 
 // NOT-BUGS: A syntax error in an INI file ends the reading and is a success
-void ReadLines(ReadState &State, const std::vector<std::string> &Lines) {
-    for (const std::string &line : Lines) {
+void ReadLines(ReadState &State, const CutText &Cut) {
+    std::size_t begin = 0;
+    for (const std::size_t end : Cut.LineEnds) {
         if (!State.Error.empty()) {
             PrintSyntaxError(State.Error);
             return;
         }
-        ReadLine(State, line);
+        ReadLine(State, std::string_view(Cut.Text).substr(begin, end - begin));
+        begin = end;
     }
     if (!State.Error.empty()) {
         PrintSyntaxError(State.Error);
     }
-    SectionToFill(State.Document, State.Section); // a last tag with nothing behind it makes a section, too
+    SectionToFill(State); // a last tag with nothing behind it makes a section, too
 }
 
 } // namespace
@@ -72,15 +83,20 @@ std::string_view CommentText(std::string_view Rest) {
 }
 
 bool ReadIniFile(IniDocument &Document, std::string_view Path) {
-    const std::optional<std::string> text = ReadDecodedFile(Path);
+    std::optional<std::string> text = ReadDecodedFile(Path);
     if (!text) {
         return false;
     }
+    const CutText cut = CutLines(*text);
+    text.reset(); // so that a large file is not in memory twice while its lines are read
     ReadState state{.Document = Document,
         .Section = std::string(IniGlobalSection),
         .Error = {},
-        .HasLookalikes = HasEntries(Document)}; // those may have any keys
-    ReadLines(state, CutLines(*text));
+        .HasLookalikes = HasEntries(Document), // those may have any keys
+        .Sections = {},
+        .Entries = {},
+        .Elements = {}};
+    ReadLines(state, cut);
     return true;
 }
 

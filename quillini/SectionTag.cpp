@@ -1,4 +1,3 @@
-#include "quillini/Model.hpp"
 #include "quillini/ReadState.hpp"
 #include "quillini/quillini.hpp"
 
@@ -36,8 +35,7 @@ void ReadSectionTag(ReadState &State, std::string_view Rest) {
         case ';':
         case '#':
             if (closed) {
-                SetIniSectionComment(
-                    SectionToFill(State.Document, State.Section), CommentText(Rest.substr(i + 1)));
+                SetIniSectionComment(SectionToFill(State).Section, CommentText(Rest.substr(i + 1)));
             } else {
                 endTag(CommentInTag);
             }

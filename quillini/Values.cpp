@@ -17,10 +17,6 @@ IniEntry &AppendValue(IniSection &Section, std::string_view Key) {
     return Section.Entries.emplace_back(std::move(entry));
 }
 
-std::optional<std::string> CommentOrNone(std::string_view Text) {
-    return Text.empty() ? std::nullopt : std::optional<std::string>(Text);
-}
-
 } // namespace
 
 std::string GetIniValue(
@@ -47,13 +43,21 @@ void SetIniString(
 }
 
 IniEntry &AddIniValue(IniSection &Section, std::string_view Key, std::string_view Value, bool Quoted) {
+    return SetValue(Section, FindIniEntry(Section, Key), Key, Value, Quoted);
+}
+
+IniEntry &SetValue(
+    IniSection &Section, EntryPlace Present, std::string_view Key, std::string_view Value, bool Quoted) {
     std::string value(Value); // may be a text of an entry that moves when another one is appended
-    const auto present = FindIniEntry(Section, Key);
     // A present entry keeps its kind: an array stays one, and so does a comment.
-    IniEntry &entry = present == Section.Entries.end() ? AppendValue(Section, Key) : *present;
+    IniEntry &entry = Present == Section.Entries.end() ? AppendValue(Section, Key) : *Present;
     entry.Value = std::move(value);
     entry.Quoted = Quoted;
     return entry;
+}
+
+std::optional<std::string> CommentOrNone(std::string_view Text) {
+    return Text.empty() ? std::nullopt : std::optional<std::string>(Text);
 }
 
 void SetIniEntryComment(IniEntry &Entry, std::string_view Text) {

@@ -11,8 +11,9 @@
 
 /// INI files that keep what a person wrote: the order of sections and entries, comments, blank lines, quotes.
 /// All text in memory is UTF-8, and so are paths. Lookups compare exact bytes and walk the lists from the
-/// front: documents are small. References and iterators into a list live until a section or an entry is added
-/// to it.
+/// front: documents are small. Only ReadIniFile has an index of names while it reads, so that its time grows
+/// with the length of a file alone. References and iterators into a list live until a section or an entry is
+/// added to it.
 namespace quillINI {
 
 /// The section of everything that stands before the first section tag.
@@ -162,15 +163,16 @@ void AppendIniEmptyLine(IniDocument &Document, std::string_view SectionName);
 /// The non-empty pieces between any characters of Delimiters, or the whole text if there is none.
 std::vector<std::string> SplitAny(std::string_view Text, std::string_view Delimiters);
 
-/// Adds a file to a document; messages go to standard output. False, with the document as it was, if the file
-/// cannot be opened or has under 6 bytes. A syntax error ends the reading and still gives true. Throws
-/// std::range_error for invalid UTF-16 or UTF-32, std::runtime_error for an invalid unicode escape, and what
-/// AddIniArrayElement throws.
+/// Adds a file to a document; messages go to standard output. False, with the document as it was, if there is
+/// no regular file that can be opened, or it has under 6 bytes. A syntax error ends the reading and still
+/// gives true. Throws std::range_error for invalid UTF-16 or UTF-32, std::runtime_error for an invalid
+/// unicode escape, and what AddIniArrayElement throws.
 bool ReadIniFile(IniDocument &Document, std::string_view Path);
 
 /// Writes a document over a file; Spaced puts blanks around separators and before comments, and blank lines
-/// between sections. False, after a message on standard output, if it cannot be opened; later failures of the
-/// disk are not seen. Throws what EscapeIniText and WriteIniEncoded throw, with part of the file written.
+/// between sections. False, after a message on standard output, if it cannot be opened or is no regular file;
+/// later failures of the disk are not seen. Throws what EscapeIniText and WriteIniEncoded throw, with part of
+/// the file written.
 bool WriteIniFile(const IniDocument &Document, std::string_view Path, bool Spaced, IniEncoding Encoding);
 
 /// Writes UTF-8 text in an encoding, without a byte order mark; nothing for a value that is no encoding.

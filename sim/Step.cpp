@@ -21,6 +21,11 @@
 #include "state/SaveRequest.hpp"
 
 #include <algorithm>
+#include <cfloat>
+
+// Each operation on floats has to round to a float, or the same run comes out differently than elsewhere: the
+// old floating-point unit of 32-bit x86 keeps more digits in between. cmake/Compile.cmake chooses the newer.
+static_assert(FLT_EVAL_METHOD == 0, "floats must be evaluated as floats, on 32-bit x86 by SSE2");
 
 namespace {
 

@@ -1,5 +1,7 @@
 #include "store/PlainFile.hpp"
 
+#include <SDL3/SDL.h>
+
 #ifdef _WIN32
 
 #define WIN32_LEAN_AND_MEAN
@@ -18,17 +20,30 @@ std::wstring ToUtf16(const std::string &Text) {
     return wide;
 }
 
-} // namespace
-
-PlainFile OpenPlainFile(const std::string &Path, const char *Mode) {
+std::FILE *OpenFile(const std::string &Path, const char *Mode) {
     const std::wstring path = ToUtf16(Path);
-    return PlainFile(path.empty() ? nullptr : _wfopen(path.c_str(), ToUtf16(Mode).c_str()));
+    return path.empty() ? nullptr : _wfopen(path.c_str(), ToUtf16(Mode).c_str());
 }
+
+} // namespace
 
 #else
 
-PlainFile OpenPlainFile(const std::string &Path, const char *Mode) {
-    return PlainFile(std::fopen(Path.c_str(), Mode));
+namespace {
+
+std::FILE *OpenFile(const std::string &Path, const char *Mode) {
+    return std::fopen(Path.c_str(), Mode);
 }
 
+} // namespace
+
 #endif
+
+bool IsOtherThanFile(const std::string &Path) {
+    SDL_PathInfo info;
+    return SDL_GetPathInfo(Path.c_str(), &info) && info.type != SDL_PATHTYPE_FILE;
+}
+
+PlainFile OpenPlainFile(const std::string &Path, const char *Mode) {
+    return PlainFile(IsOtherThanFile(Path) ? nullptr : OpenFile(Path, Mode));
+}

@@ -5,7 +5,7 @@ struct GameState;
 inline constexpr const char *SaveStateFileName = "SaveState.bin";
 
 /// Writes the high score and the run, if there is one, to the save state. False if it did not reach the
-/// user's storage; the old file may be lost then.
+/// user's storage: the old file stays, unless it was storage that failed while it wrote over it.
 bool WriteSaveState(const GameState &State);
 
 /// Reads the save state. First HighScore and SaveDelay become 0, HasRunState and SaveRequested false. If

@@ -1,6 +1,7 @@
 #include "store/Storage.hpp"
 
 #include "store/Identity.hpp"
+#include "store/PlainFile.hpp"
 
 #include <memory>
 
@@ -24,6 +25,12 @@ using StorageHandle = std::unique_ptr<SDL_Storage, StorageClose>;
 
 StorageHandle OpenUserStorage() {
     return StorageHandle(SDL_OpenUserStorage(Organisation, Application, 0));
+}
+
+/// Whether storage has something that is no regular file in the place of one.
+bool IsOtherThanFile(SDL_Storage *Storage, const std::string &Name) {
+    SDL_PathInfo info;
+    return SDL_GetStoragePathInfo(Storage, Name.c_str(), &info) && info.type != SDL_PATHTYPE_FILE;
 }
 
 } // namespace
@@ -51,7 +58,7 @@ bool CopyStorageFile(SDL_Storage *Storage, const char *Name, const std::string &
     const auto size = static_cast<std::size_t>(info.size);
     const SdlMemory data(SDL_calloc(size, 1));
     return data && SDL_ReadStorageFile(Storage, Name, data.get(), info.size) &&
-           SDL_SaveFile(StagingPath.c_str(), data.get(), size);
+           !IsOtherThanFile(StagingPath) && SDL_SaveFile(StagingPath.c_str(), data.get(), size);
 }
 
 bool CopyUserStorageFile(const std::string &Name, const std::string &StagingPath) {
@@ -68,7 +75,7 @@ bool CopyTitleStorageFile(const std::string &Path, const std::string &StagingPat
 }
 
 bool WriteUserStorageFile(const std::string &Name, const std::string &StagingPath) {
-    if (Name.empty()) {
+    if (Name.empty() || IsOtherThanFile(StagingPath)) {
         return false;
     }
     std::size_t size = 0;
@@ -77,6 +84,6 @@ bool WriteUserStorageFile(const std::string &Name, const std::string &StagingPat
         return false;
     }
     const StorageHandle storage = OpenUserStorage();
-    return storage && WaitForStorage(storage.get()) &&
+    return storage && WaitForStorage(storage.get()) && !IsOtherThanFile(storage.get(), Name) &&
            SDL_WriteStorageFile(storage.get(), Name.c_str(), data.get(), size);
 }

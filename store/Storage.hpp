@@ -6,7 +6,8 @@
 
 // Storage files as plain ones: our readers and writers know only plain files, so a staging file stands
 // between. Storage is opened anew for each operation. All give false if any step fails, and log nothing; the
-// callers have their own words. StagingPath is the path of a plain file, in UTF-8.
+// callers have their own words. StagingPath is the path of a plain file, in UTF-8. What is no regular file is
+// not opened, on neither side.
 
 /// Waits until a storage can be used, at most 2 seconds; then false, with the reason as SDL's error.
 bool WaitForStorage(SDL_Storage *Storage);

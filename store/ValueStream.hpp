@@ -39,8 +39,8 @@ enum class ValueTag : std::uint8_t {
 /// Writes a stream to a file. It checks nothing and does not know how deep it is: the caller balances End.
 class ValueStreamWriter {
 public:
-    /// Opens a file in place of what was there. False after a line on standard error.
-    bool Open(const std::string &Path);
+    /// Opens a regular file in place of what was there. False after a line on standard error.
+    bool Open(const std::string &NewPath);
 
     void BeginObject();
     void BeginArray();
@@ -51,13 +51,18 @@ public:
     void WriteInt64(std::int64_t Value);
     void WriteDouble(double Value);
 
-    void Close();
+    /// Closes the open file. False, after the line of Open, unless every byte has reached it.
+    bool Close();
 
 private:
+    bool TellFailure() const;
     void WriteTag(ValueTag Tag);
     template <typename Number> void WriteNumber(Number Value);
+    void WriteBytes(const void *Bytes, std::size_t Size);
 
     PlainFile File;
+    std::string Path;
+    bool IsWhole = true; ///< no write has failed
 };
 
 struct ValueToken {
@@ -73,7 +78,8 @@ struct ValueToken {
 /// and every walk ends there.
 class ValueStreamReader {
 public:
-    /// Reads the whole file. False after a line on standard error if it cannot be opened.
+    /// Reads the whole file. False after a line on standard error if it cannot be opened or is no regular
+    /// one.
     bool Load(const std::string &Path);
 
     /// The next token and its value; tag None at the end of the data and for damage.

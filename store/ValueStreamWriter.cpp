@@ -3,13 +3,11 @@
 #include <array>
 #include <bit>
 
-bool ValueStreamWriter::Open(const std::string &Path) {
+bool ValueStreamWriter::Open(const std::string &NewPath) {
+    Path = NewPath;
+    IsWhole = true;
     File = OpenPlainFile(Path, "wb");
-    if (!File) {
-        std::fprintf(stderr, "Unable to write file: %s\n", Path.c_str());
-        return false;
-    }
-    return true;
+    return File != nullptr || TellFailure();
 }
 
 void ValueStreamWriter::BeginObject() {
@@ -27,7 +25,7 @@ void ValueStreamWriter::End() {
 void ValueStreamWriter::WriteKey(std::string_view Text) {
     WriteTag(ValueTag::String);
     WriteNumber(static_cast<std::uint32_t>(Text.size()));
-    std::fwrite(Text.data(), 1, Text.size(), File.get());
+    WriteBytes(Text.data(), Text.size());
 }
 
 void ValueStreamWriter::WriteBool(bool Value) {
@@ -50,8 +48,15 @@ void ValueStreamWriter::WriteDouble(double Value) {
     WriteNumber(std::bit_cast<std::uint64_t>(Value));
 }
 
-void ValueStreamWriter::Close() {
-    File.reset();
+bool ValueStreamWriter::Close() {
+    const bool isClosed = std::fclose(File.release()) == 0; // writes what was still held back
+    return (IsWhole && isClosed) || TellFailure();
+}
+
+/// Says that the file could not be written; always false.
+bool ValueStreamWriter::TellFailure() const {
+    std::fprintf(stderr, "Unable to write file: %s\n", Path.c_str());
+    return false;
 }
 
 void ValueStreamWriter::WriteTag(ValueTag Tag) {
@@ -63,5 +68,9 @@ template <typename Number> void ValueStreamWriter::WriteNumber(Number Value) {
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         bytes[i] = static_cast<unsigned char>(Value >> (8 * i));
     }
-    std::fwrite(bytes.data(), 1, bytes.size(), File.get());
+    WriteBytes(bytes.data(), bytes.size());
+}
+
+void ValueStreamWriter::WriteBytes(const void *Bytes, std::size_t Size) {
+    IsWhole = std::fwrite(Bytes, 1, Size, File.get()) == Size && IsWhole;
 }

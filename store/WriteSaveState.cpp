@@ -96,7 +96,6 @@ bool WriteSaveState(const GameState &State) {
             return false;
         }
         WriteRoot(writer, State);
-        writer.Close();
-        return true;
+        return writer.Close();
     });
 }

@@ -2,6 +2,8 @@
 
 #include "state/LogicalScreen.hpp"
 #include "state/Resolutions.hpp"
+#include "tests/support/FileSizeLimit.hpp"
+#include "tests/support/SpecialFiles.hpp"
 #include "tests/support/watch/FakeDisplays.hpp"
 #include "text/Localization.hpp"
 
@@ -118,6 +120,65 @@ TEST_F(StartUpFiles, AQuitWithinTheDelayLeavesTheOldSave) {
     State.SaveDelay = 0.5F;
     Stop();
     EXPECT_EQ(Contents("SaveState.bin"), before);
+}
+
+TEST_F(StartUpFiles, ASaveWithoutRoomOnTheDiskLeavesTheOldOneAndIsTriedAgainAfterASecond) {
+    Visit();
+    const std::string before = Contents("SaveState.bin");
+    Start();
+    ShowWithoutWaiting(ScreenMainMenu);
+    State.HighScore = 1000;
+    State.SaveRequested = true;
+    State.SaveDelay = 0.0F;
+    const LogCatcher log;
+    {
+        const FileSizeLimit disk(before.size() - 1);
+        RunFrame(Program);
+    }
+    EXPECT_EQ(log.Lines, Lines{"Failed to write save state: SaveState.bin"});
+    EXPECT_EQ(Contents("SaveState.bin"), before);
+    EXPECT_EQ(State.SaveDelay, 1.0F);
+    for (int i = 0; i < 31; ++i) {
+        LetTimePass(1000); // 0.033 seconds for the game
+        RunFrame(Program);
+    }
+    EXPECT_FALSE(State.SaveRequested);
+    EXPECT_EQ(log.Lines.size(), 1U);
+    Stop();
+    Start();
+    EXPECT_EQ(State.HighScore, 1000);
+}
+
+TEST_F(StartUpFiles, PipesInThePlacesOfTheFilesAreLeftAlone) {
+    const TimeLimit limit;
+    MakePipe(Home.FilePath("Config.ini"));
+    MakePipe(Home.FilePath("SaveState.bin"));
+    const LogCatcher log;
+    Start();
+    RunFrame(Program);
+    EXPECT_EQ(log.Lines, (Lines{NoIconsLine, "Failed to create default options config: Config.ini",
+                             "Failed to write save state: SaveState.bin"}));
+    State.OptionsDirty = true;
+    RunFrame(Program);
+    EXPECT_EQ(log.Lines.back(), "Failed to write options config: Config.ini");
+    EXPECT_TRUE(IsSpecialFile(Home.FilePath("Config.ini")));
+    EXPECT_TRUE(IsSpecialFile(Home.FilePath("SaveState.bin")));
+}
+
+TEST_F(StartUpFiles, PipesInThePlacesOfPlainFilesLeaveThePlayersFilesAsTheyWere) {
+    const TimeLimit limit;
+    Visit();
+    const std::string config = Contents("Config.ini");
+    const std::string save = Contents("SaveState.bin");
+    for (const char *name : {".Config.ini.tmp", ".SaveState.bin.tmp", ".TitleStorageRead.tmp"}) {
+        MakePipe(Home.FilePath(name));
+    }
+    const LogCatcher log;
+    Visit();
+    EXPECT_EQ(log.Lines, (Lines{NoIconsLine, "Failed to create default options config: Config.ini",
+                             "Failed to write save state: SaveState.bin"}));
+    EXPECT_EQ(Contents("Config.ini"), config);
+    EXPECT_EQ(Contents("SaveState.bin"), save);
 }
 
 /// Start-up with a rate of 144 in the options, at 1920x1080.

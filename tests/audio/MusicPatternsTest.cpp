@@ -2,6 +2,7 @@
 
 #include "tests/audio/GameFolder.hpp"
 #include "tests/audio/OggFile.hpp"
+#include "tests/support/SpecialFiles.hpp"
 
 #include <algorithm>
 #include <array>
@@ -519,6 +520,21 @@ TEST_F(MusicPatterns, OfMissingAndDamagedFilesAreReportedWithTheMixersReason) {
         EXPECT_TRUE(Log.Lines[0].starts_with(begin)) << Log.Lines[0];
         EXPECT_GT(Log.Lines[0].size(), begin.size()) << file;
     }
+}
+
+TEST_F(MusicPatterns, OfWhatIsNoRegularFileAreReportedAndNotOpened) {
+    const TimeLimit limit;
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        const std::string path = PathOf("Music/Special.ogg");
+        special.Make(path);
+        EXPECT_FALSE(Load("[Pattern.A]\nFileName = Music/Special.ogg\n"));
+        EXPECT_EQ(Log.Lines,
+            Lines{"MIX_LoadAudio failed for pattern 'A' (configured='Music/Special.ogg', resolved='" + path +
+                  "'): " + path + " is no regular file"});
+        std::filesystem::remove(path);
+    }
+    EXPECT_EQ(Watch.LoadAudio.Count(), 0);
 }
 
 TEST_F(MusicPatterns, FollowThemselvesUnlessTheyNameAnother) {

@@ -1,6 +1,7 @@
 #include "tests/e2e/PageSight.hpp"
 #include "tests/e2e/PlayedGame.hpp"
 #include "tests/e2e/StoredFiles.hpp"
+#include "tests/support/SpecialFiles.hpp"
 
 #include <chrono>
 #include <filesystem>
@@ -119,6 +120,37 @@ TEST(Faults, OptionsThatCannotBeWrittenAreTriedInEveryFrame) {
     })) << "it has stopped trying";
     EXPECT_EQ(LinesIn(game, OptionsFailed, milliseconds{500}), 0);
     EXPECT_EQ(game.Close(), std::optional(0));
+}
+
+// Who opened them would wait for ever for somebody at the other end.
+TEST(Faults, PipesInThePlacesOfItsFilesAreLeftAloneAndTheGamePlays) {
+    const PreparedHome home;
+    for (const char *name : {OptionsFile, SaveFile}) {
+        MakePipe(StoredPath(home, name));
+    }
+    PlayedGame game({}, {}, &home);
+    EXPECT_EQ(CountLines(game, FirstOptionsFailed), 1);
+    EXPECT_TRUE(WritesLines(game, SaveFailed, 2, PatientDeadline));
+    EXPECT_TRUE(game.Tap(Key::Left, CarInLane(0)));
+    EXPECT_EQ(game.Close(), std::optional(0));
+    for (const char *name : {OptionsFile, SaveFile}) {
+        EXPECT_TRUE(IsSpecialFile(StoredPath(home, name))) << name;
+    }
+}
+
+TEST(Faults, PipesInThePlacesOfItsPlainFilesLeaveThePlayersFilesAsTheyWere) {
+    const PreparedHome home;
+    const std::string save = MadeSave({.HighScore = 4711});
+    home.Put(SaveFile, save);
+    for (const char *name : {".Config.ini.tmp", ".SaveState.bin.tmp", ".TitleStorageRead.tmp"}) {
+        MakePipe(StoredPath(home, name));
+    }
+    PlayedGame game({}, {}, &home);
+    EXPECT_EQ(CountLines(game, FirstOptionsFailed), 1);
+    EXPECT_TRUE(WritesLines(game, SaveFailed, 2, PatientDeadline));
+    EXPECT_EQ(game.Close(), std::optional(0));
+    EXPECT_EQ(home.Read(SaveFile), save);
+    EXPECT_EQ(home.Read(OptionsFile), std::nullopt);
 }
 
 // Where the game's folder should be there is a file: nothing can be read, staged or written.

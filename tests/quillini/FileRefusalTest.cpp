@@ -1,5 +1,7 @@
 #include "tests/quillini/IniTest.hpp"
 
+#include "tests/support/SpecialFiles.hpp"
+
 #include <filesystem>
 
 using namespace quillINI;
@@ -32,9 +34,24 @@ TEST(RefusedFile, IsOneThatIsAbsent) {
     EXPECT_EQ(RefusalOf(""), "Unable to open INI file: \n");
 }
 
-TEST(RefusedFile, IsAFolder) {
-    const std::string folder = std::filesystem::temp_directory_path().string();
-    EXPECT_EQ(RefusalOf(folder), "Unable to open INI file: " + folder + "\n");
+TEST(RefusedFile, IsWhateverIsNoRegularFile) {
+    const TimeLimit limit;
+    for (const SpecialFile &special : SpecialFiles) {
+        const ScratchFile file;
+        special.Make(file.Path());
+        EXPECT_EQ(RefusalOf(file.Path()), "Unable to open INI file: " + file.Path() + "\n") << special.Kind;
+        EXPECT_TRUE(IsSpecialFile(file.Path())) << special.Kind;
+    }
+}
+
+TEST(RefusedFile, IsNoLinkToARegularFile) {
+    const ScratchFile file;
+    const ScratchFile link("link.ini");
+    file.Fill("key=value");
+    std::filesystem::create_symlink(file.Path(), link.Path());
+    IniDocument document;
+    EXPECT_TRUE(ReadIniFile(document, link.Path()));
+    EXPECT_EQ(Shown(document), (ShownLines{"[QI_Global]", "key=value"}));
 }
 
 TEST(RefusedFile, IsAnEmptyOne) {

@@ -1,5 +1,8 @@
 #include "tests/quillini/IniTest.hpp"
 
+#include "tests/support/FileSizeLimit.hpp"
+#include "tests/support/SpecialFiles.hpp"
+
 #include <filesystem>
 #include <stdexcept>
 
@@ -245,6 +248,30 @@ TEST(Writer, ReportsAFileThatCannotBeOpened) {
     }
 }
 
+TEST(Writer, ReportsWhateverIsNoRegularFileAndLeavesIt) {
+    const TimeLimit limit;
+    for (const SpecialFile &special : SpecialFiles) {
+        const ScratchFile file;
+        special.Make(file.Path());
+        OutputCatcher output;
+        EXPECT_FALSE(WriteIniFile(FullDocument(), file.Path(), false, IniEncoding::Utf8)) << special.Kind;
+        EXPECT_EQ(output.Text(), "Unable to write INI file: " + file.Path() + "\n") << special.Kind;
+        EXPECT_TRUE(IsSpecialFile(file.Path())) << special.Kind;
+    }
+}
+
+TEST(Writer, WritesThroughALinkToARegularFile) {
+    const ScratchFile file;
+    const ScratchFile link("link.ini");
+    file.Fill("something longer than what is written now");
+    std::filesystem::create_symlink(file.Path(), link.Path());
+    IniDocument document;
+    SetIniValue(document, "QI_Global", "a", "1", false);
+    EXPECT_TRUE(WriteIniFile(document, link.Path(), false, IniEncoding::Utf8));
+    EXPECT_EQ(file.Bytes(), "a=1");
+    EXPECT_TRUE(std::filesystem::is_symlink(link.Path()));
+}
+
 TEST(Writer, TakesAFileNameInUtf8) {
     const ScratchFile file("\xC3\xBC\xE2\x82\xAC.ini");
     IniDocument document;
@@ -254,12 +281,12 @@ TEST(Writer, TakesAFileNameInUtf8) {
 }
 
 TEST(Writer, DoesNotLookAtWriteErrors) {
-    if (!std::filesystem::exists("/dev/full")) {
-        GTEST_SKIP() << "this system has no /dev/full";
-    }
+    const ScratchFile file;
     IniDocument document = FullDocument();
     SetIniValue(document, "Big", "value", std::string(100000, 'x'), false);
-    EXPECT_TRUE(WriteIniFile(document, "/dev/full", false, IniEncoding::Utf8));
+    const FileSizeLimit disk(50000);
+    EXPECT_TRUE(WriteIniFile(document, file.Path(), false, IniEncoding::Utf8));
+    EXPECT_EQ(file.Bytes().size(), 50000U);
 }
 
 TEST(Writer, LeavesAPartialFileBehindInvalidText) {

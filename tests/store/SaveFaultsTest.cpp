@@ -1,5 +1,7 @@
 #include "tests/store/SaveTest.hpp"
 #include "tests/store/SmallDisk.hpp"
+#include "tests/support/FileSizeLimit.hpp"
+#include "tests/support/SpecialFiles.hpp"
 
 namespace {
 
@@ -40,6 +42,13 @@ protected:
     std::string Staging() const {
         return PathOf(".SaveState.bin.tmp").string();
     }
+    /// Expects a write to have failed over the plain file, with storage not even opened.
+    void ExpectPlainFileFailed(bool Written) {
+        EXPECT_FALSE(Written);
+        EXPECT_EQ(Said, "Unable to write file: " + Staging() + "\n");
+        EXPECT_EQ(Watch.OpenUserStorage.Count(), 0);
+        EXPECT_EQ(Stored("SaveState.bin"), Old);
+    }
 
     std::string Old;
     std::string Said;
@@ -50,13 +59,14 @@ TEST_F(SaveFaultsTest, KeepTheOldFileWhateverFailsInAWrite) {
         [this] {
             return Write();
         },
-        [this](bool IsUntouched, bool Result) {
-            EXPECT_EQ(Result, IsUntouched);
-            EXPECT_EQ(Stored("SaveState.bin") == Old, !IsUntouched);
+        [this](bool /*IsUntouched*/, bool Result) {
+            EXPECT_EQ(Result, MayBeWritten());
+            EXPECT_EQ(Stored("SaveState.bin") == Old, !MayBeWritten());
             EXPECT_EQ(Names(), Lines{"SaveState.bin"});
+            Store("SaveState.bin", Old);
         });
     EXPECT_EQ(failed, (CallNames{Watch.GetPrefPath, Watch.OpenFile, Watch.LoadFile, Watch.OpenUserStorage,
-                          Watch.StorageReady, Watch.WriteStorageFile}));
+                          Watch.StorageReady, Watch.GetStoragePathInfo, Watch.WriteStorageFile}));
 }
 
 TEST_F(SaveFaultsTest, LoseNothingOfTheFileWhateverFailsInARead) {
@@ -102,22 +112,78 @@ TEST_F(SaveFaultsTest, EndAWriteIntoAStorageThatIsNeverReadyAfterTwoSeconds) {
     EXPECT_EQ(Names(), Lines{"SaveState.bin"});
 }
 
-TEST_F(SaveFaultsTest, EndWhereAFolderTakesThePlainFilesPlace) {
-    std::filesystem::create_directories(PathOf(".SaveState.bin.tmp") / "kept");
-    EXPECT_FALSE(Write());
-    EXPECT_EQ(Said, "Unable to write file: " + Staging() + "\n");
-    EXPECT_EQ(Stored("SaveState.bin"), Old);
-    EXPECT_FALSE(Read());
-    ExpectNothingRead();
+/// A save is written in a token at a time at least, of which the smallest state has eleven.
+TEST_F(SaveFaultsTest, KeepTheOldFileWhicheverByteIsNotWritten) {
+    int failures = 0;
+    for (bool isWritten = false; !isWritten && failures < 1000; failures += isWritten ? 0 : 1) {
+        Watch.Forget();
+        Watch.WriteToFile.Refuse(1, failures);
+        isWritten = Write();
+        Watch.WriteToFile.Refuse(0);
+        if (!isWritten) {
+            ExpectPlainFileFailed(isWritten);
+            EXPECT_EQ(Names(), Lines{"SaveState.bin"});
+        }
+    }
+    EXPECT_GE(failures, 11);
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(State.HighScore, 5);
 }
 
-TEST_F(SaveFaultsTest, EndWhereAFolderTakesTheFilesPlace) {
-    std::filesystem::remove(PathOf("SaveState.bin"));
-    std::filesystem::create_directories(PathOf("SaveState.bin") / "kept");
-    EXPECT_FALSE(Write());
-    EXPECT_FALSE(Read());
-    ExpectNothingRead();
+TEST_F(SaveFaultsTest, KeepTheOldFileIfAPartOfATextIsNotWritten) {
+    Watch.WriteToFile.Answer = [](const void *Bytes, std::size_t Size, std::size_t Count, std::FILE *File) {
+        return std::fwrite(
+            Bytes, Size, Count == std::string_view("HighScore").size() ? Count - 1 : Count, File);
+    };
+    ExpectPlainFileFailed(Write());
     EXPECT_EQ(Names(), Lines{"SaveState.bin"});
+}
+
+TEST_F(SaveFaultsTest, KeepTheOldFileIfThePlainFileCannotBeClosed) {
+    Watch.CloseFile.Answer = [](std::FILE *File) {
+        std::fclose(File);
+        return EOF;
+    };
+    ExpectPlainFileFailed(Write());
+    EXPECT_EQ(Names(), Lines{"SaveState.bin"});
+    Watch.CloseFile.Answer = nullptr;
+    EXPECT_TRUE(Write());
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(State.HighScore, 5);
+}
+
+TEST_F(SaveFaultsTest, EndWhereSomethingElseTakesThePlainFilesPlace) {
+    const TimeLimit limit;
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        Watch.Forget();
+        special.Make(Staging());
+        ExpectPlainFileFailed(Write());
+        EXPECT_FALSE(Read());
+        ExpectNothingRead();
+        EXPECT_EQ(Said, "");
+        EXPECT_EQ(Stored("SaveState.bin"), Old);
+        EXPECT_TRUE(IsSpecialFile(Staging()));
+        std::filesystem::remove(Staging());
+    }
+    EXPECT_TRUE(Read());
+    ExpectSampleRun();
+}
+
+TEST_F(SaveFaultsTest, EndWhereSomethingElseTakesTheFilesPlace) {
+    const TimeLimit limit;
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        std::filesystem::remove(PathOf("SaveState.bin"));
+        special.Make(PathOf("SaveState.bin"));
+        EXPECT_FALSE(Write());
+        EXPECT_EQ(Said, "");
+        EXPECT_FALSE(Read());
+        EXPECT_EQ(Said, "");
+        ExpectNothingRead();
+        EXPECT_TRUE(IsSpecialFile(PathOf("SaveState.bin")));
+        EXPECT_FALSE(std::filesystem::exists(Staging()));
+    }
 }
 
 TEST_F(SaveFaultsTest, EndWhereTheHomeIsAFile) {
@@ -151,6 +217,27 @@ GameState LongRun() {
     return state;
 }
 
+TEST_F(SaveFaultsTest, KeepTheOldFileUnlessThereIsRoomForEveryByte) {
+    ASSERT_TRUE(WriteState(LongRun()));
+    const std::size_t size = Stored("SaveState.bin").size();
+    ASSERT_GT(size, 600U * 71U); // a bullet's tokens take 71 bytes
+    for (const std::size_t room : {std::size_t{0}, std::size_t{1}, std::size_t{4095}, std::size_t{4096},
+             std::size_t{4097}, size / 2, size - 4097, size - 4096, size - 2, size - 1, size}) {
+        SCOPED_TRACE(room);
+        Store("SaveState.bin", Old);
+        Watch.Forget();
+        const FileSizeLimit disk(room);
+        const bool written = WriteState(LongRun());
+        EXPECT_EQ(written, room == size);
+        EXPECT_EQ(Watch.OpenUserStorage.Count(), written ? 1 : 0);
+        EXPECT_EQ(Stored("SaveState.bin") == Old, !written);
+        EXPECT_EQ(Names(), Lines{"SaveState.bin"});
+        if (room >= 4095) { // else the line has no room either
+            EXPECT_EQ(Said, written ? "" : "Unable to write file: " + Staging() + "\n");
+        }
+    }
+}
+
 TEST_F(SaveFaultsTest, EndOnAReadOnlyDisk) {
     const SmallDisk disk(Folder(), 64);
     if (!disk.IsThere) {
@@ -165,22 +252,34 @@ TEST_F(SaveFaultsTest, EndOnAReadOnlyDisk) {
     ExpectNothingRead();
 }
 
-TEST_F(SaveFaultsTest, KeepTheOldFileOnADiskWithoutRoomForAPlainFile) {
-    const SmallDisk disk(Folder(), 64);
-    if (!disk.IsThere) {
-        GTEST_SKIP() << "needs the right to mount a file system";
-    }
-    Store("SaveState.bin", Old);
-    disk.FillUpTo(0);
-    EXPECT_FALSE(WriteState(LongRun()));
-    EXPECT_EQ(Stored("SaveState.bin"), Old);
-    EXPECT_EQ(Names(), (Lines{"SaveState.bin", "filler"}));
+/// How many kilobytes a long run takes on a disk of whole pages.
+int KilobytesOfLongRun(std::size_t Size) {
+    return static_cast<int>((Size + 4095) / 4096) * 4;
 }
 
-/// The plain file fits or is cut, and storage empties the old file before it finds that the new one has no
-/// room. What storage says of it counts; nothing is looked at again.
+TEST_F(SaveFaultsTest, KeepTheOldFileOnADiskWithoutRoomForAPlainFile) {
+    ASSERT_TRUE(WriteState(LongRun()));
+    const int needed = KilobytesOfLongRun(Stored("SaveState.bin").size());
+    for (int room = 0; room < needed; room += 4) {
+        SCOPED_TRACE(room);
+        const SmallDisk disk(Folder(), 160);
+        if (!disk.IsThere) {
+            GTEST_SKIP() << "needs the right to mount a file system";
+        }
+        Store("SaveState.bin", Old);
+        disk.FillUpTo(room);
+        Watch.Forget();
+        ExpectPlainFileFailed(WriteState(LongRun()));
+        EXPECT_EQ(Names(), (Lines{"SaveState.bin", "filler"}));
+    }
+}
+
+/// The plain file fits, and storage empties the old file before it finds that the new one has no room. What
+/// storage says of it counts; nothing is looked at again.
 TEST_F(SaveFaultsTest, TakeStoragesWordOnADiskThatFillsUp) {
-    for (const int room : {4, 8, 16, 24, 32}) {
+    ASSERT_TRUE(WriteState(LongRun()));
+    const int needed = KilobytesOfLongRun(Stored("SaveState.bin").size());
+    for (int room = needed; room <= 2 * needed; room += needed / 4) {
         SCOPED_TRACE(room);
         const SmallDisk disk(Folder(), 160);
         if (!disk.IsThere) {
@@ -190,8 +289,7 @@ TEST_F(SaveFaultsTest, TakeStoragesWordOnADiskThatFillsUp) {
         disk.FillUpTo(room);
         Watch.Forget();
         const bool written = WriteState(LongRun());
-        const std::vector<bool> &writes = Watch.WriteStorageFile.Results;
-        EXPECT_EQ(written, !writes.empty() && writes.back());
+        EXPECT_EQ(Watch.WriteStorageFile.Results, std::vector<bool>{written});
         EXPECT_EQ(Said, "");
         EXPECT_EQ(Names(), (Lines{"SaveState.bin", "filler"}));
         Read();

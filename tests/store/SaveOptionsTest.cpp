@@ -2,6 +2,7 @@
 
 #include "state/LogicalScreen.hpp"
 #include "tests/support/Sdl.hpp"
+#include "tests/support/SpecialFiles.hpp"
 
 namespace {
 
@@ -147,25 +148,48 @@ TEST_F(SaveOptionsTest, KeepTheOldFileWhateverFailsAndSayNothing) {
         [this] {
             return SaveOptions(State);
         },
-        [this](bool IsUntouched, bool Result) {
-            EXPECT_EQ(Result, IsUntouched);
-            EXPECT_EQ(Stored("Config.ini"), IsUntouched ? DefaultOptionsText : "old contents");
+        [this](bool /*IsUntouched*/, bool Result) {
+            EXPECT_EQ(Result, MayBeWritten());
+            EXPECT_EQ(Stored("Config.ini"), MayBeWritten() ? DefaultOptionsText : "old contents");
             EXPECT_EQ(Names(), Lines{"Config.ini"});
+            Store("Config.ini", "old contents");
         });
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
     EXPECT_EQ(log.Lines, Lines{});
     EXPECT_EQ(failed, (CallNames{Watch.GetPrefPath, Watch.LoadFile, Watch.OpenUserStorage, Watch.StorageReady,
-                          Watch.WriteStorageFile}));
+                          Watch.GetStoragePathInfo, Watch.WriteStorageFile}));
 }
 
-TEST_F(SaveOptionsTest, FailWhereAFolderTakesThePlainFilesPlace) {
-    Store("Config.ini", "old contents");
-    std::filesystem::create_directories(PathOf(".Config.ini.tmp") / "kept");
-    testing::internal::CaptureStdout();
-    EXPECT_FALSE(SaveOptions(State));
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-        "Unable to write INI file: " + PathOf(".Config.ini.tmp").string() + "\n");
-    EXPECT_EQ(Stored("Config.ini"), "old contents");
+TEST_F(SaveOptionsTest, FailWhereSomethingElseTakesThePlainFilesPlace) {
+    const TimeLimit limit;
+    Store("Config.ini", DefaultOptionsText);
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        special.Make(PathOf(".Config.ini.tmp"));
+        State.MasterVolume = 7;
+        testing::internal::CaptureStdout();
+        EXPECT_FALSE(SaveOptions(State));
+        EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            "Unable to write INI file: " + PathOf(".Config.ini.tmp").string() + "\n");
+        EXPECT_FALSE(LoadOptions(State));
+        EXPECT_EQ(State.MasterVolume, 7);
+        EXPECT_EQ(Stored("Config.ini"), DefaultOptionsText);
+        EXPECT_TRUE(IsSpecialFile(PathOf(".Config.ini.tmp")));
+        std::filesystem::remove(PathOf(".Config.ini.tmp"));
+    }
+}
+
+TEST_F(SaveOptionsTest, FailWhereSomethingElseTakesTheFilesPlace) {
+    const TimeLimit limit;
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        special.Make(PathOf("Config.ini"));
+        EXPECT_FALSE(SaveOptions(State));
+        EXPECT_FALSE(Load());
+        EXPECT_EQ(Printed, "");
+        EXPECT_TRUE(IsSpecialFile(PathOf("Config.ini")));
+        std::filesystem::remove(PathOf("Config.ini"));
+    }
 }
 
 TEST_F(SaveOptionsTest, FailWhereTheHomeIsAFile) {

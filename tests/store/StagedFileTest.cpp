@@ -1,6 +1,7 @@
 #include "store/StagedFile.hpp"
 
 #include "tests/store/StoreTest.hpp"
+#include "tests/support/SpecialFiles.hpp"
 
 namespace {
 
@@ -68,13 +69,14 @@ TEST_F(StagedFileTest, KeepsItsOldBytesThroughEveryFailureOfAWrite) {
         [this] {
             return Write(true);
         },
-        [this](bool IsUntouched, bool Result) {
-            EXPECT_EQ(Result, IsUntouched);
-            EXPECT_EQ(Stored("a.bin"), IsUntouched ? "new" : "old");
+        [this](bool /*IsUntouched*/, bool Result) {
+            EXPECT_EQ(Result, MayBeWritten());
+            EXPECT_EQ(Stored("a.bin"), MayBeWritten() ? "new" : "old");
             EXPECT_EQ(Names(), Lines{"a.bin"});
+            Store("a.bin", "old");
         });
     EXPECT_EQ(failed, (CallNames{Watch.GetPrefPath, Watch.LoadFile, Watch.OpenUserStorage, Watch.StorageReady,
-                          Watch.WriteStorageFile}));
+                          Watch.GetStoragePathInfo, Watch.WriteStorageFile}));
 }
 
 TEST_F(StagedFileTest, IsReadThroughThePlainFile) {
@@ -112,6 +114,66 @@ TEST_F(StagedFileTest, IsNotReadAfterAnyFailureOfTheCopy) {
         });
     EXPECT_EQ(failed, (CallNames{Watch.GetPrefPath, Watch.OpenUserStorage, Watch.StorageReady,
                           Watch.GetStoragePathInfo, Watch.ReadStorageFile, Watch.SaveFile}));
+}
+
+TEST_F(StagedFileTest, IsNotReadWhereSomethingElseTakesThePlainFilesName) {
+    const TimeLimit limit;
+    Store("a.bin", "old");
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        special.Make(PathOf(".a.bin.tmp"));
+        EXPECT_FALSE(Read(true));
+        EXPECT_EQ(Steps, 0);
+        EXPECT_TRUE(IsSpecialFile(PathOf(".a.bin.tmp")));
+        std::filesystem::remove(PathOf(".a.bin.tmp"));
+    }
+    EXPECT_EQ(Watch.SaveFile.Count(), 0);
+    EXPECT_EQ(Stored("a.bin"), "old");
+    EXPECT_TRUE(Read(true));
+}
+
+TEST_F(StagedFileTest, IsNotWrittenWhereSomethingElseTakesThePlainFilesName) {
+    const TimeLimit limit;
+    Store("a.bin", "old");
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        special.Make(PathOf(".a.bin.tmp"));
+        // Whatever the step says of it.
+        EXPECT_FALSE(WriteStagedFile(File, [](const std::string &) {
+            return true;
+        }));
+        EXPECT_TRUE(IsSpecialFile(PathOf(".a.bin.tmp")));
+        std::filesystem::remove(PathOf(".a.bin.tmp"));
+    }
+    EXPECT_EQ(Watch.LoadFile.Count(), 0);
+    EXPECT_EQ(Stored("a.bin"), "old");
+    EXPECT_TRUE(Write(true));
+}
+
+TEST_F(StagedFileTest, IsNeitherReadNorWrittenWhereSomethingElseHasItsName) {
+    const TimeLimit limit;
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        special.Make(PathOf("a.bin"));
+        EXPECT_FALSE(Read(true));
+        EXPECT_FALSE(Write(true));
+        EXPECT_TRUE(IsSpecialFile(PathOf("a.bin")));
+        EXPECT_FALSE(std::filesystem::exists(PathOf(".a.bin.tmp")));
+        std::filesystem::remove(PathOf("a.bin"));
+    }
+    EXPECT_EQ(Watch.ReadStorageFile.Count(), 0);
+    EXPECT_EQ(Watch.WriteStorageFile.Count(), 0);
+    EXPECT_TRUE(Write(true));
+}
+
+TEST_F(StagedFileTest, IsReadAndWrittenThroughALink) {
+    Store("Elsewhere", "old");
+    std::filesystem::create_symlink(PathOf("Elsewhere"), PathOf("a.bin"));
+    EXPECT_TRUE(Read(true));
+    EXPECT_EQ(Found, "old");
+    EXPECT_TRUE(Write(true));
+    EXPECT_EQ(Stored("Elsewhere"), "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(PathOf("a.bin")));
 }
 
 } // namespace

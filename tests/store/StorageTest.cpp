@@ -263,23 +263,31 @@ TEST_F(WriteUserStorageFileTest, FailsWhereTheNameIsAFolder) {
     ExpectAllClosed(1);
 }
 
+TEST_F(WriteUserStorageFileTest, AsksWhatHasTheNameBeforeItOpensIt) {
+    WriteBytes(Staging(), "bytes");
+    EXPECT_TRUE(WriteUserStorageFile("a.bin", Staging()));
+    EXPECT_EQ(Watch.OrderOf({Watch.StorageReady, Watch.GetStoragePathInfo, Watch.WriteStorageFile}),
+        (CallNames{Watch.StorageReady, Watch.GetStoragePathInfo, Watch.WriteStorageFile}));
+}
+
 TEST_F(WriteUserStorageFileTest, FailsWithEachOfItsCallsAndTheOldFileStands) {
-    Store("a.bin", "old");
     WriteBytes(Staging(), "new");
+    Store("a.bin", "old");
     const CallNames failed = FailEach(
         [this] {
             return WriteUserStorageFile("a.bin", Staging());
         },
-        [this](bool IsUntouched, bool Result) {
-            EXPECT_EQ(Result, IsUntouched);
-            EXPECT_EQ(Stored("a.bin"), IsUntouched ? "new" : "old");
+        [this](bool /*IsUntouched*/, bool Result) {
+            EXPECT_EQ(Result, MayBeWritten());
+            EXPECT_EQ(Stored("a.bin"), MayBeWritten() ? "new" : "old");
             EXPECT_EQ(ReadBytes(Staging()), "new");
             const bool wasOpened = Watch.StorageReady.Count() > 0;
             ExpectAllClosed(wasOpened ? 1 : 0);
             Watch.Forget();
+            Store("a.bin", "old");
         });
-    EXPECT_EQ(failed,
-        (CallNames{Watch.LoadFile, Watch.OpenUserStorage, Watch.StorageReady, Watch.WriteStorageFile}));
+    EXPECT_EQ(failed, (CallNames{Watch.LoadFile, Watch.OpenUserStorage, Watch.StorageReady,
+                          Watch.GetStoragePathInfo, Watch.WriteStorageFile}));
 }
 
 } // namespace

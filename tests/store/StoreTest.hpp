@@ -39,6 +39,12 @@ protected:
     /// result) is run.
     CallNames FailEach(const std::function<bool()> &Operation, const std::function<void(bool, bool)> &Check);
 
+    /// Whether a write works with the call that FailEach has refused: without one, or where storage was only
+    /// asked what it has under the name, for a name that it does not know is written like a new one.
+    bool MayBeWritten() const {
+        return !Watch.Refused || Watch.Refused == Watch.GetStoragePathInfo;
+    }
+
     /// Lets each look at the clock take so many milliseconds more.
     void HurryClock(Uint64 Milliseconds);
 

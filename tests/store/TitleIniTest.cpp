@@ -1,6 +1,7 @@
 #include "store/TitleIni.hpp"
 
 #include "tests/store/StoreTest.hpp"
+#include "tests/support/SpecialFiles.hpp"
 
 #include <optional>
 #include <stdexcept>
@@ -91,6 +92,49 @@ TEST_F(TitleIni, IsReadBesideTheProgramIfTitleStoragesIsRefused) {
     EXPECT_EQ(Value("From"), "base");
     EXPECT_EQ(Printed, TooShort);
     ExpectNoStagingFile();
+}
+
+TEST_F(TitleIni, IsReadBesideTheProgramIfTitleStoragesIsNoRegularFile) {
+    const TimeLimit limit;
+    Ship(Base, "[Songs]\nFrom=base\n");
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        special.Make(Title / Path);
+        Document = {};
+        EXPECT_TRUE(Read());
+        EXPECT_EQ(Value("From"), "base");
+        EXPECT_EQ(Printed, "");
+        ExpectNoStagingFile();
+        std::filesystem::remove(Title / Path);
+    }
+}
+
+TEST_F(TitleIni, IsFalseWhereWhatIsShippedIsNoRegularFile) {
+    const TimeLimit limit;
+    TellTitle(BaseText);
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        special.Make(Base / Path);
+        EXPECT_FALSE(Read());
+        EXPECT_EQ(Printed, "Unable to open INI file: " + BaseText + "/Music/Patterns.ini\n");
+        ExpectNoStagingFile();
+        std::filesystem::remove(Base / Path);
+    }
+}
+
+TEST_F(TitleIni, IsReadBesideTheProgramIfSomethingElseTakesThePlainFilesName) {
+    const TimeLimit limit;
+    Ship(Title, "[Songs]\nFrom=title\n");
+    Ship(Base, "[Songs]\nFrom=base\n");
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        special.Make(PathOf(".TitleStorageRead.tmp"));
+        Document = {};
+        EXPECT_TRUE(Read());
+        EXPECT_EQ(Value("From"), "base");
+        EXPECT_TRUE(IsSpecialFile(PathOf(".TitleStorageRead.tmp")));
+        std::filesystem::remove(PathOf(".TitleStorageRead.tmp"));
+    }
 }
 
 TEST_F(TitleIni, IsRefusedTwiceWhereTitleStorageIsTheProgramsFolder) {

@@ -2,11 +2,9 @@
 
 #include "tests/store/StoreTest.hpp"
 #include "tests/store/StreamBytes.hpp"
-
-#include <sys/stat.h>
+#include "tests/support/SpecialFiles.hpp"
 
 #include <limits>
-#include <thread>
 
 namespace {
 
@@ -325,11 +323,18 @@ TEST_F(ValueStreamReaderTest, TellsOfAFileThatCannotBeOpened) {
     }
 }
 
-TEST_F(ValueStreamReaderTest, FindsNothingInAFolder) {
-    testing::internal::CaptureStderr();
-    Reader.Load(Folder().string());
-    testing::internal::GetCapturedStderr();
-    ExpectNone();
+TEST_F(ValueStreamReaderTest, TellsOfWhatIsNoRegularFileAndDoesNotOpenIt) {
+    const TimeLimit limit;
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        special.Make(Path);
+        testing::internal::CaptureStderr();
+        EXPECT_FALSE(Reader.Load(Path));
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), "Unable to read file: " + Path + "!\n");
+        ExpectNone();
+        EXPECT_TRUE(IsSpecialFile(Path));
+        std::filesystem::remove(Path);
+    }
 }
 
 TEST_F(ValueStreamReaderTest, BeginsAnewWithEveryFile) {
@@ -355,15 +360,15 @@ TEST_F(ValueStreamReaderTest, ReadsOnWhereTheSizeIsNotTold) {
 }
 
 TEST_F(ValueStreamReaderTest, ReadsOnWhereSeekingFails) {
-    ASSERT_EQ(mkfifo(Path.c_str(), 0600), 0);
-    std::thread writer([this] {
-        WriteBytes(Path, Int32Token(5));
-    });
+    WriteBytes(Path, Int32Token(5));
+    Watch.SeekPosition.Answer = [](std::FILE *, long, int) {
+        return -1;
+    };
     testing::internal::CaptureStderr();
     EXPECT_TRUE(Reader.Load(Path));
+    Watch.SeekPosition.Answer = nullptr; // for the test framework
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
         "Error: Failed to seek to end of file, proceeding without reservation!\n");
-    writer.join();
     ExpectScalar<std::int32_t>(ValueTag::Int32, 5);
     ExpectNone();
 }

@@ -1,6 +1,8 @@
 #include "store/ValueStream.hpp"
 
 #include "tests/store/StoreTest.hpp"
+#include "tests/support/FileSizeLimit.hpp"
+#include "tests/support/SpecialFiles.hpp"
 
 #include <cmath>
 #include <limits>
@@ -14,12 +16,21 @@ protected:
     }
 
     std::string Written() {
-        Writer.Close();
+        EXPECT_TRUE(Writer.Close());
         return Hex(ReadBytes(Path));
+    }
+    /// Writes a key of so many letters and closes the file, and keeps what is said of it.
+    bool WriteKeyOf(std::size_t Letters) {
+        testing::internal::CaptureStderr();
+        Writer.WriteKey(std::string(Letters, 'k'));
+        const bool isWritten = Writer.Close();
+        Said = testing::internal::GetCapturedStderr();
+        return isWritten;
     }
 
     std::string Path = PathOf("stream").string();
     ValueStreamWriter Writer;
+    std::string Said;
 };
 
 TEST_F(ValueStreamWriterTest, WritesAnEmptyObjectAsTwoBytes) {
@@ -87,7 +98,7 @@ TEST_F(ValueStreamWriterTest, WritesKeysWithTheirLengthAndNoTerminator) {
 
 TEST_F(ValueStreamWriterTest, WritesLongKeysWhole) {
     Writer.WriteKey(std::string(300, 'k'));
-    Writer.Close();
+    EXPECT_TRUE(Writer.Close());
     EXPECT_EQ(ReadBytes(Path), std::string("\x08\x2C\x01\x00\x00", 5) + std::string(300, 'k'));
 }
 
@@ -100,7 +111,7 @@ TEST_F(ValueStreamWriterTest, ChecksNoNesting) {
 }
 
 TEST_F(ValueStreamWriterTest, ReplacesWhatWasThere) {
-    Writer.Close();
+    EXPECT_TRUE(Writer.Close());
     WriteBytes(Path, "something longer");
     EXPECT_TRUE(Writer.Open(Path));
     Writer.BeginArray();
@@ -117,11 +128,41 @@ TEST_F(ValueStreamWriterTest, TellsOfAFileThatCannotBeOpened) {
     }
 }
 
+TEST_F(ValueStreamWriterTest, TellsOfWhatIsNoRegularFileAndLeavesIt) {
+    const TimeLimit limit;
+    const std::string path = PathOf("special").string();
+    for (const SpecialFile &special : SpecialFiles) {
+        SCOPED_TRACE(special.Kind);
+        special.Make(path);
+        ValueStreamWriter writer;
+        testing::internal::CaptureStderr();
+        EXPECT_FALSE(writer.Open(path));
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), "Unable to write file: " + path + "\n");
+        EXPECT_TRUE(IsSpecialFile(path));
+        std::filesystem::remove(path);
+    }
+}
+
+TEST_F(ValueStreamWriterTest, TellsOfAFileThatHasNotTakenEveryByte) {
+    const std::string words = "Unable to write file: " + Path + "\n";
+    // Some bytes are held back until the closing; others do not wait for it.
+    for (const std::size_t letters : {300U, 4000U, 4091U, 5000U, 100000U}) {
+        SCOPED_TRACE(letters);
+        const FileSizeLimit disk(letters + 4); // the tag and the length take five
+        EXPECT_TRUE(Writer.Open(Path));
+        EXPECT_FALSE(WriteKeyOf(letters));
+        EXPECT_EQ(Said, words);
+        EXPECT_TRUE(Writer.Open(Path));
+        EXPECT_TRUE(WriteKeyOf(letters - 1));
+        EXPECT_EQ(Said, "");
+    }
+}
+
 TEST_F(ValueStreamWriterTest, TakesAPathBeyondAscii) {
     const std::string path = PathOf("\xC3\xA4\xE2\x82\xAC").string();
     EXPECT_TRUE(Writer.Open(path));
     Writer.End();
-    Writer.Close();
+    EXPECT_TRUE(Writer.Close());
     EXPECT_EQ(Hex(ReadBytes(path)), "01 ");
 }
 

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+
+#include <csignal>
+
+/// While it lives, no file of this process grows beyond so many bytes: what is written behind them fails, as
+/// on a disk that is full then. The files of standard output and error count as well.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t Bytes) : OldHandler(std::signal(SIGXFSZ, SIG_IGN)) {
+        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &Old), 0);
+        rlimit limit = Old;
+        limit.rlim_cur = Bytes;
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &Old);
+        std::signal(SIGXFSZ, OldHandler);
+    }
+    FileSizeLimit(const FileSizeLimit &) = delete;
+    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
+
+private:
+    void (*OldHandler)(int);
+    rlimit Old{};
+};

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <filesystem>
+
+// What can stand in the place of a file and is none. Whoever opens a pipe waits for somebody at its other
+// end.
+
+inline void MakePipe(const std::filesystem::path &Path) {
+    std::filesystem::create_directories(Path.parent_path());
+    EXPECT_EQ(mkfifo(Path.c_str(), 0600), 0);
+}
+
+/// A kind of what is no file, and how it is made.
+struct SpecialFile {
+    const char *Kind;
+    void (*Make)(const std::filesystem::path &Path);
+};
+
+inline constexpr std::array SpecialFiles{
+    SpecialFile{"pipe", MakePipe},
+    SpecialFile{"socket",
+        [](const std::filesystem::path &Path) {
+            EXPECT_EQ(mknod(Path.c_str(), S_IFSOCK | 0600, 0), 0);
+        }},
+    SpecialFile{"folder",
+        [](const std::filesystem::path &Path) {
+            std::filesystem::create_directory(Path);
+        }},
+    SpecialFile{"device that never ends",
+        [](const std::filesystem::path &Path) {
+            std::filesystem::create_symlink("/dev/zero", Path);
+        }},
+    SpecialFile{"device that is full",
+        [](const std::filesystem::path &Path) {
+            std::filesystem::create_symlink("/dev/full", Path);
+        }},
+    SpecialFile{"link to a pipe",
+        [](const std::filesystem::path &Path) {
+            const std::filesystem::path pipe = Path.parent_path() / "Pipe";
+            if (!std::filesystem::exists(pipe)) {
+                MakePipe(pipe);
+            }
+            std::filesystem::create_symlink(pipe, Path);
+        }},
+};
+
+/// Whether there is still what was made there, and no file.
+inline bool IsSpecialFile(const std::filesystem::path &Path) {
+    return std::filesystem::exists(Path) && !std::filesystem::is_regular_file(Path);
+}
+
+/// Ends the test program if it lives longer than a minute: what waits for the other end of a pipe would do so
+/// for ever.
+class TimeLimit {
+public:
+    TimeLimit() {
+        alarm(60);
+    }
+    ~TimeLimit() {
+        alarm(0);
+    }
+    TimeLimit(const TimeLimit &) = delete;
+    TimeLimit &operator=(const TimeLimit &) = delete;
+};
