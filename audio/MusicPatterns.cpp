@@ -86,7 +86,7 @@ std::string ResolvePath(const std::string &Name, const std::string &FileName) {
 /// The music of a file, decoded as it plays; null with the reason as SDL's error.
 MIX_Audio *LoadMusic(MIX_Mixer *Mixer, const std::string &Path) {
     if (IsOtherThanFile(Path)) {
-        SDL_SetError("%s is no regular file", Path.c_str());
+        SDL_SetError("not a regular file");
         return nullptr;
     }
     return MIX_LoadAudio(Mixer, Path.c_str(), false);

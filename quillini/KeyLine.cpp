@@ -92,22 +92,22 @@ std::string CollectName(std::string_view Line, char Separator, KeyForm Form, std
 void StoreValue(ReadState &State, std::string_view Name, const ScannedValue &Scanned) {
     const CurrentSection current = SectionToFill(State);
     IniEntry &entry =
-        SetValue(current.Section, FindEntry(current, Name), Name, Scanned.Value, Scanned.Quoted);
+        SetValue(current.Section, FindOrAwaitEntry(current, Name), Name, Scanned.Value, Scanned.Quoted);
     SetIniEntryComment(entry, Scanned.Comment);
 }
 
 void StoreElement(ReadState &State, std::string_view Name, const ScannedValue &Scanned,
     const std::optional<std::string> &Index) {
     const CurrentSection current = SectionToFill(State);
-    IniEntry &array = ArrayToFill(current.Section, FindEntry(current, Name), Name, Index.has_value());
+    IniEntry &array = ArrayToFill(current.Section, FindOrAwaitEntry(current, Name), Name, Index.has_value());
     const auto place = static_cast<std::size_t>(&array - current.Section.Entries.data());
     // For a short array this is quickly made anew; for thousands of them it would take more room than they
     // do.
-    ElementIndex ofShortArray;
+    ElementIndex temporary;
     ElementIndex &elements =
-        array.Elements.size() < LongArray ? ofShortArray : State.Elements[{current.Place, place}];
+        array.Elements.size() < LongArray ? temporary : State.Elements[{current.Place, place}];
     const EntryPlace present =
-        Index ? elements.Keys.Find(array.Elements, &IniEntry::Key, *Index) : array.Elements.end();
+        Index ? elements.Keys.FindOrAwait(array.Elements, &IniEntry::Key, *Index) : array.Elements.end();
     SetElement(array, present, Index ? *Index : ChooseIndex(array, elements.Numbers), Scanned.Value,
         Scanned.Quoted, CommentOrNone(Scanned.Comment));
 }
@@ -142,7 +142,6 @@ void ReadKeyLine(ReadState &State, std::string_view Line) {
     }
     const ScannedValue scanned = ScanValue(Line.substr(separatorAt + 1), State.Error);
     if (State.Error.empty()) {
-        State.HasLookalikes = State.HasLookalikes || name.starts_with(ReservedPrefix);
         Store(State, name, scanned, keyText);
     }
 }

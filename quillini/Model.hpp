@@ -23,9 +23,6 @@ IniSection &SectionToFill(IniDocument &Document, std::string_view Name);
 /// Appends a section of a name that no other one has.
 IniSection &AppendSection(IniDocument &Document, std::string_view Name);
 
-/// What every reserved key begins with.
-inline constexpr std::string_view ReservedPrefix = "QI_";
-
 /// A comment line under the section's next reserved key, which counts as handed out then.
 IniEntry NextComment(IniSection &Section, std::string_view Text);
 

@@ -19,7 +19,7 @@ public:
     /// The first item of a name, or the end of the list: then the next item of the list has to be of that
     /// name.
     template <class Item>
-    typename std::vector<Item>::iterator Find(
+    typename std::vector<Item>::iterator FindOrAwait(
         std::vector<Item> &List, std::string Item::*Name, std::string_view Wanted) {
         if (List.empty()) {
             return List.end();

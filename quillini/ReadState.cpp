@@ -11,7 +11,7 @@ namespace quillINI {
 
 CurrentSection SectionToFill(ReadState &State) {
     std::vector<IniSection> &sections = State.Document.Sections;
-    const auto present = State.Sections.Find(sections, &IniSection::Name, State.Section);
+    const auto present = State.Sections.FindOrAwait(sections, &IniSection::Name, State.Section);
     const auto place = static_cast<std::size_t>(present - sections.begin());
     if (place == sections.size()) {
         AppendSection(State.Document, State.Section);
@@ -20,8 +20,8 @@ CurrentSection SectionToFill(ReadState &State) {
     return {sections[place], State.Entries[place], place};
 }
 
-EntryPlace FindEntry(const CurrentSection &Current, std::string_view Key) {
-    return Current.Keys.Find(Current.Section.Entries, &IniEntry::Key, Key);
+EntryPlace FindOrAwaitEntry(const CurrentSection &Current, std::string_view Key) {
+    return Current.Keys.FindOrAwait(Current.Section.Entries, &IniEntry::Key, Key);
 }
 
 } // namespace quillINI

@@ -26,9 +26,6 @@ struct ReadState {
     std::string Section;
     /// The words of all syntax errors of a line, empty without one; reading stops behind that line.
     std::string Error;
-    /// Whether a key of the document may begin like a reserved one. While none does, a comment or blank line
-    /// need not be looked for.
-    bool HasLookalikes = false;
 
     // Beside the lists of the document, so that no line is compared with all before it: a file of ten
     // megabytes would take minutes.
@@ -48,8 +45,8 @@ struct CurrentSection {
 /// The current section, appended to the document if it is absent.
 CurrentSection SectionToFill(ReadState &State);
 
-/// The entry of that key in the section.
-EntryPlace FindEntry(const CurrentSection &Current, std::string_view Key);
+/// The entry of that key in the section, or the end: then the next entry has to be one of that key.
+EntryPlace FindOrAwaitEntry(const CurrentSection &Current, std::string_view Key);
 
 /// The text of a comment without one leading blank and without the line feed at its end. Rest is what stands
 /// behind the comment character.

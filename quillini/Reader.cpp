@@ -25,15 +25,9 @@ std::string_view WithoutLeadingSpace(std::string_view Line) {
     return Line;
 }
 
-bool HasEntries(const IniDocument &Document) {
-    return std::ranges::any_of(Document.Sections, [](const IniSection &Section) {
-        return !Section.Entries.empty();
-    });
-}
-
-/// Appends a comment or blank line, unless a key has swallowed it.
-void AppendLine(const CurrentSection &Current, IniEntry Line, bool KeyMayBeTaken) {
-    if (!KeyMayBeTaken || FindEntry(Current, Line.Key) == Current.Section.Entries.end()) {
+// NOT-BUGS: A key that looks like a reserved one swallows a comment or a blank line
+void AppendLine(const CurrentSection &Current, IniEntry Line) {
+    if (FindOrAwaitEntry(Current, Line.Key) == Current.Section.Entries.end()) {
         Current.Section.Entries.push_back(std::move(Line));
     }
 }
@@ -42,10 +36,10 @@ void ReadLine(ReadState &State, std::string_view Line) {
     const std::string_view text = WithoutLeadingSpace(Line);
     if (text.empty()) {
         const CurrentSection current = SectionToFill(State);
-        AppendLine(current, NextEmptyLine(current.Section), State.HasLookalikes);
+        AppendLine(current, NextEmptyLine(current.Section));
     } else if (text.front() == ';' || text.front() == '#') {
         const CurrentSection current = SectionToFill(State);
-        AppendLine(current, NextComment(current.Section, CommentText(text.substr(1))), State.HasLookalikes);
+        AppendLine(current, NextComment(current.Section, CommentText(text.substr(1))));
     } else if (text.front() == '[') {
         ReadSectionTag(State, text.substr(1));
     } else {
@@ -92,7 +86,6 @@ bool ReadIniFile(IniDocument &Document, std::string_view Path) {
     ReadState state{.Document = Document,
         .Section = std::string(IniGlobalSection),
         .Error = {},
-        .HasLookalikes = HasEntries(Document), // those may have any keys
         .Sections = {},
         .Entries = {},
         .Elements = {}};

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "store/Paths.hpp"
-#include "store/PlainFile.hpp"
 #include "store/Storage.hpp"
 
 #include <cstdio>
@@ -9,19 +8,14 @@
 
 /// Calls Use(path) with the path of a plain file in the preferences folder, and then removes the file. Use
 /// writes it before it is read, so what a crash has left there is never read. False if there is no such
-/// folder, otherwise what Use gives. If Use throws, the file stays. What is no regular file stays as well: the
-/// game has not put it there, and until it is gone nothing is read or written by that name.
-/// NOT-BUGS: A pipe, a device or a folder in the place of a file stays there
+/// folder, otherwise what Use gives. If Use throws, the file stays.
 template <typename Step> bool UseStagingFile(const char *StagingName, Step Use) {
     const std::string staging = PrefFilePath(StagingName);
     if (staging.empty()) {
         return false;
     }
-    const bool isTaken = IsOtherThanFile(staging); // asked first, so that SDL's error is that of Use
     const bool done = Use(staging);
-    if (!isTaken) {
-        std::remove(staging.c_str()); // in UTF-8, which on Windows has to be the program's code page
-    }
+    std::remove(staging.c_str()); // in UTF-8, which on Windows has to be the program's code page
     return done;
 }
 

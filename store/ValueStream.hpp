@@ -55,7 +55,7 @@ public:
     bool Close();
 
 private:
-    bool TellFailure() const;
+    void TellFailure() const;
     void WriteTag(ValueTag Tag);
     template <typename Number> void WriteNumber(Number Value);
     void WriteBytes(const void *Bytes, std::size_t Size);

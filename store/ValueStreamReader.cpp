@@ -8,7 +8,7 @@ namespace {
 
 constexpr ValueTag LastTag = ValueTag::ObjectBegin;
 
-/// What is larger is read as well; but some systems give a folder the largest size there is.
+/// What is larger is read as well; but a file of holes can tell any size.
 constexpr long MaxReservation = 1L << 20;
 
 /// As far as Position reaches; what lies behind is not read.

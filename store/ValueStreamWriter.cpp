@@ -7,7 +7,10 @@ bool ValueStreamWriter::Open(const std::string &NewPath) {
     Path = NewPath;
     IsWhole = true;
     File = OpenPlainFile(Path, "wb");
-    return File != nullptr || TellFailure();
+    if (!File) {
+        TellFailure();
+    }
+    return File != nullptr;
 }
 
 void ValueStreamWriter::BeginObject() {
@@ -50,13 +53,15 @@ void ValueStreamWriter::WriteDouble(double Value) {
 
 bool ValueStreamWriter::Close() {
     const bool isClosed = std::fclose(File.release()) == 0; // writes what was still held back
-    return (IsWhole && isClosed) || TellFailure();
+    if (!IsWhole || !isClosed) {
+        TellFailure();
+    }
+    return IsWhole && isClosed;
 }
 
-/// Says that the file could not be written; always false.
-bool ValueStreamWriter::TellFailure() const {
+/// Says that the file could not be written.
+void ValueStreamWriter::TellFailure() const {
     std::fprintf(stderr, "Unable to write file: %s\n", Path.c_str());
-    return false;
 }
 
 void ValueStreamWriter::WriteTag(ValueTag Tag) {

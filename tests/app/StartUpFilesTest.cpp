@@ -165,20 +165,23 @@ TEST_F(StartUpFiles, PipesInThePlacesOfTheFilesAreLeftAlone) {
     EXPECT_TRUE(IsSpecialFile(Home.FilePath("SaveState.bin")));
 }
 
-TEST_F(StartUpFiles, PipesInThePlacesOfPlainFilesLeaveThePlayersFilesAsTheyWere) {
+TEST_F(StartUpFiles, PipesInThePlacesOfPlainFilesAreRemovedByTheReadsThatTheyFail) {
     const TimeLimit limit;
     Visit();
     const std::string config = Contents("Config.ini");
     const std::string save = Contents("SaveState.bin");
-    for (const char *name : {".Config.ini.tmp", ".SaveState.bin.tmp", ".TitleStorageRead.tmp"}) {
+    const auto plainFiles = {".Config.ini.tmp", ".SaveState.bin.tmp", ".TitleStorageRead.tmp"};
+    for (const char *name : plainFiles) {
         MakePipe(Home.FilePath(name));
     }
     const LogCatcher log;
     Visit();
-    EXPECT_EQ(log.Lines, (Lines{NoIconsLine, "Failed to create default options config: Config.ini",
-                             "Failed to write save state: SaveState.bin"}));
+    EXPECT_EQ(log.Lines, Lines{NoIconsLine});
     EXPECT_EQ(Contents("Config.ini"), config);
     EXPECT_EQ(Contents("SaveState.bin"), save);
+    for (const char *name : plainFiles) {
+        EXPECT_FALSE(std::filesystem::exists(Home.FilePath(name))) << name;
+    }
 }
 
 /// Start-up with a rate of 144 in the options, at 1920x1080.

@@ -531,8 +531,8 @@ TEST_F(MusicPatterns, OfWhatIsNoRegularFileAreReportedAndNotOpened) {
         EXPECT_FALSE(Load("[Pattern.A]\nFileName = Music/Special.ogg\n"));
         EXPECT_EQ(Log.Lines,
             Lines{"MIX_LoadAudio failed for pattern 'A' (configured='Music/Special.ogg', resolved='" + path +
-                  "'): " + path + " is no regular file"});
-        std::filesystem::remove(path);
+                  "'): not a regular file"});
+        std::filesystem::remove_all(path);
     }
     EXPECT_EQ(Watch.LoadAudio.Count(), 0);
 }

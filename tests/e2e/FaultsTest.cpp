@@ -138,19 +138,21 @@ TEST(Faults, PipesInThePlacesOfItsFilesAreLeftAloneAndTheGamePlays) {
     }
 }
 
-TEST(Faults, PipesInThePlacesOfItsPlainFilesLeaveThePlayersFilesAsTheyWere) {
+// Each fails the one read that it meets, which removes it.
+TEST(Faults, PipesInThePlacesOfItsPlainFilesDoNotKeepItWaiting) {
     const PreparedHome home;
-    const std::string save = MadeSave({.HighScore = 4711});
-    home.Put(SaveFile, save);
-    for (const char *name : {".Config.ini.tmp", ".SaveState.bin.tmp", ".TitleStorageRead.tmp"}) {
+    const auto plainFiles = {".Config.ini.tmp", ".SaveState.bin.tmp", ".TitleStorageRead.tmp"};
+    for (const char *name : plainFiles) {
         MakePipe(StoredPath(home, name));
     }
     PlayedGame game({}, {}, &home);
-    EXPECT_EQ(CountLines(game, FirstOptionsFailed), 1);
-    EXPECT_TRUE(WritesLines(game, SaveFailed, 2, PatientDeadline));
+    EXPECT_TRUE(game.Tap(Key::Left, CarInLane(0)));
     EXPECT_EQ(game.Close(), std::optional(0));
-    EXPECT_EQ(home.Read(SaveFile), save);
-    EXPECT_EQ(home.Read(OptionsFile), std::nullopt);
+    for (const char *name : plainFiles) {
+        EXPECT_FALSE(std::filesystem::exists(StoredPath(home, name))) << name;
+    }
+    EXPECT_TRUE(home.Read(OptionsFile).has_value());
+    EXPECT_TRUE(home.Read(SaveFile).has_value());
 }
 
 // Where the game's folder should be there is a file: nothing can be read, staged or written.

@@ -171,11 +171,12 @@ TEST_F(SaveOptionsTest, FailWhereSomethingElseTakesThePlainFilesPlace) {
         EXPECT_FALSE(SaveOptions(State));
         EXPECT_EQ(testing::internal::GetCapturedStdout(),
             "Unable to write INI file: " + PathOf(".Config.ini.tmp").string() + "\n");
+        ExpectRemoved(special, PathOf(".Config.ini.tmp"));
+        special.Make(PathOf(".Config.ini.tmp"));
         EXPECT_FALSE(LoadOptions(State));
         EXPECT_EQ(State.MasterVolume, 7);
         EXPECT_EQ(Stored("Config.ini"), DefaultOptionsText);
-        EXPECT_TRUE(IsSpecialFile(PathOf(".Config.ini.tmp")));
-        std::filesystem::remove(PathOf(".Config.ini.tmp"));
+        ExpectRemoved(special, PathOf(".Config.ini.tmp"));
     }
 }
 
@@ -188,7 +189,7 @@ TEST_F(SaveOptionsTest, FailWhereSomethingElseTakesTheFilesPlace) {
         EXPECT_FALSE(Load());
         EXPECT_EQ(Printed, "");
         EXPECT_TRUE(IsSpecialFile(PathOf("Config.ini")));
-        std::filesystem::remove(PathOf("Config.ini"));
+        std::filesystem::remove_all(PathOf("Config.ini"));
     }
 }
 

@@ -124,8 +124,7 @@ TEST_F(StagedFileTest, IsNotReadWhereSomethingElseTakesThePlainFilesName) {
         special.Make(PathOf(".a.bin.tmp"));
         EXPECT_FALSE(Read(true));
         EXPECT_EQ(Steps, 0);
-        EXPECT_TRUE(IsSpecialFile(PathOf(".a.bin.tmp")));
-        std::filesystem::remove(PathOf(".a.bin.tmp"));
+        ExpectRemoved(special, PathOf(".a.bin.tmp"));
     }
     EXPECT_EQ(Watch.SaveFile.Count(), 0);
     EXPECT_EQ(Stored("a.bin"), "old");
@@ -142,8 +141,7 @@ TEST_F(StagedFileTest, IsNotWrittenWhereSomethingElseTakesThePlainFilesName) {
         EXPECT_FALSE(WriteStagedFile(File, [](const std::string &) {
             return true;
         }));
-        EXPECT_TRUE(IsSpecialFile(PathOf(".a.bin.tmp")));
-        std::filesystem::remove(PathOf(".a.bin.tmp"));
+        ExpectRemoved(special, PathOf(".a.bin.tmp"));
     }
     EXPECT_EQ(Watch.LoadFile.Count(), 0);
     EXPECT_EQ(Stored("a.bin"), "old");
@@ -159,7 +157,7 @@ TEST_F(StagedFileTest, IsNeitherReadNorWrittenWhereSomethingElseHasItsName) {
         EXPECT_FALSE(Write(true));
         EXPECT_TRUE(IsSpecialFile(PathOf("a.bin")));
         EXPECT_FALSE(std::filesystem::exists(PathOf(".a.bin.tmp")));
-        std::filesystem::remove(PathOf("a.bin"));
+        std::filesystem::remove_all(PathOf("a.bin"));
     }
     EXPECT_EQ(Watch.ReadStorageFile.Count(), 0);
     EXPECT_EQ(Watch.WriteStorageFile.Count(), 0);

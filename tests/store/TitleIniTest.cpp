@@ -105,7 +105,7 @@ TEST_F(TitleIni, IsReadBesideTheProgramIfTitleStoragesIsNoRegularFile) {
         EXPECT_EQ(Value("From"), "base");
         EXPECT_EQ(Printed, "");
         ExpectNoStagingFile();
-        std::filesystem::remove(Title / Path);
+        std::filesystem::remove_all(Title / Path);
     }
 }
 
@@ -118,7 +118,7 @@ TEST_F(TitleIni, IsFalseWhereWhatIsShippedIsNoRegularFile) {
         EXPECT_FALSE(Read());
         EXPECT_EQ(Printed, "Unable to open INI file: " + BaseText + "/Music/Patterns.ini\n");
         ExpectNoStagingFile();
-        std::filesystem::remove(Base / Path);
+        std::filesystem::remove_all(Base / Path);
     }
 }
 
@@ -132,8 +132,7 @@ TEST_F(TitleIni, IsReadBesideTheProgramIfSomethingElseTakesThePlainFilesName) {
         Document = {};
         EXPECT_TRUE(Read());
         EXPECT_EQ(Value("From"), "base");
-        EXPECT_TRUE(IsSpecialFile(PathOf(".TitleStorageRead.tmp")));
-        std::filesystem::remove(PathOf(".TitleStorageRead.tmp"));
+        ExpectRemoved(special, PathOf(".TitleStorageRead.tmp"));
     }
 }
 

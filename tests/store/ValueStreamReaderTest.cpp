@@ -333,7 +333,7 @@ TEST_F(ValueStreamReaderTest, TellsOfWhatIsNoRegularFileAndDoesNotOpenIt) {
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "Unable to read file: " + Path + "!\n");
         ExpectNone();
         EXPECT_TRUE(IsSpecialFile(Path));
-        std::filesystem::remove(Path);
+        std::filesystem::remove_all(Path);
     }
 }
 

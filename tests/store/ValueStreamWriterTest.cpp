@@ -139,7 +139,7 @@ TEST_F(ValueStreamWriterTest, TellsOfWhatIsNoRegularFileAndLeavesIt) {
         EXPECT_FALSE(writer.Open(path));
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "Unable to write file: " + path + "\n");
         EXPECT_TRUE(IsSpecialFile(path));
-        std::filesystem::remove(path);
+        std::filesystem::remove_all(path);
     }
 }
 

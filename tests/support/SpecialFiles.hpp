@@ -20,6 +20,7 @@ inline void MakePipe(const std::filesystem::path &Path) {
 struct SpecialFile {
     const char *Kind;
     void (*Make)(const std::filesystem::path &Path);
+    bool CanBeRemoved = true; ///< by std::remove
 };
 
 inline constexpr std::array SpecialFiles{
@@ -32,6 +33,11 @@ inline constexpr std::array SpecialFiles{
         [](const std::filesystem::path &Path) {
             std::filesystem::create_directory(Path);
         }},
+    SpecialFile{"folder with something in it",
+        [](const std::filesystem::path &Path) {
+            std::filesystem::create_directories(Path / "kept");
+        },
+        false},
     SpecialFile{"device that never ends",
         [](const std::filesystem::path &Path) {
             std::filesystem::create_symlink("/dev/zero", Path);
@@ -53,6 +59,12 @@ inline constexpr std::array SpecialFiles{
 /// Whether there is still what was made there, and no file.
 inline bool IsSpecialFile(const std::filesystem::path &Path) {
     return std::filesystem::exists(Path) && !std::filesystem::is_regular_file(Path);
+}
+
+/// Expects that what was made there is gone, if it can be removed, and clears the place.
+inline void ExpectRemoved(const SpecialFile &Special, const std::filesystem::path &Path) {
+    EXPECT_EQ(IsSpecialFile(Path), !Special.CanBeRemoved);
+    std::filesystem::remove_all(Path);
 }
 
 /// Ends the test program if it lives longer than a minute: what waits for the other end of a pipe would do so
