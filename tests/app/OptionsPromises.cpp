@@ -24,9 +24,8 @@ std::string BrokenValue(const GameState &State) {
         {"ControlsSelection", State.ControlsSelection >= 0 && State.ControlsSelection < 10},
         {"GraphicsSelection", State.GraphicsSelection >= 0 && State.GraphicsSelection < 9},
         {"AudioSelection", State.AudioSelection >= 0 && State.AudioSelection < 10},
-        {"ResolutionIndex",
-            State.ResolutionIndex >= 0 &&
-                State.ResolutionIndex < static_cast<std::int32_t>(State.Resolutions.size())},
+        {"ResolutionIndex", State.ResolutionIndex >= 0 &&
+                                State.ResolutionIndex < static_cast<std::int32_t>(State.Resolutions.size())},
         {"RefreshRate", std::ranges::count(State.RefreshRates, State.RefreshRate) == 1},
         {"PendingMasterVolume", IsPercentage(State.PendingMasterVolume)},
         {"PendingMusicVolume", IsPercentage(State.PendingMusicVolume)},

@@ -16,8 +16,8 @@ constexpr std::size_t MostDevices = 4;
 constexpr SDL_JoystickID MadeUpId = 0x40000000;
 
 /// The ends of the range, and both sides of each threshold.
-constexpr std::array<Sint16, 16> AxisValues{-32768, -32767, -19000, -18999, -11000, -10999, -9001, -9000, 0, 9000,
-    9001, 10999, 11000, 18999, 19000, 32767};
+constexpr std::array<Sint16, 16> AxisValues{-32768, -32767, -19000, -18999, -11000, -10999, -9001, -9000, 0,
+    9000, 9001, 10999, 11000, 18999, 19000, 32767};
 
 /// Usual ones, one that has nothing at all, and one that has more than anybody would hold.
 constexpr std::array Shapes{GamepadShape, JoystickShape, DeviceShape{SDL_JOYSTICK_TYPE_GAMEPAD, 1, 2, 1},
@@ -187,7 +187,8 @@ void RandomEvents::PushKey(const Program &Game) {
     const bool wasHeld = place < Held.size() && Held.at(place);
     SDL_Event event = EventOf(isDown ? SDL_EVENT_KEY_DOWN : SDL_EVENT_KEY_UP);
     event.key.scancode = static_cast<SDL_Scancode>(key);
-    event.key.key = Draw(2) == 0 ? SDL_GetKeyFromScancode(event.key.scancode, SDL_KMOD_NONE, true) : Draw(1000);
+    event.key.key =
+        Draw(2) == 0 ? SDL_GetKeyFromScancode(event.key.scancode, SDL_KMOD_NONE, true) : Draw(1000);
     event.key.mod = static_cast<SDL_Keymod>(Draw(65536));
     event.key.raw = static_cast<Uint16>(Draw(65536));
     event.key.windowID = Draw(2) == 0 ? SDL_GetWindowID(Game.Window) : Draw(1000);

@@ -13,9 +13,9 @@
 
 struct Program;
 
-/// Events of every kind, likely and unlikely ones, as a seed and the program's state draw them: put into SDL's
-/// queue by hand, or raised by virtual devices. What no SDL would hand out is left out, and so are requests
-/// to quit, behind which the queue is not read.
+/// Events of every kind, likely and unlikely ones, as a seed and the program's state draw them: put into
+/// SDL's queue by hand, or raised by virtual devices. What no SDL would hand out is left out, and so are
+/// requests to quit, behind which the queue is not read.
 class RandomEvents {
 public:
     explicit RandomEvents(std::uint32_t Seed) : Random(Seed) {}

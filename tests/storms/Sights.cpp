@@ -40,8 +40,10 @@ bool AppliesControls(const Frame &Seen) {
 
 bool AppliesAudio(const Frame &Seen) {
     return Seen.Before.MasterVolume != Seen.After.MasterVolume ||
-           Seen.Before.MusicVolume != Seen.After.MusicVolume || Seen.Before.SfxVolume != Seen.After.SfxVolume ||
-           Seen.Before.MusicEnabled != Seen.After.MusicEnabled || Seen.Before.SfxEnabled != Seen.After.SfxEnabled;
+           Seen.Before.MusicVolume != Seen.After.MusicVolume ||
+           Seen.Before.SfxVolume != Seen.After.SfxVolume ||
+           Seen.Before.MusicEnabled != Seen.After.MusicEnabled ||
+           Seen.Before.SfxEnabled != Seen.After.SfxEnabled;
 }
 
 struct Sight {

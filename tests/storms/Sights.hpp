@@ -12,8 +12,8 @@ class Sights {
 public:
     Sights();
 
-    /// Looks at a frame: the record before it, the program after it, and whether it brought the window in line
-    /// with the options.
+    /// Looks at a frame: the record before it, the program after it, and whether it brought the window in
+    /// line with the options.
     void Note(const GameState &Before, const Program &After, bool AppliesDisplay);
 
     /// What was never met.
