@@ -221,17 +221,19 @@ void RandomEvents::PushGamepadButton(const Program &Game) {
 void RandomEvents::PushJoystickPart(const Program &Game) {
     SDL_Event event = EventOf(SDL_EVENT_JOYSTICK_AXIS_MOTION);
     if (Draw(2) == 0) {
+        event.jaxis.which = DrawId(Game);
         event.jaxis.axis = static_cast<Uint8>(Draw(4) == 0 ? Draw(256) : Draw(2));
         event.jaxis.value = DrawAxisValue();
     } else if (Draw(4) > 0) {
         event.type = SDL_EVENT_JOYSTICK_HAT_MOTION;
+        event.jhat.which = DrawId(Game);
         event.jhat.hat = static_cast<Uint8>(Draw(256));
         event.jhat.value = static_cast<Uint8>(Draw(4) == 0 ? Draw(256) : 1U << Draw(4));
     } else {
         event.type = SDL_EVENT_JOYSTICK_BALL_MOTION;
+        event.jball.which = DrawId(Game);
         event.jball.xrel = DrawAxisValue();
     }
-    event.jdevice.which = DrawId(Game); // where it stands in the others as well
     PushAsDevice(event);
 }
 
@@ -248,7 +250,7 @@ void RandomEvents::PushDeviceRumour(const Program &Game) {
     constexpr std::array types{SDL_EVENT_GAMEPAD_ADDED, SDL_EVENT_GAMEPAD_REMOVED, SDL_EVENT_JOYSTICK_ADDED,
         SDL_EVENT_JOYSTICK_REMOVED};
     SDL_Event event = EventOf(DrawFrom<SDL_EventType>(types));
-    event.jdevice.which = DrawId(Game); // in the events of gamepads as well
+    event.jdevice.which = DrawId(Game); // where it stands in the events of gamepads as well
     PushAsDevice(event);
 }
 

@@ -25,6 +25,11 @@ public:
         return static_cast<std::uint32_t>(Random()) % Below;
     }
 
+    /// One of them.
+    template <typename Value> Value DrawFrom(std::span<const Value> Values) {
+        return Values[Draw(static_cast<std::uint32_t>(Values.size()))];
+    }
+
     /// Puts an event into the queue, mostly that of a menu's key.
     void PushKeyOrOther(const Program &Game);
 
@@ -51,9 +56,6 @@ private:
     };
     static const std::array<Kind, 10> Kinds;
 
-    template <typename Value> Value DrawFrom(std::span<const Value> Values) {
-        return Values[Draw(static_cast<std::uint32_t>(Values.size()))];
-    }
     SDL_Event DrawBytes();
     std::int32_t DrawScancode(const Program &Game);
     SDL_JoystickID DrawId(const Program &Game);

@@ -213,6 +213,7 @@ void Storm::Launch() {
     Displays.List = Drawn.Draw(4) == 0 ? std::vector<FakeDisplay>{} : KnownDisplays;
     Displays.Primary = Displays.OfWindow = Displays.List.empty() ? 0 : KnownDisplays.front().Id;
     Game = std::make_unique<Program>();
+    Log.Lines.clear();
     ASSERT_TRUE(StartUp(*Game)) << SDL_GetError() << ' ' << TellPlace();
     ASSERT_EQ(Log.Lines, std::vector{NoIconsLine}) << TellPlace();
     Game->State.Rng.seed(Drawn.Draw(1000000));
@@ -235,7 +236,7 @@ Spell Storm::DrawSpell() {
     const bool isPlaying = Game->State.Screen == ScreenPlaying;
     const std::uint32_t drawn = Drawn.Draw(10);
     if (drawn < (isPlaying ? 6U : 2U)) {
-        return {5 + Drawn.Draw(isPlaying ? 300 : 20), MostEventsInFrame, &RandomEvents::PushHarmless};
+        return {5 + Drawn.Draw(isPlaying ? 300U : 20U), MostEventsInFrame, &RandomEvents::PushHarmless};
     }
     if (drawn < 9) {
         return {5 + Drawn.Draw(60), 5, &RandomEvents::PushKeyOrOther};
@@ -248,7 +249,7 @@ void Storm::RunFrameIn(const Spell &Weather) {
         (Drawn.*Weather.Push)(*Game);
     }
     Events += SDL_PeepEvents(nullptr, 0, SDL_PEEKEVENT, SDL_EVENT_FIRST, SDL_EVENT_LAST);
-    Now += FrameLengths.at(Drawn.Draw(FrameLengths.size()));
+    Now += Drawn.DrawFrom<Uint64>(FrameLengths);
     const GameState before = Game->State;
     Watch.Forget();
     Log.Lines.clear();
