@@ -73,6 +73,19 @@ bool Leaves(const GameState &State, std::int32_t Key) {
     return IsKeyEscape(Key) || (IsKeyActivate(Key) && State.Screen != ScreenPlaying);
 }
 
+bool IsOnApply(const GameState &State) {
+    switch (State.OptionsPage) {
+    case OptionsPageControls:
+        return State.ControlsSelection == static_cast<std::int32_t>(ControlsRow::Apply);
+    case OptionsPageGraphics:
+        return State.GraphicsSelection == static_cast<std::int32_t>(GraphicsRow::Apply);
+    case OptionsPageAudio:
+        return State.AudioSelection == static_cast<std::int32_t>(AudioRow::Apply);
+    default:
+        return false;
+    }
+}
+
 /// Whether a key would end the program.
 bool Quits(const GameState &State, std::int32_t Key) {
     const bool isOnQuit = State.MainMenuSelection + 1 == MainMenuRowCount(State.HasRunState);
@@ -95,7 +108,12 @@ const std::array<RandomEvents::Kind, 10> RandomEvents::Kinds{{
 }};
 
 void RandomEvents::PushKeyOrOther(const Program &Game) {
-    if (Draw(3) > 0) {
+    const bool isCapturing = Game.State.CaptureActive && Draw(4) == 0;
+    if (isCapturing && Game.State.CaptureKind == CaptureKindGamepad) {
+        PushGamepadButton(Game);
+    } else if (isCapturing && Game.State.CaptureKind == CaptureKindJoystick) {
+        PushJoystickButton(Game);
+    } else if (Draw(3) > 0) {
         PushKey(Game);
     } else {
         PushAny(Game);
@@ -136,16 +154,25 @@ SDL_Event RandomEvents::DrawBytes() {
 
 /// Keys of menus, keys that are bound, and any other; some are beyond the last of SDL's.
 std::int32_t RandomEvents::DrawScancode(const Program &Game) {
-    const std::uint32_t kind = Draw(8);
+    const std::uint32_t kind = Draw(12);
     std::int32_t key = DrawFrom<int>(WalkedKeys);
     if (kind == 0) {
         key = static_cast<std::int32_t>(Draw(2 * SDL_SCANCODE_COUNT));
     } else if (kind <= 2) {
         key = DrawFrom<std::int32_t>(Game.State.KeyboardBindings);
     }
-    // The main menu would not be seen for long.
-    const bool isRefused = IsHarmless ? Leaves(Game.State, key) : Quits(Game.State, key) && Draw(8) > 0;
-    return isRefused ? DownKey : key;
+    if (IsHarmless) {
+        return Leaves(Game.State, key) ? DownKey : key;
+    }
+    // In play nearly no key means anything, little that is changed would be applied, and the main menu would
+    // not be seen for long.
+    if (Game.State.Screen == ScreenPlaying && Draw(8) == 0) {
+        return EscapeKey;
+    }
+    if (IsOnApply(Game.State) && Draw(4) == 0) {
+        return EnterKey;
+    }
+    return Quits(Game.State, key) && Draw(8) > 0 ? DownKey : key;
 }
 
 /// The devices that the program has opened, one of those that are there, and some that are not.
@@ -183,7 +210,7 @@ Uint8 RandomEvents::DrawButton(const Program &Game, std::int32_t FireButton) {
 void RandomEvents::PushKey(const Program &Game) {
     const std::int32_t key = DrawScancode(Game);
     const auto place = static_cast<std::size_t>(key);
-    const bool isDown = Draw(3) > 0;
+    const bool isDown = Draw(4) > 0;
     const bool wasHeld = place < Held.size() && Held.at(place);
     SDL_Event event = EventOf(isDown ? SDL_EVENT_KEY_DOWN : SDL_EVENT_KEY_UP);
     event.key.scancode = static_cast<SDL_Scancode>(key);
@@ -195,7 +222,7 @@ void RandomEvents::PushKey(const Program &Game) {
     event.key.which = Draw(4);
     event.key.down = isDown != (Draw(50) == 0);
     // Not each time, or a held key would not be heard again before it is released.
-    event.key.repeat = isDown && Draw(2) == 0 && (wasHeld || Draw(50) == 0);
+    event.key.repeat = isDown && Draw(3) == 0 && (wasHeld || Draw(50) == 0);
     if (place < Held.size()) {
         Held.at(place) = isDown;
     }
@@ -218,20 +245,24 @@ void RandomEvents::PushGamepadButton(const Program &Game) {
     PushAsDevice(event);
 }
 
+/// Axes and hats of gamepads are moved by MoveDevice alone: SDL translates them by tables that are as long as
+/// the device has them.
 void RandomEvents::PushJoystickPart(const Program &Game) {
     SDL_Event event = EventOf(SDL_EVENT_JOYSTICK_AXIS_MOTION);
+    SDL_JoystickID id = DrawId(Game);
+    id = SDL_GetGamepadFromID(id) == nullptr ? id : MadeUpId;
     if (Draw(2) == 0) {
-        event.jaxis.which = DrawId(Game);
+        event.jaxis.which = id;
         event.jaxis.axis = static_cast<Uint8>(Draw(4) == 0 ? Draw(256) : Draw(2));
         event.jaxis.value = DrawAxisValue();
     } else if (Draw(4) > 0) {
         event.type = SDL_EVENT_JOYSTICK_HAT_MOTION;
-        event.jhat.which = DrawId(Game);
+        event.jhat.which = id;
         event.jhat.hat = static_cast<Uint8>(Draw(256));
         event.jhat.value = static_cast<Uint8>(Draw(4) == 0 ? Draw(256) : 1U << Draw(4));
     } else {
         event.type = SDL_EVENT_JOYSTICK_BALL_MOTION;
-        event.jball.which = DrawId(Game);
+        event.jball.which = id;
         event.jball.xrel = DrawAxisValue();
     }
     PushAsDevice(event);

@@ -30,7 +30,7 @@ public:
         return Values[Draw(static_cast<std::uint32_t>(Values.size()))];
     }
 
-    /// Puts an event into the queue, mostly that of a menu's key.
+    /// Puts an event into the queue: mostly that of a menu's key, and often what a capture waits for.
     void PushKeyOrOther(const Program &Game);
 
     /// Puts an event of any kind into the queue.

@@ -43,7 +43,7 @@ bool AppliesAudio(const Frame &Seen) {
            Seen.Before.MusicVolume != Seen.After.MusicVolume ||
            Seen.Before.SfxVolume != Seen.After.SfxVolume ||
            Seen.Before.MusicEnabled != Seen.After.MusicEnabled ||
-           Seen.Before.SfxEnabled != Seen.After.SfxEnabled;
+           Seen.Before.SfxEnabled != Seen.After.SfxEnabled || Seen.Before.Language != Seen.After.Language;
 }
 
 struct Sight {
