@@ -28,13 +28,18 @@ long PlaceOf(double Value, double Most, int Length) {
     return Most > 0.0 ? std::lround(Value / Most * Length) : 0;
 }
 
+double InTenths(double Value) {
+    return std::round(Value * 10.0) / 10.0;
+}
+
 void DrawPanel(std::ostream &Out, const std::vector<double> &Times, const PlotPanel &Panel, int Top) {
     const double most = Largest(Panel);
-    Out << "<text x=\"" << Margin << "\" y=\"" << Top - 6 << "\">" << Panel.Title << ", up to " << most
-        << "</text>\n<rect x=\"" << Margin << "\" y=\"" << Top << "\" width=\"" << Width << "\" height=\""
-        << Height << "\" fill=\"none\" stroke=\"#999\"/>\n";
+    Out << "<text x=\"" << Margin << "\" y=\"" << Top - 6 << "\">" << Panel.Title << ", up to "
+        << InTenths(most) << "</text>\n<rect x=\"" << Margin << "\" y=\"" << Top << "\" width=\"" << Width
+        << "\" height=\"" << Height << "\" fill=\"none\" stroke=\"#999\"/>\n";
     for (std::size_t line = 0; line < Panel.Lines.size(); ++line) {
-        Out << "<polyline fill=\"none\" stroke=\"" << Colors.at(line % Colors.size()) << "\" points=\"";
+        Out << "<polyline fill=\"none\" stroke-width=\"2\" stroke=\"" << Colors.at(line % Colors.size())
+            << "\" points=\"";
         for (std::size_t i = 0; i < Times.size(); ++i) {
             Out << Margin + PlaceOf(Times[i], Times.back(), Width) << ','
                 << Top + Height - PlaceOf(Panel.Lines[line].at(i), most, Height) << ' ';
@@ -55,6 +60,6 @@ std::string DrawPlot(const std::vector<double> &Times, const std::vector<PlotPan
         DrawPanel(out, Times, Panels[i], static_cast<int>(i) * (Margin + Height) + Margin);
     }
     out << "<text x=\"" << Margin << "\" y=\"" << bottom + 20 << "\">0 to "
-        << (Times.empty() ? 0.0 : Times.back()) << " seconds</text>\n</svg>\n";
+        << InTenths(Times.empty() ? 0.0 : Times.back()) << " seconds</text>\n</svg>\n";
     return out.str();
 }

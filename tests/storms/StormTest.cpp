@@ -308,5 +308,8 @@ TEST_F(Storm, OfEventsOfEveryKindBreaksNothing) {
     }
     std::printf("%lld events in %lld frames, of which showed:\n%s", static_cast<long long>(Events),
         static_cast<long long>(Frames), Met.Table().c_str());
-    EXPECT_EQ(Met.Missing(), std::vector<std::string>{});
+    // A single one that is repeated need not have met all.
+    if (std::getenv("STORM_SEED") == nullptr) {
+        EXPECT_EQ(Met.Missing(), std::vector<std::string>{});
+    }
 }
