@@ -155,7 +155,7 @@ SDL_Event RandomEvents::DrawBytes() {
 /// Keys of menus, keys that are bound, and any other; some are beyond the last of SDL's.
 std::int32_t RandomEvents::DrawScancode(const Program &Game) {
     const std::uint32_t kind = Draw(12);
-    std::int32_t key = DrawFrom<int>(WalkedKeys);
+    auto key = DrawFrom<std::int32_t>(WalkedKeys);
     if (kind == 0) {
         key = static_cast<std::int32_t>(Draw(2 * SDL_SCANCODE_COUNT));
     } else if (kind <= 2) {
@@ -287,7 +287,7 @@ void RandomEvents::PushDeviceRumour(const Program &Game) {
 
 void RandomEvents::PlugInOrOut(const Program & /*Game*/) {
     if (Plugged.empty() || (Plugged.size() < MostDevices && Draw(2) == 0)) {
-        const DeviceShape shape = DrawFrom<DeviceShape>(Shapes);
+        const auto shape = DrawFrom<DeviceShape>(Shapes);
         Plugged.push_back({shape, std::make_unique<VirtualDevice>(shape)});
     } else {
         Plugged.erase(Plugged.begin() + Draw(static_cast<std::uint32_t>(Plugged.size())));
@@ -334,7 +334,7 @@ void RandomEvents::ChangeWindow(const Program &Game) {
 }
 
 void RandomEvents::PushIgnored(const Program & /*Game*/) {
-    const TypeRange range = DrawFrom<TypeRange>(IgnoredTypes);
+    const auto range = DrawFrom<TypeRange>(IgnoredTypes);
     const Uint32 type = range.First + Draw(range.Last - range.First + 1);
     SDL_Event event = range.HasPointers ? EventOf(SDL_EVENT_FIRST) : DrawBytes();
     event.type = type;
