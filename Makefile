@@ -1,9 +1,12 @@
 # The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
 .POSIX:
-.PHONY: help check run test bench fuzz music install clean format
+.PHONY: help check run test bench fuzz storms kills soak music install clean format
 
 PREFIX = /usr/local
 FUZZ_SECONDS = 600
+EVENTS = 10000000
+COUNT = 2000
+SECONDS = 3600
 MAIN_BRANCH = main
 # A job is a quarter of a core: most tests in the window wait most of the time (cmake/Tests.cmake).
 CTEST = ctest -j $$(( $$(getconf _NPROCESSORS_ONLN) * 4 ))
@@ -16,6 +19,9 @@ help:
 	@echo 'make test     set up what is missing and run everything: the game in its window, its rooms under sanitizers'
 	@echo 'make bench    measure drawing, stepping, saving and reading, and the start, memory and pace of the real program'
 	@echo 'make fuzz     feed damaged files to each fuzz target for FUZZ_SECONDS ($(FUZZ_SECONDS))'
+	@echo 'make storms   drive the sanitized game through random events of every kind, EVENTS of them ($(EVENTS))'
+	@echo 'make kills    kill the game COUNT times ($(COUNT)) at random moments and see what the next start finds'
+	@echo 'make soak     play the game for SECONDS ($(SECONDS)) and plot its memory, handles, log and frames'
 	@echo 'make music    play the scores of tools/music into Music/ (the results are kept in the repository)'
 	@echo 'make install  install the game below PREFIX ($(PREFIX)); DESTDIR is honoured'
 	@echo 'make format   lay out the code as .clang-format has it'
@@ -62,6 +68,24 @@ fuzz:
 	cmake --preset sanitizers
 	cmake --build --preset sanitizers --target fuzz_targets
 	fuzz/run long build/sanitizers/fuzz '$(FUZZ_SECONDS)'
+
+storms:
+	@scripts/setup test
+	cmake --preset sanitizers
+	cmake --build --preset sanitizers --target storms_tests
+	STORM_EVENTS='$(EVENTS)' UBSAN_OPTIONS=print_stacktrace=1 build/sanitizers/storms_tests
+
+kills:
+	@scripts/setup test
+	cmake --preset release
+	cmake --build --preset release --target e2e_tests
+	KILLS='$(COUNT)' build/release/tests/e2e/e2e_tests --gtest_filter='Kills.*'
+
+soak:
+	@scripts/setup test
+	cmake --preset release
+	cmake --build --preset release --target e2e_tests
+	SOAK_SECONDS='$(SECONDS)' SOAK_PLOT=build/soak.svg build/release/tests/e2e/e2e_tests --gtest_filter='Soak.*'
 
 music:
 	@scripts/setup music

@@ -5,6 +5,7 @@
 #include "options/GraphicsPage.hpp"
 #include "state/LogicalScreen.hpp"
 #include "state/Resolutions.hpp"
+#include "tests/app/OptionsPromises.hpp"
 #include "tests/app/ProgramTest.hpp"
 #include "tests/support/Keys.hpp"
 #include "tests/support/SameState.hpp"
@@ -21,10 +22,6 @@
 namespace {
 
 constexpr std::array EditPages{OptionsPageControls, OptionsPageGraphics, OptionsPageAudio};
-
-/// Keys that move and change things are drawn more often than the others.
-constexpr std::array DrawnKeys{
-    82, 82, 82, 81, 81, 81, 81, 80, 80, 79, 79, 79, 40, 40, 40, 44, 88, 26, 22, 4, 7, 41, 76, 42, 11, 229};
 
 /// The record without what the open pages edit until it is applied: where they stand, what waits to be
 /// applied, and the sounds. The Graphics page edits its options in place.
@@ -136,7 +133,7 @@ protected:
     }
 
     std::int32_t DrawKey() {
-        return DrawnKeys.at(Random() % DrawnKeys.size());
+        return WalkedKeys.at(Random() % WalkedKeys.size());
     }
 
     bool IsOnApply() {
@@ -202,42 +199,9 @@ protected:
             .size();
     }
 
-    void ExpectSoundRecord();
-    void ExpectSoundEdits();
-
     FakeDisplays Displays{Watch};
     std::mt19937 Random;
 };
-
-/// Every value within its range.
-void OptionsWalk::ExpectSoundRecord() {
-    EXPECT_TRUE(State.OptionsMainSelection >= 0 && State.OptionsMainSelection < 4);
-    EXPECT_TRUE(State.ControlsSelection >= 0 && State.ControlsSelection < 10);
-    EXPECT_TRUE(State.GraphicsSelection >= 0 && State.GraphicsSelection < 9);
-    EXPECT_TRUE(State.AudioSelection >= 0 && State.AudioSelection < 10);
-    EXPECT_TRUE(State.ResolutionIndex >= 0 &&
-                State.ResolutionIndex < static_cast<std::int32_t>(State.Resolutions.size()));
-    EXPECT_EQ(std::ranges::count(State.RefreshRates, State.RefreshRate), 1);
-    for (const std::int32_t volume : {State.PendingMasterVolume, State.PendingMusicVolume,
-             State.PendingSfxVolume, State.MasterVolume, State.MusicVolume, State.SfxVolume}) {
-        EXPECT_TRUE(volume >= 0 && volume <= 100) << volume;
-    }
-    for (const std::int32_t key : State.PendingKeyboard) {
-        EXPECT_TRUE(key >= 0 && key < 512 && key != EscapeKey && key != DeleteKey && key != BackspaceKey)
-            << key;
-    }
-    const auto known = std::ranges::find(Localization.Languages, State.Language, &LanguageEntry::Code);
-    EXPECT_NE(known, Localization.Languages.end());
-}
-
-/// Each page is in edit exactly while it is open, and a capture runs on one page alone.
-void OptionsWalk::ExpectSoundEdits() {
-    EXPECT_EQ(State.PendingControlsValid, State.OptionsPage == OptionsPageControls);
-    EXPECT_EQ(State.GraphicsSnapshotValid, State.OptionsPage == OptionsPageGraphics);
-    EXPECT_EQ(State.PendingAudioValid, State.OptionsPage == OptionsPageAudio);
-    EXPECT_EQ(State.CaptureActive, State.CaptureKind != CaptureKindNone);
-    EXPECT_TRUE(!State.CaptureActive || State.OptionsPage == OptionsPageControls);
-}
 
 TEST_F(OptionsWalk, LeavingWithoutApplyChangesNoAppliedValue) {
     const GameState applied = AppliedOf(State);
@@ -341,11 +305,9 @@ TEST_F(OptionsWalk, RevertLeavesNothingToApply) {
 }
 
 TEST_F(OptionsWalk, EveryKeyLeavesASoundRecord) {
-    for (int step = 0; step < 6000 && !HasFailure(); ++step) {
+    for (int step = 0; step < 6000; ++step) {
         Press(DrawKey());
-        ExpectSoundRecord();
-        ExpectSoundEdits();
-        EXPECT_FALSE(HasFailure()) << "step " << step;
+        ASSERT_EQ(BrokenOption(State), "") << "step " << step;
     }
 }
 

@@ -10,9 +10,6 @@
 #include "tests/support/TemporaryHome.hpp"
 #include "tests/support/watch/SdlWatch.hpp"
 
-/// What start-up says on the drivers that need no hardware, as their windows have no icons.
-inline const std::string NoIconsLine = "SetWindowIconFromAtlas failed: That operation is not supported";
-
 /// The title of the game's window.
 inline constexpr const char *WindowTitle = "Kestrel Volley v0.1.0";
 

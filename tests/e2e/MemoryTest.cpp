@@ -6,9 +6,7 @@
 #include <array>
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
-#include <random>
 #include <string>
 #include <thread>
 
@@ -209,62 +207,4 @@ TEST(Memory, ADamagedSaveIsReplacedByAnEmptyOne) {
     EXPECT_EQ(StoredHighScore(home), std::optional<std::int64_t>(0));
     EXPECT_EQ(StoresRun(home), std::optional(false));
     EXPECT_EQ(game.Close(), std::optional(0));
-}
-
-namespace {
-
-// Plays on for a while, as a person who only wants to score, and is then killed without a warning.
-void PlayAndBeKilled(OpenedGame &Game, std::mt19937 &Random, int MostMilliseconds) {
-    const auto draw = [&Random](int Below) {
-        return static_cast<int>(Random() % static_cast<unsigned>(Below));
-    };
-    constexpr std::array keys{Key::Left, Key::Right, Key::X, Key::Space, Key::Escape};
-    // A few are over on the menu already, most are in the middle of play.
-    const auto end = std::chrono::steady_clock::now() + milliseconds{draw(MostMilliseconds)};
-    Game.Person().TapKey(Key::Return, milliseconds{20});
-    Game.Person().PressKey(Key::LeftControl);
-    while (std::chrono::steady_clock::now() < end) {
-        // Escape twice: a pause that goes on at once.
-        const Key key = keys[static_cast<std::size_t>(draw(static_cast<int>(keys.size())))];
-        Game.Person().TapKey(key, milliseconds{20});
-        if (key == Key::Escape) {
-            Game.Person().TapKey(key, milliseconds{20});
-        }
-        std::this_thread::sleep_for(milliseconds{20 + draw(180)});
-    }
-    Game.Program().Send(SIGKILL);
-    Game.Program().WaitForExit(PatientDeadline);
-}
-
-int RoundsOfKilling() {
-    const char *wanted = std::getenv("KILLING_ROUNDS");
-    return wanted == nullptr ? 8 : std::atoi(wanted);
-}
-
-} // namespace
-
-// KILLING_ROUNDS sets how often. SDL empties the file before it writes it: a kill in that quarter of a
-// millisecond costs the high score, and would here, once in thousands of rounds.
-TEST(Memory, KilledAtAnyMomentTheNextStartLoadsAndTheHighScoreNeverFalls) {
-    const PreparedHome home;
-    std::mt19937 random(20260211); // NOLINT(cert-msc51-cpp): the same course each time
-    std::int64_t highest = 0;
-    int runsFound = 0;
-    // On a slow machine, on which no run has lasted until its first save, it goes on with longer ones.
-    const int rounds = RoundsOfKilling();
-    for (int round = 0; round < rounds || (runsFound == 0 && round < 5 * rounds); ++round) {
-        // It waits for a main menu with five or six rows.
-        OpenedGame game({}, {}, &home);
-        const std::optional<std::int64_t> loaded = StoredHighScore(home);
-        ASSERT_TRUE(loaded) << "round " << round;
-        ASSERT_GE(*loaded, highest) << "round " << round;
-        highest = *loaded;
-        const bool hasRun = SixRowMenu(0)(game.Person().Look());
-        ASSERT_EQ(StoresRun(home), std::optional(hasRun)) << "round " << round;
-        runsFound += hasRun ? 1 : 0;
-        ASSERT_EQ(game.Program().Output(), "") << "round " << round;
-        PlayAndBeKilled(game, random, 2500 * (1 + round / rounds));
-    }
-    RecordProperty("Highest", static_cast<int>(highest));
-    EXPECT_GT(runsFound, 0) << "no run was ever saved";
 }

@@ -2,24 +2,29 @@
 
 #include "tools/desktop/WaitUntil.hpp"
 
+#include <array>
 #include <sstream>
 
 namespace {
 
-// The bytes of that number behind the first occurrence of a key and the tag of its type.
-std::optional<std::uint64_t> NumberBehind(
-    const PreparedHome &Home, const std::string &Key, char Tag, std::size_t Bytes) {
-    const std::string text = Home.Read(SaveFile).value_or("");
-    const std::size_t found = text.find(Key + Tag);
-    const std::size_t begin = found + Key.size() + 1;
-    if (found == std::string::npos || begin + Bytes > text.size()) {
+// The number of so many bytes at that place; nothing if they are not all there.
+std::optional<std::uint64_t> NumberAt(const std::string &Text, std::size_t Begin, std::size_t Bytes) {
+    if (Begin + Bytes > Text.size()) {
         return std::nullopt;
     }
     std::uint64_t number = 0;
     for (std::size_t i = Bytes; i > 0; --i) {
-        number = number << 8U | static_cast<unsigned char>(text[begin + i - 1]);
+        number = number << 8U | static_cast<unsigned char>(Text[Begin + i - 1]);
     }
     return number;
+}
+
+// The number behind the first occurrence of a key and the tag of its type.
+std::optional<std::uint64_t> NumberBehind(
+    const PreparedHome &Home, const std::string &Key, char Tag, std::size_t Bytes) {
+    const std::string text = Home.Read(SaveFile).value_or("");
+    const std::size_t found = text.find(Key + Tag);
+    return found == std::string::npos ? std::nullopt : NumberAt(text, found + Key.size() + 1, Bytes);
 }
 
 // A save is made of tokens: a byte that tells the kind, and what belongs to it, lowest byte first.
@@ -28,7 +33,25 @@ constexpr char Bool = '\x02';
 constexpr char Int32 = '\x03';
 constexpr char Int64 = '\x05';
 constexpr char Text = '\x08';
+constexpr char ArrayBegin = '\x09';
 constexpr char ObjectBegin = '\x0A';
+
+// The bytes behind each of these tags, beginning with 0, which there is not; a text's come behind its length.
+constexpr std::array<std::size_t, 11> BytesBehind{0, 0, 1, 4, 4, 8, 8, 8, 4, 0, 0};
+
+// Where the token at that place ends; nothing if it is none or is cut.
+std::optional<std::size_t> EndOfToken(const std::string &Save, std::size_t Begin) {
+    const auto tag = static_cast<std::size_t>(static_cast<unsigned char>(Save.at(Begin)));
+    if (tag == 0 || tag >= BytesBehind.size()) {
+        return std::nullopt;
+    }
+    std::size_t end = Begin + 1 + BytesBehind.at(tag);
+    if (Save[Begin] == Text) {
+        const std::optional<std::uint64_t> length = NumberAt(Save, Begin + 1, BytesBehind.at(tag));
+        end = length ? end + *length : Save.size() + 1;
+    }
+    return end <= Save.size() ? std::optional(end) : std::nullopt;
+}
 
 std::string Bytes(std::uint64_t Number, int Count) {
     std::string bytes;
@@ -89,6 +112,21 @@ std::optional<std::int64_t> StoredHighScore(const PreparedHome &Home) {
 std::optional<bool> StoresRun(const PreparedHome &Home) {
     const std::optional<std::uint64_t> flag = NumberBehind(Home, "HasRunState", Bool, 1);
     return flag ? std::optional(*flag != 0) : std::nullopt;
+}
+
+bool SaveIsWhole(const std::string &Save) {
+    int depth = 0;
+    for (std::size_t place = 0; place < Save.size();) {
+        const std::optional<std::size_t> end = EndOfToken(Save, place);
+        const char tag = Save[place];
+        depth += tag == ObjectBegin || tag == ArrayBegin ? 1 : 0;
+        depth -= tag == End ? 1 : 0;
+        if (!end || depth <= 0) {
+            return end == Save.size() && depth == 0 && Save[0] == ObjectBegin;
+        }
+        place = *end;
+    }
+    return false;
 }
 
 std::string MadeSave(const MadeRun &Run) {

@@ -28,6 +28,9 @@ testing::AssertionResult Keeps(
 std::optional<std::int64_t> StoredHighScore(const PreparedHome &Home);
 std::optional<bool> StoresRun(const PreparedHome &Home);
 
+// Whether a save begins with an object and ends where that ends, with whole tokens between.
+bool SaveIsWhole(const std::string &Save);
+
 // What a made save says of its run; all else of it is as a new run has it.
 struct MadeRun {
     std::int64_t HighScore = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <initializer_list>
 
@@ -32,6 +33,11 @@ inline constexpr Scancodes ClearKeys{DeleteKey, BackspaceKey};
 /// All that move, change or activate a row.
 inline constexpr Scancodes RowKeys{
     UpKey, 26, DownKey, 22, LeftKey, 4, RightKey, 7, EnterKey, SpaceBar, KeypadEnterKey};
+
+/// For random walks over menus: those that move and change things stand here more often than the others, the
+/// last two mean nothing.
+inline constexpr std::array WalkedKeys{
+    82, 82, 82, 81, 81, 81, 81, 80, 80, 79, 79, 79, 40, 40, 40, 44, 88, 26, 22, 4, 7, 41, 76, 42, 11, 229};
 
 /// Whether a menu listens to a key.
 constexpr bool IsMenuKey(std::int32_t Scancode) {

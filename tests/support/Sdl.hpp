@@ -31,5 +31,8 @@ private:
     void *OldUserdata = nullptr;
 };
 
+/// What start-up says on the drivers that need no hardware, as their windows have no icons.
+inline const std::string NoIconsLine = "SetWindowIconFromAtlas failed: That operation is not supported";
+
 /// Makes SDL choose the drivers that need no hardware. For tests that start SDL themselves.
 void ChooseSoftwareDrivers();

@@ -52,11 +52,10 @@ struct Pipe {
 
 Pipe OpenPipe() {
     std::array<int, 2> ends{};
-    if (pipe(ends.data()) != 0) {
+    // At once, or a program that another thread starts meanwhile would hold the pipe open.
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) {
         throw std::runtime_error(std::string("pipe failed: ") + std::strerror(errno));
     }
-    fcntl(ends[0], F_SETFD, FD_CLOEXEC);
-    fcntl(ends[1], F_SETFD, FD_CLOEXEC);
     return {ends[0], ends[1]};
 }
 

@@ -205,6 +205,7 @@ struct XClient::Connection {
 };
 
 XClient::XClient(const std::string &DisplayName) {
+    XInitThreads(); // each thread may have a display of its own
     XSetErrorHandler(IgnoreError);
     Server = std::make_unique<Connection>(DisplayName);
     int ignored = 0;

@@ -58,6 +58,7 @@
     STEERED(2, SDL_SetTextureAlphaMod, SetTextureAlphaMod)                                                   \
     STEERED(2, SDL_SetTextureBlendMode, SetTextureBlendMode)                                                 \
     /* Devices. */                                                                                           \
+    STEERED(1, SDL_GetKeyboardState, GetKeyboardState)                                                       \
     NOTED(1, SDL_GetGamepads, GetGamepads)                                                                   \
     NOTED(1, SDL_GetJoysticks, GetJoysticks)                                                                 \
     NOTED(1, SDL_OpenGamepad, OpenGamepad)                                                                   \
