@@ -38,7 +38,8 @@ std::string PageOf(const std::string &TableText, double Load, int Starts, int Pl
     std::ostringstream page;
     page.precision(2);
     page << "# Figures\n\nWritten by `make bench` on " << Today() << ": " << ProcessorName() << ", "
-         << std::thread::hardware_concurrency() << " cores, load " << std::fixed << Load << " before.\n\n"
+         << std::thread::hardware_concurrency() << " cores. Load of other programs before: " << std::fixed
+         << Load << ".\n\n"
          << "- A frame is drawn by SDL's own renderer, or by OpenGL where that is said: Mesa's, without a\n"
             "  graphics card. Bare are the calls that the game is told to make, played back, all of them "
             "blended.\n"

@@ -36,7 +36,7 @@ struct Wishes {
 };
 
 /// Prints as usual and remembers each benchmark's processor time, so that other programs do not count, and
-/// its counters.
+/// its counters; of one that is repeated the median.
 class RememberingReporter : public benchmark::ConsoleReporter {
 public:
     explicit RememberingReporter(Measurements &Remembered) : Results(Remembered) {}
@@ -44,7 +44,8 @@ public:
     void ReportRuns(const std::vector<Run> &Runs) override {
         ConsoleReporter::ReportRuns(Runs);
         for (const Run &run : Runs) {
-            if (run.GetAdjustedCPUTime() > 0.0) { // none after an error
+            const bool isResult = run.run_type == Run::RT_Iteration || run.aggregate_name == "median";
+            if (isResult && run.GetAdjustedCPUTime() > 0.0) { // none after an error
                 Remember(run);
             }
         }
