@@ -3,7 +3,9 @@
 #include "tools/support/Files.hpp"
 #include "tools/support/TemporaryFolder.hpp"
 
-#define SI_NO_CONVERSION // it takes the bytes of a file as they are
+// It takes the bytes of a file as they are, and is compiled here, with the options of our own reader.
+#define SI_NO_CONVERSION
+#define SI_IMPLEMENTATION
 #include <SimpleIni.h>
 #include <benchmark/benchmark.h>
 
