@@ -4,6 +4,7 @@
 #include "quillini/ValueScan.hpp"
 #include "quillini/quillini.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -14,8 +15,6 @@
 namespace quillINI {
 
 namespace {
-
-constexpr std::string_view Separators = "=:";
 
 constexpr std::string_view NoSeparator = "No \"=\" or \":\" sign found!\n";
 constexpr std::string_view TagInKey = "Start section tag within key tag!\n";
@@ -67,22 +66,21 @@ std::string_view ErrorInName(char Character, KeyForm Form) {
     }
 }
 
-/// The name at the start of a line, up to the separator.
+/// The name at the start of a line, up to the separator, or in an array form up to the "[" before it.
 std::string CollectName(std::string_view Line, char Separator, KeyForm Form, std::string &Error) {
-    std::string name;
-    for (const char character : Line.substr(0, Line.find(Separator))) {
-        if (character == '[' && Form != KeyForm::Plain) {
-            break;
-        }
+    std::string_view text = Line.substr(0, Line.find(Separator));
+    if (Form != KeyForm::Plain) {
+        text = text.substr(0, text.find('['));
+    }
+    for (const char character : text) {
         const std::string_view error = ErrorInName(character, Form);
         if (!error.empty()) {
             Error.append(error).append(KeyNotEnded(Separator));
-            return name;
-        }
-        if (character != ' ') { // a key holds no blanks; tabs are kept
-            name += character;
+            return {};
         }
     }
+    std::string name(text);
+    std::erase(name, ' '); // a key holds no blanks; tabs are kept
     if (name.empty()) {
         Error += KeyNotEnded(Separator);
     }
@@ -129,7 +127,7 @@ void Store(ReadState &State, std::string_view Name, const ScannedValue &Scanned,
 } // namespace
 
 void ReadKeyLine(ReadState &State, std::string_view Line) {
-    const std::size_t separatorAt = Line.find_first_of(Separators);
+    const std::size_t separatorAt = std::min(Line.find('='), Line.find(':'));
     if (separatorAt == std::string_view::npos) {
         State.Error += NoSeparator;
         return;

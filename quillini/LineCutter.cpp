@@ -2,6 +2,7 @@
 
 #include "quillini/Text.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
@@ -117,9 +118,20 @@ void TakeCarriageReturn(LineCutter &Cutter) {
     Cutter.Index += 2;
 }
 
+bool HasMeaning(char Character) {
+    return Character == '\r' || Character == '\n' || Character == '\\';
+}
+
+/// Takes all characters before the next one that has a meaning here.
+void TakeOrdinary(LineCutter &Cutter) {
+    const std::string_view rest = Cutter.Text.substr(Cutter.Index);
+    const std::string_view ordinary(rest.begin(), std::ranges::find_if(rest, HasMeaning));
+    Cutter.Cut.Text += ordinary;
+    Cutter.Index += ordinary.size();
+}
+
 void TakeNext(LineCutter &Cutter) {
-    const char character = Cutter.Text[Cutter.Index];
-    switch (character) {
+    switch (Cutter.Text[Cutter.Index]) {
     case '\r':
         TakeCarriageReturn(Cutter);
         break;
@@ -131,8 +143,7 @@ void TakeNext(LineCutter &Cutter) {
         TakeBackslash(Cutter);
         break;
     default:
-        Cutter.Cut.Text += character;
-        ++Cutter.Index;
+        TakeOrdinary(Cutter);
     }
 }
 

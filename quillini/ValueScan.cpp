@@ -100,6 +100,7 @@ void StepInside(ValueScan &Scan) {
 
 ScannedValue ScanValue(std::string_view Rest, std::string &Error) {
     ValueScan scan{.Rest = Rest, .Error = Error, .Result = {}};
+    scan.Result.Value.reserve(Rest.size());
     for (; scan.Index < Rest.size() && !scan.Ended; ++scan.Index) {
         if (scan.Quote == NoQuote) {
             StepOutside(scan);
