@@ -80,6 +80,15 @@ std::string BrokenScreen(const GameState &State) {
     });
 }
 
+/// What may happen from one frame to the next, whatever is pressed.
+std::string BrokenCourse(const GameState &Before, const GameState &After) {
+    const bool isRunLost = Before.HasRunState && !After.HasRunState;
+    return FirstBroken({
+        {"the high score does not fall", After.HighScore >= Before.HighScore},
+        {"a run ends by its game over alone", !isRunLost || After.Screen == ScreenGameOver},
+    });
+}
+
 /// What is open is there, and in the right place.
 std::string BrokenDevice(const InputDevices &Devices) {
     SDL_Gamepad *gamepad = Devices.Gamepad;
@@ -103,6 +112,7 @@ bool IsSameRun(const GameState &Before, const GameState &After) {
 std::string BrokenPromise(const GameState &Before, const Program &After) {
     const GameState &state = After.State;
     std::string broken = BrokenScreen(state);
+    broken += BrokenCourse(Before, state);
     broken += BrokenOption(state);
     broken += BrokenDevice(After.Devices);
     if (state.HasRunState || state.Screen == ScreenGameOver) {
@@ -235,14 +245,17 @@ void Storm::Leave() {
 }
 
 /// Menus are walked slowly; a run goes on through harmless floods, or it would never come far; and now and
-/// then everything comes at once.
+/// then everything comes at once, once more than the queue of sounds holds.
 Spell Storm::DrawSpell() {
     const bool isPlaying = Game->State.Screen == ScreenPlaying;
     const std::uint32_t drawn = Drawn.Draw(20);
     if (drawn == 0) {
         return {1 + Drawn.Draw(4), MostEventsInFrame, &RandomEvents::PushAny};
     }
-    if (drawn < (isPlaying ? 10U : 3U)) {
+    if (drawn == 1) {
+        return {1 + Drawn.Draw(8), MostEventsInFrame, &RandomEvents::PushKeyOrOther};
+    }
+    if (drawn < (isPlaying ? 11U : 4U)) {
         if (Drawn.Draw(3) == 0) {
             Weaken(Game->State.Player);
         }
