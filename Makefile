@@ -1,6 +1,6 @@
 # The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
 .POSIX:
-.PHONY: help check run test bench fuzz music install clean format
+.PHONY: help check run test bench fuzz faults music install clean format
 
 PREFIX = /usr/local
 FUZZ_SECONDS = 600
@@ -16,6 +16,7 @@ help:
 	@echo 'make test     set up what is missing and run everything: the game in its window, its rooms under sanitizers'
 	@echo 'make bench    measure drawing, the simulation step, the start-up and saving'
 	@echo 'make fuzz     feed damaged files to each fuzz target for FUZZ_SECONDS ($(FUZZ_SECONDS))'
+	@echo 'make faults   play a session of the game for each call of a library that can fail, with that call failing'
 	@echo 'make music    play the scores of tools/music into Music/ (the results are kept in the repository)'
 	@echo 'make install  install the game below PREFIX ($(PREFIX)); DESTDIR is honoured'
 	@echo 'make format   lay out the code as .clang-format has it'
@@ -62,6 +63,12 @@ fuzz:
 	cmake --preset sanitizers
 	cmake --build --preset sanitizers --target fuzz_targets
 	fuzz/run long build/sanitizers/fuzz '$(FUZZ_SECONDS)'
+
+faults:
+	@scripts/setup test
+	cmake --preset sanitizers
+	cmake --build --preset sanitizers --target faults_tests
+	KESTREL_FAULTS=all UBSAN_OPTIONS=print_stacktrace=1 build/sanitizers/faults_tests --gtest_brief=1
 
 music:
 	@scripts/setup music
