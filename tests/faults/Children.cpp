@@ -135,7 +135,7 @@ public:
     std::map<pid_t, std::unique_ptr<Child>> Playing;
 };
 
-/// A car that the next shot kills, with the shot before its bonnet.
+/// A car that the next shot kills, with the shot before its bonnet, and another that a shot has just hit.
 std::string PreparedRun() {
     GameState run;
     run.HasRunState = true;
@@ -144,6 +144,13 @@ std::string PreparedRun() {
     run.Player.Hp = 1;
     run.EnemyBullets.push_back(
         {.X = run.Player.X, .Y = run.Player.Y - 20.0F, .Speed = 190.0F, .Radius = 2.0F, .Damage = 12});
+    run.Enemies.push_back({.Y = 200.0F,
+        .Speed = 100.0F,
+        .HitFlash = 1.0F,
+        .AiTimer = 100.0F,
+        .FireCooldown = 100.0F,
+        .Lane = 1,
+        .Color = {}});
     const TemporaryHome home;
     if (!WriteSaveState(run)) {
         throw std::runtime_error("the run cannot be saved");

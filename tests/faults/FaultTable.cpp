@@ -120,6 +120,7 @@ constexpr FaultRow Rows[] = {
     Silent("SDL_OpenTitleStorage"),
     Silent("SDL_CloseStorage"),
     OfFiles("SDL_StorageReady"),
+    Silent("SDL_GetPathInfo"),
     Silent("SDL_GetStoragePathInfo"),
     Silent("SDL_calloc"),
     Silent("SDL_ReadStorageFile"),
@@ -177,6 +178,7 @@ constexpr FaultRow Rows[] = {
 
 constexpr std::string_view TakesDown = "it takes down and tells nothing";
 constexpr std::string_view Computes = "it computes";
+constexpr std::string_view IsOpenTells = "is_open tells whether it has worked";
 constexpr std::string_view TellsWords = "of what is only told, nobody hears that it was not";
 
 constexpr SafeFunction Safe[] = {
@@ -219,12 +221,15 @@ constexpr SafeFunction Safe[] = {
     {"roundf", Computes},
     {"sinf", Computes},
     {"sqrtf", Computes},
+    {"bcmp", Computes},
     {"memchr", Computes},
     {"memcmp", Computes},
     {"memcpy", Computes},
     {"memmove", Computes},
     {"memset", Computes},
     {"strlen", Computes},
+    {"_ZNSt14basic_ifstreamIcSt11char_traitsIcEE4openEPKcSt13_Ios_Openmode", IsOpenTells},
+    {"_ZNSt14basic_ofstreamIcSt11char_traitsIcEE4openEPKcSt13_Ios_Openmode", IsOpenTells},
     {"_ZNSt10filesystem6statusERKNS_7__cxx114pathERSt10error_code", "what it cannot find is no folder"},
 };
 

@@ -3,6 +3,7 @@
 #include "tests/faults/Link.hpp"
 
 #include "state/GameState.hpp"
+#include "state/Limits.hpp"
 #include "store/OptionsFile.hpp"
 #include "store/SaveState.hpp"
 #include "tests/support/LogicalWidthScope.hpp"
@@ -107,7 +108,8 @@ TEST(Session, OfALaterLaunchLosesALifeThrowsABombAndChangesEveryPage) {
     EXPECT_EQ(state.HighScore, 5000);
     EXPECT_EQ(state.Player.Stocks, 1);
     EXPECT_EQ(state.Bombs, 2);
-    EXPECT_LT(state.AmmoMeter, 100.0F);
+    EXPECT_LT(state.AmmoMeter, MaxAmmo);
+    EXPECT_GT(state.Score, 0);
     EXPECT_EQ(state.KeyboardBindings[0], SDL_SCANCODE_J);
     EXPECT_EQ(state.AspectMode, AspectClassic4x3);
     EXPECT_FALSE(state.Fullscreen);

@@ -86,7 +86,7 @@ void Hands::DriveWithThePad() {
     });
 }
 
-/// Goes on until the run has been saved, eight tenths of a second after its first frame.
+/// Goes on, and fires, until the run has been saved, eight tenths of a second after its first frame.
 void Hands::DriveWithTheStick() {
     Do([this] {
         Stick.emplace(JoystickShape);
@@ -98,15 +98,14 @@ void Hands::DriveWithTheStick() {
     });
     Wait(2);
     Do([this] {
-        Stick->SetButton(0, false);
         Stick->SetAxis(0, 0);
         Stick->SetHat(0, SDL_HAT_LEFT);
     });
-    Wait(2);
+    Wait(16);
     Do([this] {
+        Stick->SetButton(0, false);
         Stick->SetHat(0, SDL_HAT_CENTERED);
     });
-    Wait(14);
 }
 
 /// By the pause menu to the options; there looks at each device's table and binds a key.

@@ -89,6 +89,7 @@
     NOTED(2, SDL_OpenTitleStorage, OpenTitleStorage)                                                         \
     NOTED(1, SDL_CloseStorage, CloseStorage)                                                                 \
     NOTED(1, SDL_StorageReady, StorageReady)                                                                 \
+    STEERED(2, SDL_GetPathInfo, GetPathInfo)                                                                 \
     NOTED(3, SDL_GetStoragePathInfo, GetStoragePathInfo)                                                     \
     NOTED(4, SDL_ReadStorageFile, ReadStorageFile)                                                           \
     NOTED(4, SDL_WriteStorageFile, WriteStorageFile)                                                         \
