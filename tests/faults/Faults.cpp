@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <map>
 #include <random>
+#include <regex>
 #include <stdexcept>
 #include <thread>
 #include <utility>
@@ -50,6 +51,21 @@ void AddFaults(std::vector<SessionPlan> &Faults, Launch Start, std::string_view 
     for (const int number : NumbersOf(CallsOf(plain, Function), CallsOf(plain, "SDL_RenderPresent"))) {
         Faults.push_back({.Start = Start, .Function = Function, .Number = number, .Without = without});
     }
+}
+
+/// The fault of a name as NameOf gives it. Throws std::invalid_argument or std::logic_error if there is none.
+SessionPlan FaultOf(const std::string &Name) {
+    static const std::regex pattern("(first|later):(\\w+):([1-9][0-9]*)");
+    std::smatch match;
+    if (!std::regex_match(Name, match, pattern)) {
+        throw std::invalid_argument(Name + " is no fault");
+    }
+    const int number = std::stoi(match[3]);
+    const FaultRow &row = RowOf(match[2].str(), number);
+    return {.Start = match[1] == "first" ? Launch::First : Launch::Later,
+        .Function = row.Function,
+        .Number = number,
+        .Without = row.AskedWithout};
 }
 
 /// Takes a line out of a list that begins with one of the texts; false if there is none.
@@ -138,23 +154,17 @@ std::vector<SessionPlan> AllFaults() {
 }
 
 std::vector<SessionPlan> WantedFaults() {
-    const std::string wanted = Setting("KESTREL_FAULTS");
-    const std::string seed = Setting("KESTREL_FAULTS_SEED");
+    const std::string name = Setting("KESTREL_FAULTS");
+    if (!name.empty() && !AllAreWanted()) {
+        return {FaultOf(name)};
+    }
     std::vector<SessionPlan> faults = AllFaults();
     if (AllAreWanted()) {
         return faults;
     }
-    if (wanted.empty()) {
-        std::ranges::shuffle(faults, std::mt19937(seed.empty() ? 1U : std::stoul(seed)));
-        faults.resize(faults.size() / Share);
-        return faults;
-    }
-    std::erase_if(faults, [&wanted](const SessionPlan &Fault) {
-        return NameOf(Fault) != wanted;
-    });
-    if (faults.empty()) {
-        throw std::invalid_argument(wanted + " is no fault");
-    }
+    const std::string seed = Setting("KESTREL_FAULTS_SEED");
+    std::ranges::shuffle(faults, std::mt19937(seed.empty() ? 1U : std::stoul(seed)));
+    faults.resize(faults.size() / Share);
     return faults;
 }
 

@@ -18,7 +18,8 @@ int CallsOf(const SessionEnd &Plain, std::string_view Function);
 std::vector<SessionPlan> AllFaults();
 
 /// The faults to be tried now, as KESTREL_FAULTS says: "all", or the name of one; otherwise a fiftieth, drawn
-/// by the number in KESTREL_FAULTS_SEED, or 1. Throws std::invalid_argument for a name that no fault has.
+/// by the number in KESTREL_FAULTS_SEED, or 1. Throws what is a std::logic_error for a name that no fault
+/// has.
 std::vector<SessionPlan> WantedFaults();
 
 /// How many sessions are to be played at once: all that this machine can play, if all are wanted.
