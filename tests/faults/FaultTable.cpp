@@ -230,6 +230,7 @@ constexpr SafeFunction Safe[] = {
     {"strlen", Computes},
     {"_ZNSt14basic_ifstreamIcSt11char_traitsIcEE4openEPKcSt13_Ios_Openmode", IsOpenTells},
     {"_ZNSt14basic_ofstreamIcSt11char_traitsIcEE4openEPKcSt13_Ios_Openmode", IsOpenTells},
+    {"_ZNKSt12__basic_fileIcE7is_openEv", "it says what is_open of its stream, compiled in place, gives"},
     {"_ZNSt10filesystem6statusERKNS_7__cxx114pathERSt10error_code", "what it cannot find is no folder"},
 };
 

@@ -53,7 +53,7 @@ void AddFaults(std::vector<SessionPlan> &Faults, Launch Start, std::string_view 
     }
 }
 
-/// The fault of a name as NameOf gives it. Throws std::invalid_argument or std::logic_error if there is none.
+/// The fault of a name as NameOf gives it. Throws std::logic_error if there is none.
 SessionPlan FaultOf(const std::string &Name) {
     static const std::regex pattern("(first|later):(\\w+):([1-9][0-9]*)");
     std::smatch match;
@@ -108,12 +108,12 @@ std::string VerdictOnLines(const SessionPlan &Fault, const FaultRow &Row, const 
     return verdict;
 }
 
-std::string VerdictOnProcess(const SessionEnd &End) {
-    if (WIFSIGNALED(End.Status)) {
-        const int signal = WTERMSIG(End.Status);
-        return signal == SIGALRM ? "Hangs.\n" : "Ended by signal " + std::to_string(signal) + ".\n";
+std::string VerdictOnProcess(int Status) {
+    if (!WIFSIGNALED(Status)) {
+        return "A sanitizer's finding, or a leak.\n";
     }
-    return WEXITSTATUS(End.Status) != 0 ? "A finding of a sanitizer, or a leak.\n" : "";
+    const int signal = WTERMSIG(Status);
+    return signal == SIGALRM ? "Hangs.\n" : "Ended by signal " + std::to_string(signal) + ".\n";
 }
 
 std::string VerdictOnFiles(const FaultRow &Row, const SessionReport &Report) {
@@ -182,8 +182,11 @@ bool WasTried(const SessionPlan &Fault, const SessionEnd &End) {
 }
 
 std::string Verdict(const SessionPlan &Fault, const SessionEnd &End) {
+    if (End.Status != 0) {
+        return VerdictOnProcess(End.Status);
+    }
     const FaultRow &row = RowOf(Fault.Function, Fault.Number);
-    std::string verdict = VerdictOnProcess(End);
+    std::string verdict;
     if (!End.Report.FaultCame) {
         verdict += "The call did not come.\n";
     }

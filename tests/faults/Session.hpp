@@ -10,9 +10,9 @@
 /// How a session is played and which call fails in it.
 struct SessionPlan {
     Launch Start = Launch::First;
-    std::string_view Function; ///< of which one call fails; empty for none
-    int Number = 0;            ///< which call, from 1
-    std::string_view Without;  ///< every call of this function fails as well; empty for none
+    std::string_view Function{}; ///< of which one call fails; empty for none
+    int Number = 0;              ///< which call, from 1
+    std::string_view Without{};  ///< every call of this function fails as well; empty for none
 };
 
 /// What the program is writing.
