@@ -1,6 +1,6 @@
 # The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
 .POSIX:
-.PHONY: help check run test bench fuzz storms kills soak music install clean format
+.PHONY: help check run test bench fuzz faults storms kills soak music install clean format
 
 PREFIX = /usr/local
 FUZZ_SECONDS = 600
@@ -19,6 +19,7 @@ help:
 	@echo 'make test     set up what is missing and run everything: the game in its window, its rooms under sanitizers'
 	@echo 'make bench    measure drawing, stepping, saving and reading, and the start, memory and pace of the real program'
 	@echo 'make fuzz     feed damaged files to each fuzz target for FUZZ_SECONDS ($(FUZZ_SECONDS))'
+	@echo 'make faults   play a session of the game for each call of a library that can fail, with that call failing'
 	@echo 'make storms   drive the sanitized game through random events of every kind, EVENTS of them ($(EVENTS))'
 	@echo 'make kills    kill the game COUNT times ($(COUNT)) at random moments and see what the next start finds'
 	@echo 'make soak     play the game for SECONDS ($(SECONDS)) and plot its memory, handles, log and frames'
@@ -68,6 +69,12 @@ fuzz:
 	cmake --preset sanitizers
 	cmake --build --preset sanitizers --target fuzz_targets
 	fuzz/run long build/sanitizers/fuzz '$(FUZZ_SECONDS)'
+
+faults:
+	@scripts/setup test
+	cmake --preset sanitizers
+	cmake --build --preset sanitizers --target faults_tests
+	KESTREL_FAULTS=all UBSAN_OPTIONS=print_stacktrace=1 build/sanitizers/faults_tests --gtest_brief=1
 
 storms:
 	@scripts/setup test

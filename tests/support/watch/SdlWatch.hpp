@@ -5,10 +5,11 @@
 #include <SDL3/SDL.h>
 
 /// The functions of SDL that are watched: how many parameters each has, its name, and its field. Those that
-/// draw, free or are asked at every text are called too often to be noted. The build reads the names here, so
-/// that a line is all that a function takes.
+/// draw, free or are asked at every text are called too often to be noted; others are only let fail. The
+/// build reads the names here, so that a line is all that a function takes.
 #define WATCHED_SDL_FUNCTIONS(NOTED, STEERED)                                                                \
     /* Start-up and shutdown. */                                                                             \
+    STEERED(3, SDL_SetAppMetadata, SetAppMetadata)                                                           \
     NOTED(1, SDL_Init, Init)                                                                                 \
     NOTED(0, SDL_Quit, Quit)                                                                                 \
     NOTED(4, SDL_CreateWindow, CreateWindow)                                                                 \
@@ -20,11 +21,13 @@
     NOTED(2, SDL_SetWindowResizable, SetWindowResizable)                                                     \
     NOTED(2, SDL_SetWindowIcon, SetWindowIcon)                                                               \
     NOTED(0, SDL_HideCursor, HideCursor)                                                                     \
+    STEERED(2, SDL_calloc, Calloc)                                                                           \
     STEERED(1, SDL_free, Free)                                                                               \
     /* Time. */                                                                                              \
     NOTED(0, SDL_GetTicks, GetTicks)                                                                         \
     NOTED(1, SDL_Delay, Delay)                                                                               \
     /* The window and how it is filled. */                                                                   \
+    STEERED(1, SDL_GetWindowFlags, GetWindowFlags)                                                           \
     NOTED(2, SDL_SetWindowFullscreenMode, SetWindowFullscreenMode)                                           \
     NOTED(2, SDL_SetWindowFullscreen, SetWindowFullscreen)                                                   \
     NOTED(3, SDL_SetWindowSize, SetWindowSize)                                                               \
@@ -46,6 +49,7 @@
     NOTED(2, SDL_SetRenderTarget, SetRenderTarget)                                                           \
     NOTED(2, SDL_RenderReadPixels, RenderReadPixels)                                                         \
     NOTED(3, SDL_CreateSurface, CreateSurface)                                                               \
+    STEERED(3, SDL_FillSurfaceRect, FillSurfaceRect)                                                         \
     NOTED(1, SDL_DestroySurface, DestroySurface)                                                             \
     NOTED(5, SDL_BlitSurfaceScaled, BlitSurfaceScaled)                                                       \
     NOTED(1, SDL_RenderPresent, RenderPresent)                                                               \
@@ -57,16 +61,26 @@
     STEERED(4, SDL_SetTextureColorMod, SetTextureColorMod)                                                   \
     STEERED(2, SDL_SetTextureAlphaMod, SetTextureAlphaMod)                                                   \
     STEERED(2, SDL_SetTextureBlendMode, SetTextureBlendMode)                                                 \
+    STEERED(2, SDL_SetTextureScaleMode, SetTextureScaleMode)                                                 \
+    STEERED(2, SDL_GetRenderDrawBlendMode, GetRenderDrawBlendMode)                                           \
+    STEERED(1, SDL_RenderClipEnabled, RenderClipEnabled)                                                     \
+    STEERED(2, SDL_GetRenderClipRect, GetRenderClipRect)                                                     \
     /* Devices. */                                                                                           \
     STEERED(1, SDL_GetKeyboardState, GetKeyboardState)                                                       \
     NOTED(1, SDL_GetGamepads, GetGamepads)                                                                   \
     NOTED(1, SDL_GetJoysticks, GetJoysticks)                                                                 \
+    STEERED(1, SDL_IsGamepad, IsGamepad)                                                                     \
     NOTED(1, SDL_OpenGamepad, OpenGamepad)                                                                   \
     NOTED(1, SDL_OpenJoystick, OpenJoystick)                                                                 \
     NOTED(1, SDL_CloseGamepad, CloseGamepad)                                                                 \
     NOTED(1, SDL_CloseJoystick, CloseJoystick)                                                               \
     NOTED(2, SDL_GetGamepadAxis, GetGamepadAxis)                                                             \
     NOTED(2, SDL_GetGamepadButton, GetGamepadButton)                                                         \
+    STEERED(1, SDL_GetNumJoystickAxes, GetNumJoystickAxes)                                                   \
+    STEERED(1, SDL_GetNumJoystickHats, GetNumJoystickHats)                                                   \
+    STEERED(1, SDL_GetNumJoystickButtons, GetNumJoystickButtons)                                             \
+    STEERED(2, SDL_GetJoystickAxis, GetJoystickAxis)                                                         \
+    STEERED(2, SDL_GetJoystickHat, GetJoystickHat)                                                           \
     NOTED(2, SDL_GetJoystickButton, GetJoystickButton)                                                       \
     NOTED(1, SDL_GetGamepadStringForButton, GetGamepadStringForButton)                                       \
     /* Files. */                                                                                             \
@@ -76,6 +90,7 @@
     NOTED(2, SDL_OpenTitleStorage, OpenTitleStorage)                                                         \
     NOTED(1, SDL_CloseStorage, CloseStorage)                                                                 \
     NOTED(1, SDL_StorageReady, StorageReady)                                                                 \
+    STEERED(2, SDL_GetPathInfo, GetPathInfo)                                                                 \
     NOTED(3, SDL_GetStoragePathInfo, GetStoragePathInfo)                                                     \
     NOTED(4, SDL_ReadStorageFile, ReadStorageFile)                                                           \
     NOTED(4, SDL_WriteStorageFile, WriteStorageFile)                                                         \

@@ -38,6 +38,9 @@ public:
     /// Answers in place of the real function, which it may call itself.
     std::function<Result(Parameters...)> Answer;
 
+    /// What a refused call does and gives, where that is not nothing and a false, null, 0 or, of 64 bits, -1.
+    std::function<Result(Parameters...)> Failure;
+
     /// Lets the calls from now on fail without reaching the library, after so many that work and for so many.
     void Refuse(int Times = CallWatch::Always, int After = 0) requires(!std::is_void_v<Result>) {
         Working = After;
@@ -55,10 +58,11 @@ protected:
         if (Before) {
             Before(Arguments...);
         }
-        if (TakesRefusal() || IsRefused) {
-            return Refusal();
-        }
+        const bool fails = TakesRefusal() || IsRefused;
         const UnwatchedScope unwatched;
+        if (fails) {
+            return Failure ? Failure(Arguments...) : Refusal();
+        }
         return Answer ? Answer(Arguments...) : Real(Arguments...);
     }
 
