@@ -104,7 +104,7 @@ void StoreElement(ReadState &State, std::string_view Name, const ScannedValue &S
     ElementIndex temporary;
     ElementIndex &elements =
         array.Elements.size() < LongArray ? temporary : State.Elements[{current.Place, place}];
-    const EntryPlace present =
+    const auto present =
         Index ? elements.Keys.FindOrAwait(array.Elements, &IniEntry::Key, *Index) : array.Elements.end();
     SetElement(array, present, Index ? *Index : ChooseIndex(array, elements.Numbers), Scanned.Value,
         Scanned.Quoted, CommentOrNone(Scanned.Comment));

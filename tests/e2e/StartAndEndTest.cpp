@@ -1,4 +1,5 @@
 #include "tests/e2e/PlayedGame.hpp"
+#include "tests/e2e/StoredFiles.hpp"
 
 #include <sstream>
 #include <string>
@@ -86,6 +87,19 @@ TEST(GameStart, NeedsNeitherSoundNorController) {
     EXPECT_TRUE(game.WaitForPicture(CarInLane(8)));
     game.Person().ReleaseKey(Key::Right);
     EXPECT_EQ(game.Close(), std::optional(0));
+}
+
+// They count as read: only options that cannot be read are written anew.
+TEST(GameStart, ReadsTenMegabytesOfOptions) {
+    std::string options = "[Options]\r\nLanguage=\"en\"\r\n";
+    for (int i = 0; options.size() < 10U << 20U; ++i) {
+        options += "Key" + std::to_string(i) + "=\"Value\"\r\n";
+    }
+    const PreparedHome home;
+    home.Put(OptionsFile, options);
+    PlayedGame game({}, {}, &home);
+    EXPECT_EQ(game.Close(), std::optional(0));
+    EXPECT_TRUE(home.Read(OptionsFile) == options);
 }
 
 TEST(GameStart, WithoutAVideoDriverSaysSoInOneLineAndEndsWithResultOne) {

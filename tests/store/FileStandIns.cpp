@@ -9,10 +9,12 @@ std::FILE *StagingFile = nullptr;
 
 } // namespace
 
-// NOLINTBEGIN(readability-identifier-naming,bugprone-reserved-identifier): the linker dictates the names.
+/// A function and its stand-in, by the names that the linker dictates.
+#define WRAPPED(Function)                                                                                    \
+    extern "C" decltype(Function) __real_##Function;                                                         \
+    extern "C" decltype(Function) __wrap_##Function;
 
-extern "C" decltype(fopen) __real_fopen;
-extern "C" decltype(fopen) __wrap_fopen;
+WRAPPED(fopen)
 extern "C" std::FILE *__wrap_fopen(const char *Path, const char *Mode) {
     if (!std::string_view(Path).ends_with(".tmp")) {
         return __real_fopen(Path, Mode);
@@ -21,16 +23,14 @@ extern "C" std::FILE *__wrap_fopen(const char *Path, const char *Mode) {
     return StagingFile;
 }
 
-extern "C" decltype(fwrite) __real_fwrite;
-extern "C" decltype(fwrite) __wrap_fwrite;
+WRAPPED(fwrite)
 extern "C" std::size_t __wrap_fwrite(
     const void *Bytes, std::size_t Size, std::size_t Count, std::FILE *File) {
     return File == StagingFile ? PassOn(&StoreWatch::WriteToFile, __real_fwrite, Bytes, Size, Count, File)
                                : __real_fwrite(Bytes, Size, Count, File);
 }
 
-extern "C" decltype(fclose) __real_fclose;
-extern "C" decltype(fclose) __wrap_fclose;
+WRAPPED(fclose)
 extern "C" int __wrap_fclose(std::FILE *File) {
     if (File != StagingFile) {
         return __real_fclose(File);
@@ -38,8 +38,6 @@ extern "C" int __wrap_fclose(std::FILE *File) {
     StagingFile = nullptr;
     return PassOn(&StoreWatch::CloseFile, __real_fclose, File);
 }
-
-// NOLINTEND(readability-identifier-naming,bugprone-reserved-identifier)
 
 STAND_IN_3(StoreWatch, fseek, SeekPosition)
 STAND_IN_1(StoreWatch, ftell, TellPosition)

@@ -10,6 +10,7 @@
 /// on a disk that is full then. The files of standard output and error count as well.
 class FileSizeLimit {
 public:
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-cstyle-cast): the cast is in the system's SIG_IGN
     explicit FileSizeLimit(rlim_t Bytes) : OldHandler(std::signal(SIGXFSZ, SIG_IGN)) {
         EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &Old), 0);
         rlimit limit = Old;
