@@ -2,6 +2,7 @@
 #include "app/Program.hpp"
 #include "app/ShutDown.hpp"
 #include "app/StartUp.hpp"
+#include "sim/Lanes.hpp"
 #include "sim/NewRun.hpp"
 #include "sim/Stages.hpp"
 #include "state/MenuRows.hpp"
@@ -15,6 +16,7 @@
 #include "tests/support/TemporaryHome.hpp"
 #include "tests/support/watch/FakeDisplays.hpp"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -52,6 +54,7 @@ std::string TellPlace() {
     return "in frame " + std::to_string(Here.Frame) + " of STORM_SEED=" + std::to_string(Here.Seed);
 }
 
+/// For what ends the program without a word of a test.
 void TellPlaceOfDeath() {
     std::fprintf(stderr, "in frame %lld of STORM_SEED=%u\n", static_cast<long long>(Here.Frame), Here.Seed);
 }
@@ -132,10 +135,14 @@ void PutLateRun(GameState &State, float GameTime) {
     State.Screen = ScreenMainMenu;
 }
 
-/// Leaves the car so little that the next blow ends the run.
-void Weaken(Player &Car) {
-    Car.Hp = std::min(Car.Hp, 1);
-    Car.Stocks = 0;
+/// Leaves the car nothing to lose, and lets a shot fly down each lane: few runs would end otherwise.
+void PutLastMoment(GameState &State) {
+    State.Player.Hp = std::min(State.Player.Hp, 1);
+    State.Player.Stocks = 0;
+    for (std::int32_t lane = 0; lane < LaneCount; ++lane) {
+        State.EnemyBullets.push_back(
+            {.X = LaneCenterX(lane), .Y = 600.0F, .Speed = 190.0F, .Radius = 2.0F, .Damage = 10});
+    }
 }
 
 class Storm : public ::testing::Test {
@@ -180,6 +187,9 @@ Storm::Storm() {
         Mode(960, 640, 75.0F), Mode(1280, 540, 60.0F), Mode(1280, 360, 120.0F), Mode(800, 600, 60.0F),
         Mode(800, 600, 85.0F), Mode(640, 480, 60.0F)};
     KnownDisplays = Displays.List;
+    std::signal(SIGABRT, [](int /*Signal*/) {
+        TellPlaceOfDeath();
+    });
     if (__sanitizer_set_death_callback != nullptr) {
         __sanitizer_set_death_callback(TellPlaceOfDeath);
     }
@@ -256,8 +266,8 @@ Spell Storm::DrawSpell() {
         return {1 + Drawn.Draw(8), MostEventsInFrame, &RandomEvents::PushKeyOrOther};
     }
     if (drawn < (isPlaying ? 11U : 4U)) {
-        if (Drawn.Draw(3) == 0) {
-            Weaken(Game->State.Player);
+        if (isPlaying && Drawn.Draw(4) == 0) {
+            PutLastMoment(Game->State);
         }
         return {5 + Drawn.Draw(isPlaying ? 300U : 20U), MostEventsInFrame, &RandomEvents::PushHarmless};
     }
