@@ -49,6 +49,7 @@ public:
     SharedReport() {
         void *const memory =
             mmap(nullptr, sizeof(SessionReport), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+        // NOLINTNEXTLINE(performance-no-int-to-ptr,cppcoreguidelines-pro-type-cstyle-cast)
         if (memory == MAP_FAILED) {
             throw std::runtime_error("no memory can be shared");
         }

@@ -10,12 +10,13 @@
 
 // How the linker knows the functions by which a file stream of the C++ library says whether it is open; which
 // of them a build calls depends on what it compiles in place. They are here for their signatures alone.
-// NOLINTBEGIN(readability-identifier-naming,bugprone-reserved-identifier)
+// NOLINTNEXTLINE(readability-identifier-naming)
 extern "C" bool _ZNSt14basic_ifstreamIcSt11char_traitsIcEE7is_openEv(std::ifstream *);
+// NOLINTNEXTLINE(readability-identifier-naming)
 extern "C" bool _ZNSt14basic_ofstreamIcSt11char_traitsIcEE7is_openEv(std::ofstream *);
+// NOLINTNEXTLINE(readability-identifier-naming)
 extern "C" std::filebuf *_ZNSt13basic_filebufIcSt11char_traitsIcEE4openEPKcSt13_Ios_Openmode(
     std::filebuf *, const char *, std::ios::openmode);
-// NOLINTEND(readability-identifier-naming,bugprone-reserved-identifier)
 
 /// The functions of the C library and of file streams that are watched, in the form of WATCHED_SDL_FUNCTIONS.
 #define WATCHED_LIBRARY_FUNCTIONS(STEERED)                                                                   \

@@ -13,7 +13,6 @@
 #include <optional>
 #include <string>
 #include <system_error>
-#include <utility>
 
 namespace {
 
@@ -30,7 +29,7 @@ constexpr int MostIdleFrames = 50;
 
 class Session {
 public:
-    Session(const SessionPlan &Plan, std::filesystem::path HomeFolder, SessionReport &Into);
+    Session(const SessionPlan &Plan, const std::filesystem::path &HomeFolder, SessionReport &Into);
 
     void Play();
 
@@ -57,8 +56,8 @@ private:
     std::map<std::string, Contents> Files; ///< as they were last seen
 };
 
-Session::Session(const SessionPlan &Plan, std::filesystem::path HomeFolder, SessionReport &Into)
-    : Folder(std::move(HomeFolder) / "Orrin" / "KestrelVolley"), Report(Into), Player(Plan.Start) {
+Session::Session(const SessionPlan &Plan, const std::filesystem::path &HomeFolder, SessionReport &Into)
+    : Folder(HomeFolder / "Orrin" / "KestrelVolley"), Report(Into), Player(Plan.Start) {
     Playing = this;
     for (const char *name : {OptionsFileName, SaveStateFileName}) {
         Files[name] = Found(name);
