@@ -11,7 +11,7 @@ using namespace quillINI;
 
 namespace {
 
-constexpr std::size_t FewLines = 5000;
+constexpr std::size_t FewLines = 3000;
 constexpr std::size_t Growth = 8;
 
 /// Where eight times the lines take eight times as long, more by what a processor's cache no longer holds.
