@@ -58,11 +58,10 @@ private:
     void TellFailure() const;
     void WriteTag(ValueTag Tag);
     template <typename Number> void WriteNumber(Number Value);
-    void WriteBytes(const void *Bytes, std::size_t Size);
 
     PlainFile File;
     std::string Path;
-    bool IsWhole = true; ///< no write has failed
+    std::string Bytes; ///< what was written since Open; the file takes it in one piece, when it is closed
 };
 
 struct ValueToken {

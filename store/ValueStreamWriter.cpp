@@ -1,11 +1,10 @@
 #include "store/ValueStream.hpp"
 
-#include <array>
 #include <bit>
 
 bool ValueStreamWriter::Open(const std::string &NewPath) {
     Path = NewPath;
-    IsWhole = true;
+    Bytes.clear();
     File = OpenPlainFile(Path, "wb");
     if (!File) {
         TellFailure();
@@ -28,7 +27,7 @@ void ValueStreamWriter::End() {
 void ValueStreamWriter::WriteKey(std::string_view Text) {
     WriteTag(ValueTag::String);
     WriteNumber(static_cast<std::uint32_t>(Text.size()));
-    WriteBytes(Text.data(), Text.size());
+    Bytes.append(Text);
 }
 
 void ValueStreamWriter::WriteBool(bool Value) {
@@ -52,11 +51,12 @@ void ValueStreamWriter::WriteDouble(double Value) {
 }
 
 bool ValueStreamWriter::Close() {
+    const bool isWritten = std::fwrite(Bytes.data(), 1, Bytes.size(), File.get()) == Bytes.size();
     const bool isClosed = std::fclose(File.release()) == 0; // writes what was still held back
-    if (!IsWhole || !isClosed) {
+    if (!isWritten || !isClosed) {
         TellFailure();
     }
-    return IsWhole && isClosed;
+    return isWritten && isClosed;
 }
 
 /// Says that the file could not be written.
@@ -69,13 +69,7 @@ void ValueStreamWriter::WriteTag(ValueTag Tag) {
 }
 
 template <typename Number> void ValueStreamWriter::WriteNumber(Number Value) {
-    std::array<unsigned char, sizeof(Number)> bytes{};
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        bytes[i] = static_cast<unsigned char>(Value >> (8 * i));
+    for (std::size_t i = 0; i < sizeof(Number); ++i) {
+        Bytes.push_back(static_cast<char>(Value >> (8 * i)));
     }
-    WriteBytes(bytes.data(), bytes.size());
-}
-
-void ValueStreamWriter::WriteBytes(const void *Bytes, std::size_t Size) {
-    IsWhole = std::fwrite(Bytes, 1, Size, File.get()) == Size && IsWhole;
 }

@@ -145,7 +145,7 @@ TEST_F(ValueStreamWriterTest, TellsOfWhatIsNoRegularFileAndLeavesIt) {
 
 TEST_F(ValueStreamWriterTest, TellsOfAFileThatHasNotTakenEveryByte) {
     const std::string words = "Unable to write file: " + Path + "\n";
-    // Some bytes are held back until the closing; others do not wait for it.
+    // What exceeds the file's buffer does not wait for the closing.
     for (const std::size_t letters : {300U, 4000U, 4091U, 5000U, 100000U}) {
         SCOPED_TRACE(letters);
         const FileSizeLimit disk(letters + 4); // the tag and the length take five
