@@ -3,6 +3,7 @@
 #include "tools/desktop/WaitUntil.hpp"
 
 #include <array>
+#include <regex>
 #include <sstream>
 
 namespace {
@@ -73,6 +74,12 @@ std::string NamedInt64(const std::string &Key, std::int64_t Value) {
     return Named(Key, Int64, Bytes(static_cast<std::uint64_t>(Value), 8));
 }
 
+// Options with each value between its quotes taken out.
+std::string WithoutValues(const std::string &Options) {
+    static const std::regex value("=\"[^\"]*\"");
+    return std::regex_replace(Options, value, "=\"\"");
+}
+
 } // namespace
 
 std::filesystem::path StoredPath(const PreparedHome &Home, const std::string &Name) {
@@ -127,6 +134,10 @@ bool SaveIsWhole(const std::string &Save) {
         place = *end;
     }
     return false;
+}
+
+bool OptionsAreWhole(const std::string &Options, const std::string &Whole) {
+    return !Options.empty() && WithoutValues(Options) == WithoutValues(Whole);
 }
 
 std::string MadeSave(const MadeRun &Run) {

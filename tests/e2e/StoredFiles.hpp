@@ -31,6 +31,9 @@ std::optional<bool> StoresRun(const PreparedHome &Home);
 // Whether a save begins with an object and ends where that ends, with whole tokens between.
 bool SaveIsWhole(const std::string &Save);
 
+// Whether options have the same sections and keys as others that are known to be whole, each with a value.
+bool OptionsAreWhole(const std::string &Options, const std::string &Whole);
+
 // What a made save says of its run; all else of it is as a new run has it.
 struct MadeRun {
     std::int64_t HighScore = 0;
