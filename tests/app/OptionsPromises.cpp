@@ -17,7 +17,40 @@ bool IsBindable(std::int32_t Key) {
     return Key >= 0 && Key < 512 && Key != EscapeKey && Key != DeleteKey && Key != BackspaceKey;
 }
 
-/// Every value within its range.
+/// A gamepad's button or none.
+bool IsPadButton(std::int32_t Button) {
+    return Button >= -1 && Button <= 25;
+}
+
+/// A joystick's button or none.
+bool IsStickButton(std::int32_t Button) {
+    return Button >= -1;
+}
+
+bool IsInCatalogue(const std::string &Language) {
+    return std::ranges::find(Localization.Languages, Language, &LanguageEntry::Code) !=
+           Localization.Languages.end();
+}
+
+bool IsDevice(enum ControlsDevice Device) {
+    return Device >= ControlsDeviceKeyboard && Device <= ControlsDeviceJoystick;
+}
+
+/// Every control within its range, applied and pending.
+std::string BrokenControl(const GameState &State) {
+    return FirstBroken({
+        {"ControlsDevice", IsDevice(State.ControlsDevice)},
+        {"PendingControlsDevice", IsDevice(State.PendingControlsDevice)},
+        {"KeyboardBindings", std::ranges::all_of(State.KeyboardBindings, IsBindable)},
+        {"PendingKeyboard", std::ranges::all_of(State.PendingKeyboard, IsBindable)},
+        {"GamepadBindings", std::ranges::all_of(State.GamepadBindings, IsPadButton)},
+        {"PendingGamepad", std::ranges::all_of(State.PendingGamepad, IsPadButton)},
+        {"JoystickBindings", std::ranges::all_of(State.JoystickBindings, IsStickButton)},
+        {"PendingJoystick", std::ranges::all_of(State.PendingJoystick, IsStickButton)},
+    });
+}
+
+/// Every other value within its range.
 std::string BrokenValue(const GameState &State) {
     return FirstBroken({
         {"OptionsMainSelection", State.OptionsMainSelection >= 0 && State.OptionsMainSelection < 4},
@@ -26,6 +59,7 @@ std::string BrokenValue(const GameState &State) {
         {"AudioSelection", State.AudioSelection >= 0 && State.AudioSelection < 10},
         {"ResolutionIndex", State.ResolutionIndex >= 0 &&
                                 State.ResolutionIndex < static_cast<std::int32_t>(State.Resolutions.size())},
+        {"AspectMode", State.AspectMode == AspectWidescreen || State.AspectMode == AspectClassic4x3},
         {"RefreshRate", std::ranges::count(State.RefreshRates, State.RefreshRate) == 1},
         {"PendingMasterVolume", IsPercentage(State.PendingMasterVolume)},
         {"PendingMusicVolume", IsPercentage(State.PendingMusicVolume)},
@@ -33,10 +67,8 @@ std::string BrokenValue(const GameState &State) {
         {"MasterVolume", IsPercentage(State.MasterVolume)},
         {"MusicVolume", IsPercentage(State.MusicVolume)},
         {"SfxVolume", IsPercentage(State.SfxVolume)},
-        {"KeyboardBindings", std::ranges::all_of(State.KeyboardBindings, IsBindable)},
-        {"PendingKeyboard", std::ranges::all_of(State.PendingKeyboard, IsBindable)},
-        {"Language", std::ranges::find(Localization.Languages, State.Language, &LanguageEntry::Code) !=
-                         Localization.Languages.end()},
+        {"Language", IsInCatalogue(State.Language)},
+        {"PendingLanguage", IsInCatalogue(State.PendingLanguage)},
     });
 }
 
@@ -58,6 +90,10 @@ std::string BrokenEdit(const GameState &State) {
 } // namespace
 
 std::string BrokenOption(const GameState &State) {
-    std::string value = BrokenValue(State);
-    return value.empty() ? BrokenEdit(State) : value;
+    for (const auto &broken : {BrokenValue(State), BrokenControl(State), BrokenEdit(State)}) {
+        if (!broken.empty()) {
+            return broken;
+        }
+    }
+    return {};
 }

@@ -333,10 +333,16 @@ void RandomEvents::ChangeWindow(const Program &Game) {
     }
 }
 
-void RandomEvents::PushIgnored(const Program & /*Game*/) {
+/// Half of what happens to windows and displays is told of the game's own.
+void RandomEvents::PushIgnored(const Program &Game) {
     const auto range = DrawFrom<TypeRange>(IgnoredTypes);
     const Uint32 type = range.First + Draw(range.Last - range.First + 1);
     SDL_Event event = range.HasPointers ? EventOf(SDL_EVENT_FIRST) : DrawBytes();
     event.type = type;
+    if (type >= SDL_EVENT_WINDOW_FIRST && type <= SDL_EVENT_WINDOW_LAST && Draw(2) == 0) {
+        event.window.windowID = SDL_GetWindowID(Game.Window);
+    } else if (type >= SDL_EVENT_DISPLAY_FIRST && type <= SDL_EVENT_DISPLAY_LAST && Draw(2) == 0) {
+        event.display.displayID = SDL_GetDisplayForWindow(Game.Window);
+    }
     PushAsDevice(event);
 }

@@ -5,7 +5,10 @@
 #include "sim/Lanes.hpp"
 #include "sim/NewRun.hpp"
 #include "sim/Stages.hpp"
+#include "state/LogicalScreen.hpp"
 #include "state/MenuRows.hpp"
+#include "state/Resolutions.hpp"
+#include "store/OptionsFile.hpp"
 #include "tests/app/OptionsPromises.hpp"
 #include "tests/sim/RunPromises.hpp"
 #include "tests/storms/RandomEvents.hpp"
@@ -16,9 +19,11 @@
 #include "tests/support/TemporaryHome.hpp"
 #include "tests/support/watch/FakeDisplays.hpp"
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <tuple>
 
 // The whole program in storms of events: as many as can be had, in an order that no person and no system
 // would send them, and after each frame all that ever must hold.
@@ -90,6 +95,28 @@ std::string BrokenCourse(const GameState &Before, const GameState &After) {
         {"the high score does not fall", After.HighScore >= Before.HighScore},
         {"a run ends by its game over alone", !isRunLost || After.Screen == ScreenGameOver},
     });
+}
+
+/// What the window and the renderer are brought in line with.
+struct DisplayOptions {
+    enum AspectMode AspectMode = AspectWidescreen;
+    Resolution Size;
+    std::int32_t RefreshRate = 0;
+    bool Fullscreen = false;
+    bool VSync = false;
+
+    bool operator==(const DisplayOptions &) const = default;
+};
+
+DisplayOptions DisplayOptionsOf(const GameState &State) {
+    return {State.AspectMode, CurrentResolution(State), State.RefreshRate, State.Fullscreen, State.VSync};
+}
+
+/// What the Controls page and the Audio page apply.
+auto AppliedOptionsOf(const GameState &State) {
+    return std::tie(State.ControlsDevice, State.KeyboardBindings, State.GamepadBindings,
+        State.JoystickBindings, State.MasterVolume, State.MusicVolume, State.SfxVolume, State.MusicEnabled,
+        State.SfxEnabled, State.Language);
 }
 
 /// What is open is there, and in the right place.
@@ -164,6 +191,7 @@ private:
     void Leave();
     Spell DrawSpell();
     void RunFrameIn(const Spell &Weather);
+    std::string BrokenApply(const GameState &Before) const;
 
     TemporaryHome Home;
     LogicalWidthScope ScreenWidth{1280};
@@ -173,6 +201,8 @@ private:
     LogCatcher Log;
     Uint64 Now = 0; ///< in milliseconds
     int VSync = 0;
+    DisplayOptions OnDisplay; ///< as they were when vertical sync was last set, which every apply does
+    std::int32_t WidthOnDisplay = 0;
     RandomEvents Drawn{0};
     std::unique_ptr<Program> Game;
 };
@@ -222,6 +252,8 @@ void Storm::AnswerForTime() {
     };
     Watch.SetRenderVSync.Answer = [this](SDL_Renderer * /*Renderer*/, int Wanted) {
         VSync = Wanted;
+        OnDisplay = DisplayOptionsOf(Game->State);
+        WidthOnDisplay = LogicalWidth;
         return true;
     };
     Watch.GetRenderVSync.Answer = [this](SDL_Renderer * /*Renderer*/, int *Actual) {
@@ -274,6 +306,22 @@ Spell Storm::DrawSpell() {
     return {5 + Drawn.Draw(200), 12, &RandomEvents::PushKeyOrOther};
 }
 
+/// What is applied goes into Config.ini within the frame, and on the display; on the Graphics page alone the
+/// options may be others than there.
+std::string Storm::BrokenApply(const GameState &Before) const {
+    const GameState &after = Game->State;
+    const bool isStored = std::ranges::any_of(Watch.WriteStorageFile.Calls, [](const auto &Call) {
+        return std::get<1>(Call) == OptionsFileName;
+    });
+    const bool isOnPage = after.OptionsPage == OptionsPageGraphics;
+    return FirstBroken({
+        {"what is applied is stored", isStored || AppliedOptionsOf(Before) == AppliedOptionsOf(after)},
+        {"the display was applied and is stored", isStored || Watch.SetRenderVSync.Count() == 0},
+        {"the display has the options", isOnPage || OnDisplay == DisplayOptionsOf(after)},
+        {"LogicalWidth", LogicalWidth == WidthOnDisplay},
+    });
+}
+
 void Storm::RunFrameIn(const Spell &Weather) {
     for (std::uint32_t i = Drawn.Draw(Weather.MostEvents + 1); i > 0; --i) {
         (Drawn.*Weather.Push)(*Game);
@@ -285,6 +333,7 @@ void Storm::RunFrameIn(const Spell &Weather) {
     Log.Lines.clear();
     RunFrame(*Game);
     ASSERT_EQ(BrokenPromise(before, *Game), "") << TellPlace();
+    ASSERT_EQ(BrokenApply(before), "") << TellPlace();
     ASSERT_EQ(Log.Lines, std::vector<std::string>{}) << TellPlace();
     Met.Note(before, *Game, Watch.SetRenderVSync.Count() > 0);
     ++Frames;
