@@ -32,8 +32,11 @@ seconds RowDistance() {
     return std::max(SoakTime() / 100, seconds{5});
 }
 
-// How fast the credits scroll, in pixels a second: 42, unless a frame takes longer than 33 milliseconds, for
-// then the game runs slower. From the main menu without its row being known, and back to it.
+// How fast the credits scroll, in pixels a second, unless a frame takes longer than 33 milliseconds, for then
+// the game runs slower.
+constexpr double FullPace = 42.0;
+
+// That speed as it is seen on the credits; 0 if they cannot be seen.
 double CreditsSpeed(OpenedGame &Game) {
     constexpr milliseconds seen{1500};
     if (!Game.WaitForPicture([](const Screenshot &Seen) {
@@ -93,7 +96,7 @@ bool ComesToMainMenu(OpenedGame &Game) {
         PatientDeadline, rest);
 }
 
-// Goes to the credits and measures them.
+// Goes from the main menu to the credits, measures them, and comes back. 0 if they cannot be seen.
 double MeasuredPace(OpenedGame &Game) {
     const std::optional<Screenshot> menu = Game.WaitForPicture([](const Screenshot &Seen) {
         return FindScreen(Seen) == SeenScreen::MainMenu && FindMenu(Seen);
@@ -139,6 +142,7 @@ TEST_F(Soak, PlayedOnAndOnTheGameKeepsItsPaceItsMemoryAndItsSilence) {
     ASSERT_TRUE(ComesToMainMenu(game));
     const double lastPace = MeasuredPace(game);
     EXPECT_TRUE(someone.HasMetAll());
+    EXPECT_NEAR(firstPace, FullPace, FullPace * 0.3) << "pixels of credits a second";
     EXPECT_GT(lastPace, firstPace * 0.7) << "pixels of credits a second";
     ExpectSteady(log.Rows);
     EXPECT_EQ(game.Close(), std::optional(0));
