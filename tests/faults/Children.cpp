@@ -11,6 +11,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <iostream>
 #include <map>
 #include <memory>
 #include <new>
@@ -31,8 +32,6 @@
 #endif
 
 namespace {
-
-constexpr unsigned Patience = 60; ///< seconds
 
 /// The status that a process ends with: not 0 if anything leaks.
 int LookForLeaks() {
@@ -82,11 +81,16 @@ void SendStream(int Stream, const char *Path) {
 }
 
 /// What an exception or a fault ends here must not come back to the test.
-[[noreturn]] void PlayHere(const SessionPlan &Plan, const Child &Own) noexcept {
+[[noreturn]] void PlayHere(const SessionPlan &Plan, const Child &Own, unsigned Patience) noexcept {
     alarm(Patience);
-    SendStream(STDOUT_FILENO, "/dev/null");
+    SendStream(STDOUT_FILENO, (Own.Folder.Path() / "printed").c_str());
     SendStream(STDERR_FILENO, (Own.Folder.Path() / "said").c_str());
-    PlaySession(Plan, Own.Folder.Path(), *Own.Shared.Report);
+    if (Plan.Instead != nullptr) {
+        Plan.Instead();
+    } else {
+        PlaySession(Plan, Own.Folder.Path(), *Own.Shared.Report);
+    }
+    std::cout << std::flush;
     _exit(LookForLeaks());
 }
 
@@ -101,7 +105,7 @@ std::vector<std::string> LinesOf(const std::string &Text) {
 
 class Children {
 public:
-    explicit Children(std::size_t Number) : Ends(Number) {}
+    Children(std::size_t Number, unsigned LongestTime) : Ends(Number), Patience(LongestTime) {}
 
     void Start(std::size_t Place, const SessionPlan &Plan) {
         auto child = std::make_unique<Child>();
@@ -110,9 +114,10 @@ public:
             WriteBytes(child->File(OptionsFileName), OlderOptions());
             WriteBytes(child->File(SaveStateFileName), OlderSave());
         }
+        std::cout << std::flush; // or the child would print what waits once more
         const pid_t process = fork();
         if (process == 0) {
-            PlayHere(Plan, *child);
+            PlayHere(Plan, *child, Patience);
         }
         if (process < 0) {
             throw std::runtime_error("no process can be forked");
@@ -127,6 +132,7 @@ public:
         Ends[child.Place] = {.Report = *child.Shared.Report,
             .Status = status,
             .Lines = LinesOf(ReadBytes(child.Folder.Path() / "said")),
+            .Printed = LinesOf(ReadBytes(child.Folder.Path() / "printed")),
             .Options = FindBytes(child.File(OptionsFileName)),
             .Save = FindBytes(child.File(SaveStateFileName))};
         Playing.erase(process);
@@ -134,6 +140,9 @@ public:
 
     std::vector<SessionEnd> Ends;
     std::map<pid_t, std::unique_ptr<Child>> Playing;
+
+private:
+    unsigned Patience;
 };
 
 /// A car that the next shot kills, with the shot before its bonnet, and another that a shot has just hit.
@@ -161,8 +170,8 @@ std::string PreparedRun() {
 
 } // namespace
 
-std::vector<SessionEnd> PlayAll(const std::vector<SessionPlan> &Plans, int AtOnce) {
-    Children children(Plans.size());
+std::vector<SessionEnd> PlayAll(const std::vector<SessionPlan> &Plans, int AtOnce, unsigned Patience) {
+    Children children(Plans.size(), Patience);
     for (std::size_t place = 0; place < Plans.size(); ++place) {
         if (children.Playing.size() == static_cast<std::size_t>(AtOnce)) {
             children.Collect();
@@ -173,6 +182,14 @@ std::vector<SessionEnd> PlayAll(const std::vector<SessionPlan> &Plans, int AtOnc
         children.Collect();
     }
     return std::move(children.Ends);
+}
+
+bool LooksForLeaks() {
+#ifdef LOOKS_FOR_LEAKS
+    return true;
+#else
+    return false;
+#endif
 }
 
 /// A small window without vertical sync, so that a frame takes little time.

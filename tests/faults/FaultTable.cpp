@@ -10,8 +10,12 @@ namespace {
 constexpr std::string_view NoMusic = "Music runtime unavailable; game will run without music";
 constexpr std::string_view NoAtlas = "BuildTextureAtlas failed: refused for the test";
 constexpr std::string_view NoIcon = "SetWindowIconFromAtlas failed: refused for the test";
-constexpr std::string_view PatternLine = "Music pattern '";
-constexpr std::string_view NotWritten = "Unable to write file: ";
+constexpr std::string_view NoPlay = "PlayMusicPattern failed: refused for the test";
+constexpr std::string_view NotRead = "Unable to read file: */.SaveState.bin.tmp!";
+constexpr std::string_view NotWritten = "Unable to write file: */.SaveState.bin.tmp";
+constexpr std::string_view IniNotRead =
+    "Unable to open INI file: */.TitleStorageRead.tmp|Unable to open INI file: */.Config.ini.tmp";
+constexpr std::string_view IniNotWritten = "Unable to write INI file: */.Config.ini.tmp";
 
 /// A call whose failure has a line of its own, or two.
 constexpr FaultRow Told(std::string_view Function, std::string_view Line, std::string_view SecondLine = {}) {
@@ -31,6 +35,20 @@ constexpr FaultRow UpTo(int LastCall, FaultRow Row) {
 /// A step on the way from or to a file.
 constexpr FaultRow OfFiles(std::string_view Function) {
     return {.Function = Function, .IsOfFiles = true};
+}
+
+/// A step that opens an INI file.
+constexpr FaultRow OfIniFiles(std::string_view Function) {
+    return {.Function = Function, .Prints = IniNotRead, .PrintsInWriting = IniNotWritten, .IsOfFiles = true};
+}
+
+/// A call for the music or for an effect.
+constexpr FaultRow OfSounds(std::string_view Function, std::string_view LineOfEffects) {
+    return {.Function = Function, .Says = {LineOfEffects}, .SaysOfMusic = NoPlay};
+}
+
+constexpr FaultRow LosesPattern(std::string_view Function) {
+    return {.Function = Function, .LosesPattern = true};
 }
 
 constexpr FaultRow Without(std::string_view Other, FaultRow Row) {
@@ -74,11 +92,11 @@ constexpr FaultRow Rows[] = {
     Silent("SDL_GetWindowFlags"),
     Told("SDL_SetWindowFullscreenMode",
         "SDL_SetWindowFullscreenMode(borderless) failed: refused for the test"),
-    Told("SDL_SetWindowFullscreen", "SDL_SetWindowFullscreen(true) failed: refused for the test|"
-                                    "SDL_SetWindowFullscreen(false) failed: refused for the test"),
-    Told("SDL_SetWindowSize", "SDL_SetWindowSize("),
+    UpTo(1, Told("SDL_SetWindowFullscreen", "SDL_SetWindowFullscreen(true) failed: refused for the test")),
+    Told("SDL_SetWindowFullscreen", "SDL_SetWindowFullscreen(false) failed: refused for the test"),
+    Told("SDL_SetWindowSize", "SDL_SetWindowSize(*) failed: refused for the test"),
     Told("SDL_SetWindowPosition", "SDL_SetWindowPosition(centered) failed: refused for the test"),
-    Told("SDL_SetRenderVSync", "SDL_SetRenderVSync("),
+    Told("SDL_SetRenderVSync", "SDL_SetRenderVSync(*) failed: refused for the test"),
     Told("SDL_GetRenderVSync", "SDL_GetRenderVSync failed: refused for the test"),
     Told("SDL_SetRenderLogicalPresentation", "SDL_SetRenderLogicalPresentation failed: refused for the test"),
 
@@ -115,7 +133,7 @@ constexpr FaultRow Rows[] = {
 
     // Files. Where none is being written one is being read, and counts as missing.
     OfFiles("SDL_GetPrefPath"),
-    {.Function = "SDL_GetBasePath", .Says = {PatternLine}, .MaySay = PatternLine},
+    LosesPattern("SDL_GetBasePath"),
     OfFiles("SDL_OpenUserStorage"),
     Silent("SDL_OpenTitleStorage"),
     Silent("SDL_CloseStorage"),
@@ -127,45 +145,42 @@ constexpr FaultRow Rows[] = {
     OfFiles("SDL_WriteStorageFile"),
     OfFiles("SDL_LoadFile"),
     Silent("SDL_SaveFile"),
-    {.Function = "fopen", .Says = {"Unable to read file: |Unable to write file: "}, .IsOfFiles = true},
-    {.Function = "fclose",
-        .MaySay = NotWritten,
-        .IsOfFiles = true}, // the lines are for a file that was written
-    {.Function = "fwrite", .Says = {NotWritten}, .IsOfFiles = true},
+    {.Function = "fopen", .Says = {NotRead}, .SaysInWriting = NotWritten, .IsOfFiles = true},
+    {.Function = "fclose", .SaysInWriting = NotWritten, .IsOfFiles = true},
+    {.Function = "fwrite", .SaysInWriting = NotWritten, .IsOfFiles = true},
     Told("fseek", "Error: Failed to seek to end of file, proceeding without reservation!"),
     Told("ftell", "Warning: Unable to determine file size, proceeding without reservation!"),
     Silent("getc"), // the end of the file, and what stands behind it counts as damaged
     Silent("remove"),
-    OfFiles("_ZNSt14basic_ifstreamIcSt11char_traitsIcEE7is_openEv"),
-    OfFiles("_ZNSt14basic_ofstreamIcSt11char_traitsIcEE7is_openEv"),
-    OfFiles("_ZNSt13basic_filebufIcSt11char_traitsIcEE4openEPKcSt13_Ios_Openmode"),
+    OfIniFiles("_ZNSt14basic_ifstreamIcSt11char_traitsIcEE7is_openEv"),
+    OfIniFiles("_ZNSt14basic_ofstreamIcSt11char_traitsIcEE7is_openEv"),
+    OfIniFiles("_ZNSt13basic_filebufIcSt11char_traitsIcEE4openEPKcSt13_Ios_Openmode"),
 
     // Sounds.
     Told("MIX_Init", "MIX_Init failed: refused for the test", NoMusic),
     Told("MIX_CreateMixerDevice", "MIX_CreateMixerDevice failed: refused for the test", NoMusic),
     UpTo(1, Told("MIX_CreateTrack", "MIX_CreateTrack failed: refused for the test", NoMusic)),
-    Told("MIX_CreateTrack", "MIX_CreateTrack failed for SFX track "),
+    Told("MIX_CreateTrack", "MIX_CreateTrack failed for SFX track *: refused for the test"),
     UpTo(1, Told("MIX_TagTrack", "MIX_TagTrack failed: refused for the test")),
-    Told("MIX_TagTrack", "MIX_TagTrack failed for SFX track "),
+    Told("MIX_TagTrack", "MIX_TagTrack failed for SFX track *: refused for the test"),
     UpTo(1, Told("MIX_SetTrackGain", "MIX_SetTrackGain failed: refused for the test", NoMusic)),
     UpTo(13, Told("MIX_SetTrackGain", "MIX_SetTrackGain failed for SFX track: refused for the test")),
+    UpTo(14,
+        Told("MIX_SetTrackGain", "MIX_SetTrackGain failed during startup fade setup: refused for the test")),
     Told("MIX_SetTrackGain", "MIX_SetTrackGain failed: refused for the test|"
-                             "MIX_SetTrackGain failed during startup fade|"
+                             "MIX_SetTrackGain failed during startup fade: refused for the test|"
                              "MIX_SetTrackGain failed for SFX track: refused for the test"),
     Silent("MIX_GetMixerFormat"),
     Silent("MIX_LoadRawAudio"),
-    Without("MIX_LoadRawAudio", Told("MIX_CreateSineWaveAudio", "MIX_CreateSineWaveAudio failed for SFX '")),
+    Without("MIX_LoadRawAudio",
+        Told("MIX_CreateSineWaveAudio", "MIX_CreateSineWaveAudio failed for SFX '*': refused for the test")),
 
     // Music.
-    {.Function = "MIX_LoadAudio",
-        .Says = {"MIX_LoadAudio failed for pattern '"},
-        .MaySay = PatternLine}, // what pointed to it
-    Told("MIX_SetTrackAudio",
-        "PlayMusicPattern failed: refused for the test|MIX_SetTrackAudio failed for SFX '"),
-    Told("SDL_CreateProperties",
-        "PlayMusicPattern failed: refused for the test|SDL_CreateProperties failed for SFX '"),
+    LosesPattern("MIX_LoadAudio"),
+    OfSounds("MIX_SetTrackAudio", "MIX_SetTrackAudio failed for SFX '*': refused for the test"),
+    OfSounds("SDL_CreateProperties", "SDL_CreateProperties failed for SFX '*': refused for the test"),
     Silent("SDL_SetNumberProperty"),
-    Told("MIX_PlayTrack", "PlayMusicPattern failed: refused for the test|MIX_PlayTrack failed for SFX '"),
+    OfSounds("MIX_PlayTrack", "MIX_PlayTrack failed for SFX '*': refused for the test"),
     Silent("MIX_StopTrack"),
     {.Function = "MIX_TrackPlaying", .IsAskedInRealTime = true},
     Silent("MIX_GetTrackLoops"),
@@ -231,7 +246,8 @@ constexpr SafeFunction Safe[] = {
     {"_ZNSt14basic_ifstreamIcSt11char_traitsIcEE4openEPKcSt13_Ios_Openmode", IsOpenTells},
     {"_ZNSt14basic_ofstreamIcSt11char_traitsIcEE4openEPKcSt13_Ios_Openmode", IsOpenTells},
     {"_ZNKSt12__basic_fileIcE7is_openEv", "it says what is_open of its stream, compiled in place, gives"},
-    {"_ZNSt10filesystem6statusERKNS_7__cxx114pathERSt10error_code", "what it cannot find is no folder"},
+    {"_ZNSt10filesystem6statusERKNS_7__cxx114pathERSt10error_code",
+        "what it cannot ask about is opened, which tells"},
 };
 
 } // namespace

@@ -7,15 +7,20 @@
 #include <string_view>
 #include <vector>
 
-/// What must come of a call that fails. Lines stand by their beginnings; where a failure can mean one thing
-/// or another, all stand in one text with "|" between them.
+/// What must come of a call that fails. Lines stand as they are said, with a "*" for what is not told here;
+/// where a failure can mean one thing or another, all stand in one text with "|" between them. No others may
+/// be said.
 struct FaultRow {
     std::string_view Function;
     int LastCall = 0;                       ///< the row is for the calls up to this one; 0 for all
     int Result = 0;                         ///< of the program
-    std::array<std::string_view, 2> Says{}; ///< lines that must be said, if not empty
-    std::string_view MaySay{};              ///< lines that may be said as well; any other may not
+    std::array<std::string_view, 2> Says{}; ///< lines on standard error, if not empty
+    std::string_view SaysInWriting{};       ///< instead, while a file is being written
+    std::string_view SaysOfMusic{};         ///< instead, if the call is for the music's track
+    std::string_view Prints{};              ///< line on standard output, if not empty
+    std::string_view PrintsInWriting{};     ///< instead, while a file is being written
     bool IsOfFiles = false;                 ///< whether a file that is being written then fails
+    bool LosesPattern = false;              ///< the lines are then those of LinesWithoutPattern
     std::string_view AskedWithout{};        ///< the function is called only where this one fails
     bool IsAskedInRealTime = false;         ///< how often depends on how fast the sounds are played
 };

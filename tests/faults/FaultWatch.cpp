@@ -14,9 +14,17 @@ namespace {
 
 // What has failed is marked as such in its stream, by an access that the stream is not open for.
 
-std::size_t FailToWrite(const void * /*Bytes*/, std::size_t /*Size*/, std::size_t /*Count*/, FILE *File) {
+/// The disk is full: half is written.
+std::size_t FailToWrite(const void *Bytes, std::size_t Size, std::size_t Count, FILE *File) {
+    const std::size_t half = std::fwrite(Bytes, 1, Size * Count / 2, File);
     std::getc(File);
-    return 0;
+    return half / Size;
+}
+
+/// The same of a whole file.
+bool FailToSaveFile(const char *Path, const void *Bytes, std::size_t Size) {
+    SDL_SaveFile(Path, Bytes, Size / 2);
+    return SDL_SetError("%s", CallWatch::RefusalText);
 }
 
 int FailToRead(FILE *File) {
@@ -44,6 +52,10 @@ int FailToCount(SDL_Joystick * /*Joystick*/) {
     return -1;
 }
 
+template <auto Field> constexpr bool CanFail = requires(FaultWatch &Watch) {
+    (Watch.*Field).Refuse(1, 0);
+};
+
 template <auto Field> WatchedEntry MakeEntry(std::string_view Name) {
     return {Name,
         [](FaultWatch &Watch, const std::function<void()> &Act) {
@@ -51,8 +63,9 @@ template <auto Field> WatchedEntry MakeEntry(std::string_view Name) {
                 Act();
             };
         },
+        CanFail<Field>,
         [](FaultWatch &Watch, int Times, int After) {
-            if constexpr (requires { (Watch.*Field).Refuse(Times, After); }) {
+            if constexpr (CanFail<Field>) {
                 (Watch.*Field).Refuse(Times, After);
             }
         }};
@@ -74,6 +87,7 @@ FaultWatch::FaultWatch() {
     RemoveFile.Failure = [](const char * /*Path*/) {
         return -1;
     };
+    SaveFile.Failure = FailToSaveFile;
     CloseStorage.Failure = FailToCloseStorage;
     GetNumJoystickAxes.Failure = FailToCount;
     GetNumJoystickHats.Failure = FailToCount;

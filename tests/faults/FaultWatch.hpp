@@ -46,7 +46,10 @@ struct WatchedEntry {
     /// Has Act run at the beginning of each call.
     void (*OnCall)(FaultWatch &Watch, const std::function<void()> &Act);
 
-    /// Lets calls fail, as SteeredCall::Refuse does. Nothing for a function without a result.
+    /// Whether the function has a result, so that it can fail.
+    bool CanFail;
+
+    /// Lets calls fail, as SteeredCall::Refuse does. Nothing for a function that cannot.
     void (*Refuse)(FaultWatch &Watch, int Times, int After);
 };
 

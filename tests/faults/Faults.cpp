@@ -1,6 +1,7 @@
 #include "tests/faults/Faults.hpp"
 
 #include "tests/faults/FaultWatch.hpp"
+#include "tests/faults/LostPatterns.hpp"
 
 #include <sys/wait.h>
 
@@ -68,13 +69,23 @@ SessionPlan FaultOf(const std::string &Name) {
         .Without = row.AskedWithout};
 }
 
-/// Takes a line out of a list that begins with one of the texts; false if there is none.
-bool TakeLine(std::vector<std::string> &Lines, std::string_view Beginnings) {
-    while (!Beginnings.empty()) {
-        const std::string_view beginning = Beginnings.substr(0, Beginnings.find('|'));
-        Beginnings.remove_prefix(std::min(beginning.size() + 1, Beginnings.size()));
-        const auto found = std::ranges::find_if(Lines, [beginning](const std::string &Line) {
-            return Line.starts_with(beginning);
+/// Whether a line is as told: the same, but for what a "*" stands for.
+bool IsAsTold(std::string_view Line, std::string_view Told) {
+    const std::size_t star = Told.find('*');
+    if (star == std::string_view::npos) {
+        return Line == Told;
+    }
+    return Line.size() + 1 >= Told.size() && Line.starts_with(Told.substr(0, star)) &&
+           Line.ends_with(Told.substr(star + 1));
+}
+
+/// Takes a line out of a list that is as one of the texts tells; false if there is none.
+bool TakeLine(std::vector<std::string> &Lines, std::string_view Told) {
+    while (!Told.empty()) {
+        const std::string_view told = Told.substr(0, Told.find('|'));
+        Told.remove_prefix(std::min(told.size() + 1, Told.size()));
+        const auto found = std::ranges::find_if(Lines, [told](const std::string &Line) {
+            return IsAsTold(Line, told);
         });
         if (found != Lines.end()) {
             Lines.erase(found);
@@ -85,27 +96,45 @@ bool TakeLine(std::vector<std::string> &Lines, std::string_view Beginnings) {
 }
 
 /// What is wrong with the lines: those that miss, and those that are too many.
-std::string VerdictOnLines(const SessionPlan &Fault, const FaultRow &Row, const SessionEnd &End) {
+std::string VerdictOnLines(std::vector<std::string> Lines, const std::vector<std::string> &Wanted) {
     std::string verdict;
-    std::vector<std::string> lines = End.Lines;
-    std::vector<std::string_view> wanted(Row.Says.begin(), Row.Says.end());
-    if (Row.IsOfFiles && End.Report.During != Writing::Nothing) {
-        wanted.push_back(FileFailureLine(End.Report.During));
-    }
-    for (const std::string_view beginning : wanted) {
-        if (!beginning.empty() && !TakeLine(lines, beginning)) {
-            verdict += "Missing: " + std::string(beginning) + "\n";
+    for (const std::string &wanted : Wanted) {
+        if (!wanted.empty() && !TakeLine(Lines, wanted)) {
+            verdict += "Missing: " + wanted + "\n";
         }
     }
-    for (const std::string &line : PlainSession(Fault.Start, Fault.Without).Lines) {
-        TakeLine(lines, line);
-    }
-    while (TakeLine(lines, Row.MaySay)) {
-    }
-    for (const std::string &line : lines) {
+    for (const std::string &line : Lines) {
         verdict += "Unexpected: " + line + "\n";
     }
     return verdict;
+}
+
+/// The lines on standard error that must come of a fault.
+std::vector<std::string> WantedLines(const SessionPlan &Fault, const FaultRow &Row, const SessionEnd &End) {
+    std::vector<std::string> wanted(Row.Says.begin(), Row.Says.end());
+    if (Row.LosesPattern) {
+        wanted = LinesWithoutPattern(Row.Function, Fault.Number);
+    } else if (Row.IsOfFiles && End.Report.During != Writing::Nothing) {
+        wanted = {std::string(Row.SaysInWriting)};
+    } else if (End.Report.IsOfMusic && !Row.SaysOfMusic.empty()) {
+        wanted = {std::string(Row.SaysOfMusic)};
+    }
+    if (Row.IsOfFiles) {
+        wanted.emplace_back(FileFailureLine(End.Report.During));
+    }
+    return wanted;
+}
+
+/// What is wrong with what was said and printed. What is said without a fault may be said, too: the program
+/// may end before.
+std::string VerdictOnOutput(const SessionPlan &Fault, const FaultRow &Row, const SessionEnd &End) {
+    std::vector<std::string> said = End.Lines;
+    for (const std::string &line : PlainSession(Fault.Start, Fault.Without).Lines) {
+        TakeLine(said, line);
+    }
+    const bool isWriting = End.Report.During != Writing::Nothing;
+    return VerdictOnLines(said, WantedLines(Fault, Row, End)) +
+           VerdictOnLines(End.Printed, {std::string(isWriting ? Row.PrintsInWriting : Row.Prints)});
 }
 
 std::string VerdictOnProcess(int Status) {
@@ -125,6 +154,26 @@ std::string VerdictOnFiles(const FaultRow &Row, const SessionReport &Report) {
         verdict += "A staging file is left.\n";
     }
     return verdict;
+}
+
+/// What is wrong with how the game has gone on after it could not write a file. It tries the options again in
+/// each frame, but not the first ones; and a save after a second at the latest, which a session may be over
+/// before.
+std::string VerdictOnRetry(const SessionPlan &Fault, const SessionEnd &End) {
+    const SessionEnd &plain = PlainSession(Fault.Start, Fault.Without);
+    switch (End.Report.During) {
+    case Writing::FirstOptions:
+        return !End.Options ? "" : "There are options.\n";
+    case Writing::Options:
+        return End.Options == plain.Options ? ""
+                                            : "The options are not those of a session without a fault.\n";
+    case Writing::SaveState:
+        return End.Report.WasMadeUpFor || End.Report.FailedSave == plain.Report.SaveWrites
+                   ? ""
+                   : "The run was not saved later.\n";
+    default:
+        return {};
+    }
 }
 
 } // namespace
@@ -178,7 +227,8 @@ std::string NameOf(const SessionPlan &Fault) {
 }
 
 bool WasTried(const SessionPlan &Fault, const SessionEnd &End) {
-    return End.Report.FaultCame || !RowOf(Fault.Function, Fault.Number).IsAskedInRealTime;
+    const bool mayStayAway = RowOf(Fault.Function, Fault.Number).IsAskedInRealTime;
+    return End.Report.FaultCame || End.Status != 0 || !mayStayAway;
 }
 
 std::string Verdict(const SessionPlan &Fault, const SessionEnd &End) {
@@ -193,5 +243,6 @@ std::string Verdict(const SessionPlan &Fault, const SessionEnd &End) {
     if (End.Report.Result != row.Result) {
         verdict += "The result is " + std::to_string(End.Report.Result) + ".\n";
     }
-    return verdict + VerdictOnFiles(row, End.Report) + VerdictOnLines(Fault, row, End);
+    verdict += VerdictOnFiles(row, End.Report) + VerdictOnOutput(Fault, row, End);
+    return row.IsOfFiles ? verdict + VerdictOnRetry(Fault, End) : verdict;
 }

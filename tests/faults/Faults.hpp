@@ -28,7 +28,8 @@ int SessionsAtOnce();
 /// The name by which a fault is tried alone, such as "later:SDL_CreateTexture:1".
 std::string NameOf(const SessionPlan &Fault);
 
-/// Whether the call that was to fail came. Where the real time of the sounds decides, it need not.
+/// False if the call that was to fail never came, in a session that has ended well, for a reason that is
+/// none: the real time of the sounds decides how often it comes.
 bool WasTried(const SessionPlan &Fault, const SessionEnd &End);
 
 /// All that is wrong with the end of a session with a fault; empty if nothing is.

@@ -13,6 +13,7 @@
 #include <optional>
 #include <string>
 #include <system_error>
+#include <tuple>
 
 namespace {
 
@@ -36,6 +37,7 @@ public:
 private:
     void RunClock();
     void FailAsPlanned(const SessionPlan &Plan);
+    void NoteFault();
     int RunProgram();
     static bool WriteOptions(const GameState &State);
     static bool WriteRun(const GameState &State);
@@ -70,6 +72,12 @@ Session::Session(const SessionPlan &Plan, const std::filesystem::path &HomeFolde
         return isUp;
     };
     RunClock();
+    if (Plan.StorageIsLate) {
+        Watch.StorageReady.Answer = [isReady = true](SDL_Storage * /*Storage*/) mutable {
+            isReady = !isReady;
+            return isReady;
+        };
+    }
     FailAsPlanned(Plan);
 }
 
@@ -95,8 +103,7 @@ void Session::FailAsPlanned(const SessionPlan &Plan) {
         entry.Refuse(Watch, 1, Plan.Number - 1);
         entry.OnCall(Watch, [this, left = Plan.Number]() mutable {
             if (--left == 0) {
-                Report.FaultCame = true;
-                Report.During = Present;
+                NoteFault();
             }
         });
         return;
@@ -108,6 +115,15 @@ void Session::FailAsPlanned(const SessionPlan &Plan) {
         });
         ++index;
     }
+}
+
+void Session::NoteFault() {
+    Report.FaultCame = true;
+    Report.During = Present;
+    Report.FailedSave = Present == Writing::SaveState ? Report.SaveWrites : 0;
+    // The music's track is the first that is made.
+    const auto &given = Watch.SetTrackAudio.Calls;
+    Report.IsOfMusic = !given.empty() && std::get<0>(given.back()) == Watch.CreateTrack.Results.front();
 }
 
 void Session::Play() {
@@ -153,8 +169,10 @@ bool Session::WriteRun(const GameState &State) {
 /// the one that it becomes when nothing fails.
 bool Session::Write(Writing What, const char *Name, StateWriter Writer, const GameState &State) {
     Present = What;
+    Report.SaveWrites += What == Writing::SaveState ? 1 : 0;
     const bool hasWorked = Writer(State);
     Present = Writing::Nothing;
+    Report.WasMadeUpFor = Report.WasMadeUpFor || (hasWorked && Report.FaultCame && Report.During == What);
     const UnwatchedScope unwatched;
     const Contents found = Found(Name);
     Contents wanted = Files[Name];
