@@ -19,7 +19,7 @@ help:
 	@echo 'make test     set up what is missing and run everything: the game in its window, its rooms under sanitizers'
 	@echo 'make bench    measure drawing, stepping, saving and reading, and the start, memory and pace of the real program'
 	@echo 'make fuzz     feed damaged files to each fuzz target for FUZZ_SECONDS ($(FUZZ_SECONDS))'
-	@echo 'make faults   play a session of the game for each call of a library that can fail, with that call failing'
+	@echo 'make faults   let one library call fail in each session of the game: every rare one, 22 of those of each frame'
 	@echo 'make storms   drive the sanitized game through random events of every kind, EVENTS of them ($(EVENTS))'
 	@echo 'make kills    kill the game COUNT times ($(COUNT)) at random moments and see what the next start finds'
 	@echo 'make soak     play the game for SECONDS ($(SECONDS)) and plot its memory, handles, log and frames'

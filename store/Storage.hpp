@@ -22,5 +22,5 @@ bool CopyUserStorageFile(const std::string &Name, const std::string &StagingPath
 bool CopyTitleStorageFile(const std::string &Path, const std::string &StagingPath);
 
 /// Puts the contents of a plain file into the user's storage in one write; an empty file is refused.
-/// NOT-BUGS: A write is not safe against a crash of the system or a full disk
+/// NOT-BUGS: A write is not safe against a kill, a crash of the system or a full disk
 bool WriteUserStorageFile(const std::string &Name, const std::string &StagingPath);

@@ -235,11 +235,11 @@ std::string Verdict(const SessionPlan &Fault, const SessionEnd &End) {
     if (End.Status != 0) {
         return VerdictOnProcess(End.Status);
     }
+    if (!End.Report.FaultCame) {
+        return "The call did not come.\n";
+    }
     const FaultRow &row = RowOf(Fault.Function, Fault.Number);
     std::string verdict;
-    if (!End.Report.FaultCame) {
-        verdict += "The call did not come.\n";
-    }
     if (End.Report.Result != row.Result) {
         verdict += "The result is " + std::to_string(End.Report.Result) + ".\n";
     }
