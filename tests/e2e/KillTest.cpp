@@ -21,7 +21,7 @@ namespace {
 
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
-using seconds = std::chrono::duration<double>;
+using Seconds = std::chrono::duration<double>;
 
 // What the kills have left.
 struct Tally {
@@ -40,7 +40,7 @@ struct Tally {
 // How a game was used.
 struct Use {
     bool WasKilled = false; // or it was left before
-    seconds PlayedFor{0};   // without a break, up to the kill
+    Seconds PlayedFor{0};   // without a break, up to the kill
     std::filesystem::file_time_type End;
 };
 
@@ -49,7 +49,7 @@ constexpr int Killed = 128 + SIGKILL;
 // In play a save is written every 0.8 seconds of the game's time, which goes slower than the clock where a
 // frame takes longer than 33 milliseconds. Two seconds are added for machines on which several games and all
 // else wait for a core: with seven programs for each, saves were up to 1.6 seconds old.
-constexpr seconds OldestSave{0.8 + 2.0};
+constexpr Seconds OldestSave{0.8 + 2.0};
 
 // Draws a number from 0 on, below Below.
 int Draw(std::mt19937 &Random, int Below) {
@@ -99,7 +99,7 @@ Use UseAndKill(OpenedGame &Game, std::mt19937 &Random, int MostMilliseconds) {
             isPlaying ? playedSince.value_or(steady_clock::now()) : std::optional<steady_clock::time_point>();
     }
     Use use;
-    use.PlayedFor = playedSince ? steady_clock::now() - *playedSince : seconds{0};
+    use.PlayedFor = playedSince ? steady_clock::now() - *playedSince : Seconds{0};
     use.End = std::filesystem::file_time_type::clock::now();
     Game.Program().Send(SIGKILL);
     use.WasKilled = Game.Program().WaitForExit(PatientDeadline) == Killed;
@@ -122,7 +122,7 @@ void CheckAge(const PreparedHome &Home, const Use &Used, Tally &Sum) {
     if (Used.PlayedFor <= OldestSave) {
         return;
     }
-    const seconds age = Used.End - std::filesystem::last_write_time(StoredPath(Home, SaveFile));
+    const Seconds age = Used.End - std::filesystem::last_write_time(StoredPath(Home, SaveFile));
     EXPECT_LE(age.count(), OldestSave.count()) << "seconds, after " << Used.PlayedFor.count() << " of play";
     ++Sum.Aged;
     Sum.OldestAge = std::max(Sum.OldestAge, age.count());
@@ -166,10 +166,10 @@ void KillAgainAndAgain(unsigned Seed, int Times, Tally &Sum) {
         if (!SaveIsWhole(home.Read(SaveFile).value_or(""))) {
             home.Put(SaveFile, ""); // whatever a cut one may hold
         }
-        const std::string left = home.Read(OptionsFile).value_or("");
+        const std::string present = home.Read(OptionsFile).value_or("");
         // The next start shall find the same words and sizes, whatever was applied.
-        options = options.empty() ? left : options;
-        Sum.DamagedOptions += OptionsAreWhole(left, options) ? 0 : 1;
+        options = options.empty() ? present : options;
+        Sum.DamagedOptions += OptionsAreWhole(present, options) ? 0 : 1;
         home.Put(OptionsFile, options);
     }
 }
