@@ -136,8 +136,8 @@ bool SaveIsWhole(const std::string &Save) {
     return false;
 }
 
-bool OptionsAreWhole(const std::string &Options, const std::string &Whole) {
-    return !Options.empty() && WithoutValues(Options) == WithoutValues(Whole);
+bool OptionsAreWhole(const std::string &Found, const std::string &Whole) {
+    return !Found.empty() && WithoutValues(Found) == WithoutValues(Whole);
 }
 
 std::string MadeSave(const MadeRun &Run) {

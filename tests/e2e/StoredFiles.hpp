@@ -32,7 +32,7 @@ std::optional<bool> StoresRun(const PreparedHome &Home);
 bool SaveIsWhole(const std::string &Save);
 
 // Whether options have the same sections and keys as others that are known to be whole, each with a value.
-bool OptionsAreWhole(const std::string &Options, const std::string &Whole);
+bool OptionsAreWhole(const std::string &Found, const std::string &Whole);
 
 // What a made save says of its run; all else of it is as a new run has it.
 struct MadeRun {
