@@ -1,6 +1,8 @@
 #include "tests/e2e/PlayedGame.hpp"
 #include "tests/e2e/StoredFiles.hpp"
+#include "tools/support/Files.hpp"
 
+#include <filesystem>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -70,6 +72,16 @@ TEST(GameWindow, BearsItsTitleShowsTheCarAtTheFootOfTheMiddleLaneAndCloses) {
     ExpectNear(*car, {632, 662, 648, 682}, 1);
     game.Person().RequestClose(game.Window());
     EXPECT_EQ(game.Program().WaitForExit(PatientDeadline), std::optional(0));
+}
+
+// A desktop groups a window with the entry in its menu that names the window's class.
+TEST(GameWindow, BelongsToTheDesktopEntry) {
+    const std::string entry =
+        ReadBytes(std::filesystem::path(SOURCE_TREE) / "packaging" / "kestrel-volley.desktop");
+    OpenedGame game;
+    EXPECT_FALSE(game.Window().Class.empty());
+    EXPECT_NE(entry.find("\nStartupWMClass=" + game.Window().Class + "\n"), std::string::npos)
+        << game.Window().Class;
 }
 
 TEST(GameEnd, CloseRequestIsHeardWhileKeysAreHeld) {

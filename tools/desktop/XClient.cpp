@@ -58,6 +58,13 @@ std::string ReadTitle(Display *Server, Window Owner) {
     return title.empty() ? ReadTextProperty(Server, Owner, XA_WM_NAME, XA_STRING) : title;
 }
 
+// The property holds two words, each with a zero behind it: the window's name and its class.
+std::string ReadClass(Display *Server, Window Owner) {
+    const std::string words = ReadTextProperty(Server, Owner, XA_WM_CLASS, XA_STRING);
+    const std::string behindName = words.substr(words.find('\0') + 1);
+    return behindName.substr(0, behindName.find('\0'));
+}
+
 std::vector<Window> ReadChildren(Display *Server, Window Parent) {
     Window root = None;
     Window above = None;
@@ -88,7 +95,8 @@ std::optional<DesktopWindow> FindBelow(Display *Server, Window Parent, const std
         }
         if (const std::string title = ReadTitle(Server, child);
             !title.empty() && title.starts_with(TitlePrefix)) {
-            return DesktopWindow{child, title, ReadPlace(Server, child, attributes)};
+            return DesktopWindow{
+                child, title, ReadClass(Server, child), ReadPlace(Server, child, attributes)};
         }
         if (std::optional<DesktopWindow> found = FindBelow(Server, child, TitlePrefix)) {
             return found;

@@ -9,10 +9,12 @@
 #include <optional>
 #include <string>
 
-// A window as it stands on the screen: its title, and its place in pixels of the screen.
+// A window as it stands on the screen: its title, the class by which a desktop finds its entry in the menu,
+// and its place in pixels of the screen.
 struct DesktopWindow {
     unsigned long Id = 0;
     std::string Title;
+    std::string Class;
     Area Place;
 };
 
