@@ -1,6 +1,6 @@
 # The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
 .POSIX:
-.PHONY: help check run test bench fuzz faults storms kills soak music install clean format
+.PHONY: help check run test bench fuzz faults storms kills soak music package test-package install clean format
 
 PREFIX = /usr/local
 FUZZ_SECONDS = 600
@@ -24,6 +24,8 @@ help:
 	@echo 'make kills    kill the game COUNT times ($(COUNT)) at random moments and see what the next start finds'
 	@echo 'make soak     play the game for SECONDS ($(SECONDS)) and plot its memory, handles, log and frames'
 	@echo 'make music    play the scores of tools/music into Music/ (the results are kept in the repository)'
+	@echo 'make package  make the packages that players install, in build/packages'
+	@echo 'make test-package  make them twice, compare them, and play what is in them'
 	@echo 'make install  install the game below PREFIX ($(PREFIX)); DESTDIR is honoured'
 	@echo 'make format   lay out the code as .clang-format has it'
 	@echo 'make clean    remove build/ (libraries built for this user stay in the cache)'
@@ -97,6 +99,15 @@ soak:
 music:
 	@scripts/setup music
 	@tools/music/render
+
+package:
+	@scripts/setup package
+	@packaging/package
+
+test-package:
+	@scripts/setup package
+	@scripts/setup test
+	@tests/packaging/test
 
 # The set-up is left alone where it has been done: "sudo make install" shall not build the libraries again for root.
 install:
