@@ -1,6 +1,6 @@
 # The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
 .POSIX:
-.PHONY: help check run test bench fuzz faults storms kills soak music package test-package install clean format
+.PHONY: help check run test bench fuzz faults storms kills soak music film package test-package install clean format
 
 PREFIX = /usr/local
 FUZZ_SECONDS = 600
@@ -24,6 +24,7 @@ help:
 	@echo 'make kills    kill the game COUNT times ($(COUNT)) at random moments and see what the next start finds'
 	@echo 'make soak     play the game for SECONDS ($(SECONDS)) and plot its memory, handles, log and frames'
 	@echo 'make music    play the scores of tools/music into Music/ (the results are kept in the repository)'
+	@echo 'make film     play the game for half a minute and film it for the README'
 	@echo 'make package  make the packages that players install, in build/packages'
 	@echo 'make test-package  make them twice, compare them, and play what is in them'
 	@echo 'make install  install the game below PREFIX ($(PREFIX)); DESTDIR is honoured'
@@ -99,6 +100,13 @@ soak:
 music:
 	@scripts/setup music
 	@tools/music/render
+
+film:
+	@scripts/setup film
+	cmake --preset play -DKESTREL_BUILD_TOOLS=ON
+	cmake --build --preset play --target kestrel-volley film
+	build/play/tools/tour/film build/play/kestrel-volley build/film
+	img2webp -loop 0 -d 80 -lossy -q 70 build/film/*.png -o docs/pictures/play.webp
 
 package:
 	@scripts/setup package
