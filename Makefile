@@ -1,6 +1,7 @@
 # The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
 .POSIX:
-.PHONY: help check run test bench fuzz faults storms kills soak music film package test-package install clean format
+.PHONY: help check run test bench fuzz faults storms kills soak music film package test-package test-windows install \
+	clean format
 
 PREFIX = /usr/local
 FUZZ_SECONDS = 600
@@ -27,6 +28,7 @@ help:
 	@echo 'make film     play the game for half a minute and film it for the README'
 	@echo 'make package  make the packages that players install, in build/packages'
 	@echo 'make test-package  make them twice, compare them, and play what is in them'
+	@echo 'make test-windows  test the game for Windows under wine: its rooms, and what is packed in a window'
 	@echo 'make install  install the game below PREFIX ($(PREFIX)); DESTDIR is honoured'
 	@echo 'make format   lay out the code as .clang-format has it'
 	@echo 'make clean    remove build/ (libraries built for this user stay in the cache)'
@@ -116,6 +118,18 @@ test-package:
 	@scripts/setup package
 	@scripts/setup test
 	@tests/packaging/test
+
+# Of the packages this leaves the one for Windows.
+test-windows:
+	@scripts/setup test
+	@scripts/setup windows
+	cmake --preset windows
+	cmake --build --preset windows
+	$(CTEST) --preset windows
+	@packaging/package zip
+	cmake --preset release
+	cmake --build --preset release --target e2e_tests
+	@tests/windows/test
 
 # The set-up is left alone where it has been done: "sudo make install" shall not build the libraries again for root.
 install:

@@ -1,4 +1,5 @@
 #include "app/Frame.hpp"
+#include "app/ParentConsole.hpp"
 #include "app/Program.hpp"
 #include "app/ShutDown.hpp"
 #include "app/StartUp.hpp"
@@ -6,6 +7,7 @@
 #include <SDL3/SDL_main.h>
 
 int main(int /*ArgumentCount*/, char ** /*Arguments*/) {
+    UseParentConsole();
     Program program;
     if (!StartUp(program)) {
         return 1;

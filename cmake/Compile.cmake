@@ -11,6 +11,9 @@ endif()
 
 add_library(compile_options INTERFACE)
 target_include_directories(compile_options INTERFACE ${PROJECT_SOURCE_DIR})
+if(WIN32) # less of the system's header, and no macros in it that take the names of functions
+    target_compile_definitions(compile_options INTERFACE WIN32_LEAN_AND_MEAN NOMINMAX)
+endif()
 if(MSVC)
     target_compile_options(compile_options INTERFACE /W4 /permissive- /utf-8 /fp:precise
         $<$<BOOL:${KESTREL_WERROR}>:/WX>)

@@ -1,6 +1,13 @@
 # Finds what the game is built on. scripts/setup writes build/Dependencies.cmake, which names the folders of the
-# libraries that it built itself; without that file only what the system has installed is looked at.
-include(${CMAKE_SOURCE_DIR}/build/Dependencies.cmake OPTIONAL)
+# libraries that it built itself; without that file only what the system has installed is looked at. For another system
+# there is build/Dependencies<its name>.cmake, and nothing beyond those folders is looked at.
+if(CMAKE_CROSSCOMPILING)
+    set(other_system ${CMAKE_SYSTEM_NAME})
+endif()
+include(${CMAKE_SOURCE_DIR}/build/Dependencies${other_system}.cmake OPTIONAL)
+if(CMAKE_CROSSCOMPILING)
+    list(APPEND CMAKE_FIND_ROOT_PATH ${CMAKE_PREFIX_PATH})
+endif()
 
 # A found folder is remembered by CMake. When the set-up has moved on to another one, look again.
 if(NOT "${CMAKE_PREFIX_PATH}" STREQUAL "${KESTREL_SEARCHED_PREFIXES}")
@@ -13,6 +20,9 @@ endif()
 
 # Stops the configuration with the one thing there is to do about a missing dependency.
 function(StopWithoutDependency Name Command)
+    if(CMAKE_CROSSCOMPILING)
+        string(TOLOWER ${CMAKE_SYSTEM_NAME} Command)
+    endif()
     message(FATAL_ERROR "${Name} was not found. Run scripts/setup ${Command}, which fetches what is missing, "
         "and configure again.")
 endfunction()
@@ -46,7 +56,13 @@ if(UNIX AND NOT APPLE AND (KESTREL_BUILD_TOOLS OR KESTREL_BUILD_TESTS))
     endif()
 endif()
 
-if(KESTREL_BUILD_TESTS)
+# Nobody has GoogleTest compiled for another system: its sources are those of the distribution.
+if(KESTREL_BUILD_TESTS AND CMAKE_CROSSCOMPILING)
+    if(NOT EXISTS /usr/src/googletest/CMakeLists.txt)
+        StopWithoutDependency("GoogleTest" windows)
+    endif()
+    add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+elseif(KESTREL_BUILD_TESTS)
     find_package(GTest CONFIG QUIET)
     if(NOT TARGET GTest::gtest)
         StopWithoutDependency("GoogleTest" test)

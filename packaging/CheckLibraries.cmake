@@ -2,23 +2,7 @@
 # and writes the read-me that tells players of it. Takes PROGRAM, README and VERSION.
 cmake_minimum_required(VERSION 3.25)
 
-# The second field of each line of that kind.
-function(ReadAllowed Kind Result)
-    file(STRINGS "${CMAKE_CURRENT_LIST_DIR}/libraries" lines REGEX "^${Kind} ")
-    list(TRANSFORM lines REPLACE "^[^|]*\\| *([^ |]*).*" "\\1")
-    set(${Result} "${lines}" PARENT_SCOPE)
-endfunction()
-
-# Prints what the program needs of a kind; notes what is not allowed.
-function(Check Kind)
-    ReadAllowed(${Kind} allowed)
-    foreach(name IN LISTS ARGN)
-        message(STATUS "${Kind}: ${name}")
-        if(NOT name IN_LIST allowed)
-            set_property(GLOBAL APPEND PROPERTY refused "${name}")
-        endif()
-    endforeach()
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/Allowed.cmake)
 
 # Without brackets: in a list of CMake's they would hold its elements together.
 execute_process(COMMAND readelf --wide --dynamic --version-info "${PROGRAM}"
@@ -42,11 +26,7 @@ Check(loaded ${loaded})
 message(STATUS "newest symbols of glibc: ${glibc}")
 ReadAllowed(glibc newest)
 if(glibc VERSION_GREATER newest)
-    set_property(GLOBAL APPEND PROPERTY refused "glibc ${glibc}")
+    Refuse("glibc ${glibc}")
 endif()
-get_property(refused GLOBAL PROPERTY refused)
-if(refused OR NOT linked OR NOT loaded)
-    list(JOIN refused ", " refused)
-    message(FATAL_ERROR "Refused, as packaging/libraries does not name it: ${refused}")
-endif()
+StopIfRefused(linked loaded)
 configure_file("${CMAKE_CURRENT_LIST_DIR}/README.txt.in" "${README}" @ONLY)

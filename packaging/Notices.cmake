@@ -37,11 +37,17 @@ ReadParagraph(${PROJECT_SOURCE_DIR}/LICENSE own)
 string(REGEX REPLACE "^.*(Permission is hereby)" "\\1" own "${own}")
 configure_file(debian/copyright.in copyright @ONLY)
 
-# The compiler's own libraries, by the documents of the package that brought them.
-execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libstdc++.a
-    OUTPUT_VARIABLE library OUTPUT_STRIP_TRAILING_WHITESPACE)
-file(REAL_PATH ${library} library)
-execute_process(COMMAND dpkg-query --search ${library} OUTPUT_VARIABLE package COMMAND_ERROR_IS_FATAL ANY)
-string(REGEX REPLACE "[:,].*" "" package "${package}")
-configure_file(/usr/share/doc/${package}/copyright ${licences}/GCC.txt COPYONLY)
+# The compiler's own libraries, by the documents of the package that brought each.
+function(AddCompilersLibrary Name Archive)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${Archive}
+        OUTPUT_VARIABLE library OUTPUT_STRIP_TRAILING_WHITESPACE)
+    file(REAL_PATH ${library} library)
+    execute_process(COMMAND dpkg-query --search ${library} OUTPUT_VARIABLE package COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX REPLACE "[:,].*" "" package "${package}")
+    configure_file(/usr/share/doc/${package}/copyright ${licences}/${Name}.txt COPYONLY)
+endfunction()
+AddCompilersLibrary(GCC libstdc++.a)
+if(MINGW)
+    AddCompilersLibrary(MinGW-w64 libmingwex.a)
+endif()
 configure_file(/usr/share/common-licenses/GPL-3 ${licences}/GPL-3.txt COPYONLY)

@@ -4,8 +4,6 @@
 
 #ifdef _WIN32
 
-#define WIN32_LEAN_AND_MEAN
-#define NOMINMAX
 #include <windows.h>
 
 namespace {

@@ -86,3 +86,32 @@ TEST(DesktopIcons, TheDrawingIsThePlayersCarAndNothingElse) {
         "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"128\" height=\"128\" viewBox=\"0 0 16 16\" "
         "shape-rendering=\"crispEdges\">\n</svg>\n");
 }
+
+// What Windows shows holds the same pictures, each with its place in a list before them.
+TEST(DesktopIcons, OfWindowsAreTheSamePictures) {
+    const std::string file = ReadBytes(IconFolder() / "kestrel-volley.ico");
+    const auto number = [&file](std::size_t Place, std::size_t ByteCount) {
+        std::size_t value = 0;
+        for (std::size_t i = ByteCount; i > 0; --i) {
+            value = value << 8U | static_cast<unsigned char>(file.at(Place + i - 1));
+        }
+        return value;
+    };
+    ASSERT_EQ(file.substr(0, 6), std::string({0, 0, 1, 0, 6, 0}));
+    std::size_t entry = 6;
+    std::size_t picture = 6 + 6 * 16;
+    for (const std::size_t size : {16U, 32U, 48U, 64U, 128U, 256U}) {
+        const std::string expected = ReadBytes(IconFolder() / (std::to_string(size) + ".png"));
+        EXPECT_EQ(number(entry, 1), size % 256);
+        EXPECT_EQ(number(entry + 1, 1), size % 256);
+        EXPECT_EQ(number(entry + 2, 2), 0U) << "no palette";
+        EXPECT_EQ(number(entry + 4, 2), 1U) << "one plane";
+        EXPECT_EQ(number(entry + 6, 2), 32U) << "bits";
+        ASSERT_EQ(number(entry + 8, 4), expected.size());
+        ASSERT_EQ(number(entry + 12, 4), picture);
+        EXPECT_TRUE(file.substr(picture, expected.size()) == expected) << size;
+        entry += 16;
+        picture += expected.size();
+    }
+    EXPECT_EQ(picture, file.size());
+}

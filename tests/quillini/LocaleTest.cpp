@@ -60,6 +60,34 @@ private:
     std::locale PreviousOutput;
 };
 
+/// The German locale of the C library, until the end of the test.
+class GermanCLibrary {
+public:
+    GermanCLibrary() : Previous(std::setlocale(LC_ALL, nullptr)) {
+#ifdef _WIN32
+        EXPECT_NE(std::setlocale(LC_ALL, "German_Germany"), nullptr);
+#else
+        // It is compiled for the test: few machines have one with a comma ready.
+        const std::filesystem::path place = Made.Path();
+        EXPECT_EQ(std::system(("localedef -i de_DE -f UTF-8 '" + place.string() + "'").c_str()), 0);
+        setenv("LOCPATH", place.parent_path().c_str(), 1);
+        EXPECT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
+#endif
+    }
+    ~GermanCLibrary() {
+        std::setlocale(LC_ALL, Previous.c_str());
+#ifndef _WIN32
+        unsetenv("LOCPATH");
+#endif
+    }
+    GermanCLibrary(const GermanCLibrary &) = delete;
+    GermanCLibrary &operator=(const GermanCLibrary &) = delete;
+
+private:
+    const ScratchFile Made{"de_DE.UTF-8"};
+    std::string Previous;
+};
+
 /// Everything in which a number or a character class of the locale could show.
 void ExpectNothingForeign() {
     IniSection section;
@@ -117,16 +145,8 @@ TEST(Locale, OfTheDocumentHasNoEffect) {
     EXPECT_EQ(Written(document), "a[]=1.5a[]=2");
 }
 
-// The locale is compiled for the test: few machines have one with a comma ready.
 TEST(Locale, OfTheCLibraryWithACommaChangesNothing) {
-    const ScratchFile made("de_DE.UTF-8");
-    const std::filesystem::path place = made.Path();
-    ASSERT_EQ(std::system(("localedef -i de_DE -f UTF-8 '" + place.string() + "'").c_str()), 0);
-    setenv("LOCPATH", place.parent_path().c_str(), 1);
-    const std::string previous = std::setlocale(LC_ALL, nullptr);
-    ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
-    EXPECT_EQ(std::string(std::localeconv()->decimal_point), ",");
+    const GermanCLibrary locale;
+    ASSERT_EQ(std::string(std::localeconv()->decimal_point), ",");
     ExpectNothingForeign();
-    std::setlocale(LC_ALL, previous.c_str());
-    unsetenv("LOCPATH");
 }

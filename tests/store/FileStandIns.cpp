@@ -1,5 +1,6 @@
 #include "tests/store/StoreWatch.hpp"
 
+#include <filesystem>
 #include <string_view>
 
 namespace {
@@ -22,6 +23,25 @@ extern "C" std::FILE *__wrap_fopen(const char *Path, const char *Mode) {
     StagingFile = PassOn(&StoreWatch::OpenFile, __real_fopen, Path, Mode);
     return StagingFile;
 }
+
+#ifdef _WIN32
+
+namespace {
+
+/// What the game calls on Windows in the place of fopen.
+std::FILE *OpenByUtf16(const wchar_t *Path, const wchar_t *Mode) {
+    const std::string path = std::filesystem::path(Path).string();
+    return __wrap_fopen(path.c_str(), std::filesystem::path(Mode).string().c_str());
+}
+
+} // namespace
+
+extern "C" {
+/// The pointer through which a program calls _wfopen, which the linker finds here first.
+decltype(&OpenByUtf16) __imp__wfopen = OpenByUtf16;
+}
+
+#endif
 
 WRAPPED(fwrite)
 extern "C" std::size_t __wrap_fwrite(

@@ -4,11 +4,15 @@
 
 #include <gtest/gtest.h>
 
+#ifdef __linux__
 #include <sched.h>
 #include <sys/mount.h>
+#endif
 
 #include <string>
 #include <utility>
+
+#ifdef __linux__
 
 SmallDisk::SmallDisk(std::filesystem::path Folder, int Kilobytes) : Place(std::move(Folder)) {
     const std::string options = "mode=0700,size=" + std::to_string(Kilobytes) + "k";
@@ -22,11 +26,21 @@ SmallDisk::~SmallDisk() {
     }
 }
 
+void SmallDisk::MakeReadOnly() const {
+    EXPECT_EQ(mount("none", Place.c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
+}
+
+#else
+
+SmallDisk::SmallDisk(std::filesystem::path Folder, int /*Kilobytes*/) : Place(std::move(Folder)) {}
+
+SmallDisk::~SmallDisk() = default;
+
+void SmallDisk::MakeReadOnly() const {}
+
+#endif
+
 void SmallDisk::FillUpTo(int KilobytesLeft) const {
     const auto room = std::filesystem::space(Place).available;
     WriteBytes(Place / "filler", std::string(room - static_cast<std::size_t>(KilobytesLeft) * 1024, 'f'));
-}
-
-void SmallDisk::MakeReadOnly() const {
-    EXPECT_EQ(mount("none", Place.c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
 }

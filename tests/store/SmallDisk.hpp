@@ -3,7 +3,7 @@
 #include <filesystem>
 
 /// A file system of a few pages in memory over a folder, for as long as it lives and for this process alone.
-/// Only a privileged user can have one.
+/// Only a privileged user of Linux can have one.
 class SmallDisk {
 public:
     SmallDisk(std::filesystem::path Folder, int Kilobytes);

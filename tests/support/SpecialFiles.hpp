@@ -2,19 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
 #include <sys/stat.h>
 #include <unistd.h>
+#endif
 
 #include <array>
 #include <filesystem>
 
 // What can stand in the place of a file and is none. Whoever opens a pipe waits for somebody at its other
 // end.
-
-inline void MakePipe(const std::filesystem::path &Path) {
-    std::filesystem::create_directories(Path.parent_path());
-    EXPECT_EQ(mkfifo(Path.c_str(), 0600), 0);
-}
 
 /// A kind of what is no file, and how it is made.
 struct SpecialFile {
@@ -23,12 +20,19 @@ struct SpecialFile {
     bool CanBeRemoved = true; ///< by std::remove
 };
 
+// Windows has folders only: its pipes and devices lie in no folder, and MinGW's C++ library makes no links.
+#ifdef _WIN32
+inline constexpr bool LinksCanBeMade = false;
+#else
+inline constexpr bool LinksCanBeMade = true;
+
+inline void MakePipe(const std::filesystem::path &Path) {
+    std::filesystem::create_directories(Path.parent_path());
+    EXPECT_EQ(mkfifo(Path.c_str(), 0600), 0);
+}
+#endif
+
 inline constexpr std::array SpecialFiles{
-    SpecialFile{"pipe", MakePipe},
-    SpecialFile{"socket",
-        [](const std::filesystem::path &Path) {
-            EXPECT_EQ(mknod(Path.c_str(), S_IFSOCK | 0600, 0), 0);
-        }},
     SpecialFile{"folder",
         [](const std::filesystem::path &Path) {
             std::filesystem::create_directory(Path);
@@ -38,6 +42,12 @@ inline constexpr std::array SpecialFiles{
             std::filesystem::create_directories(Path / "kept");
         },
         false},
+#ifndef _WIN32
+    SpecialFile{"pipe", MakePipe},
+    SpecialFile{"socket",
+        [](const std::filesystem::path &Path) {
+            EXPECT_EQ(mknod(Path.c_str(), S_IFSOCK | 0600, 0), 0);
+        }},
     SpecialFile{"device that never ends",
         [](const std::filesystem::path &Path) {
             std::filesystem::create_symlink("/dev/zero", Path);
@@ -54,6 +64,7 @@ inline constexpr std::array SpecialFiles{
             }
             std::filesystem::create_symlink(pipe, Path);
         }},
+#endif
 };
 
 /// Whether there is still what was made there, and no file.
@@ -68,15 +79,23 @@ inline void ExpectRemoved(const SpecialFile &Special, const std::filesystem::pat
 }
 
 /// Ends the test program if it lives longer than a minute: what waits for the other end of a pipe would do so
-/// for ever.
+/// for ever. On Windows there is nothing to wait for.
 class TimeLimit {
 public:
     TimeLimit() {
-        alarm(60);
+        Ring(60);
     }
     ~TimeLimit() {
-        alarm(0);
+        Ring(0);
     }
     TimeLimit(const TimeLimit &) = delete;
     TimeLimit &operator=(const TimeLimit &) = delete;
+
+private:
+    /// In so many seconds; with 0 never.
+    static void Ring([[maybe_unused]] unsigned Seconds) {
+#ifndef _WIN32
+        alarm(Seconds);
+#endif
+    }
 };

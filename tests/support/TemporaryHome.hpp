@@ -6,7 +6,8 @@
 #include <filesystem>
 
 /// A new folder in which SDL keeps the user's files while this lives, so that a person's own are neither read
-/// nor written. It goes with everything in it, and what was told of a home before is told again.
+/// nor written (RoamingFolder.cpp has SDL find it on Windows, too). It goes with everything in it, and what
+/// was told of a home before is told again.
 class TemporaryHome {
 public:
     /// Where a file of the game lies in it.

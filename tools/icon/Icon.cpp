@@ -1,5 +1,6 @@
 // Paints the desktop's icons, the player's car in crisp blocks: `icon <folder>` leaves <size>.png there for
-// each size, and the same car as a drawing in scalable.svg.
+// each size, the same car as a drawing in scalable.svg, and pictures for Windows together in
+// kestrel-volley.ico.
 
 #include "gfx/Atlas.hpp"
 #include "gfx/SpriteMaps.hpp"
@@ -19,6 +20,7 @@ namespace {
 
 // Each a multiple of the sprite's own size, so that every pixel of it becomes a square.
 constexpr std::array Sizes{16, 32, 48, 64, 128, 256, 512};
+constexpr std::array SizesForWindows{16, 32, 48, 64, 128, 256};
 
 bool PaintCar(SDL_Surface *Picture) {
     SDL_Renderer *renderer = SDL_CreateSoftwareRenderer(Picture);
@@ -76,11 +78,45 @@ std::string DrawCar() {
     return drawing.str();
 }
 
+std::string LittleEndian(std::size_t Number, int ByteCount) {
+    std::string bytes;
+    for (int i = 0; i < ByteCount; ++i, Number >>= 8U) {
+        bytes += static_cast<char>(Number & 0xFFU);
+    }
+    return bytes;
+}
+
+std::filesystem::path PictureIn(const std::filesystem::path &Folder, int Size) {
+    return Folder / (std::to_string(Size) + ".png");
+}
+
+// A list of the pictures, and behind it the pictures themselves.
+std::string PackForWindows(const std::filesystem::path &Folder) {
+    constexpr std::size_t headBytes = 6;
+    constexpr std::size_t entryBytes = 16;
+    const std::size_t count = SizesForWindows.size();
+    std::string list = LittleEndian(0, 2) + LittleEndian(1, 2) + LittleEndian(count, 2); // 1: icons
+    std::string pictures;
+    for (const int size : SizesForWindows) {
+        const std::string picture = ReadBytes(PictureIn(Folder, size));
+        const std::string side = LittleEndian(static_cast<std::size_t>(size), 1);             // 0 is 256
+        list += side + side + LittleEndian(0, 2) + LittleEndian(1, 2) + LittleEndian(32, 2) + // planes, bits
+                LittleEndian(picture.size(), 4) +
+                LittleEndian(headBytes + count * entryBytes + pictures.size(), 4);
+        pictures += picture;
+    }
+    return list + pictures;
+}
+
 bool SaveAll(const std::filesystem::path &Folder) {
     WriteBytes(Folder / "scalable.svg", DrawCar());
-    return std::ranges::all_of(Sizes, [&Folder](int Size) {
-        return SavePicture(Size, Folder / (std::to_string(Size) + ".png"));
+    const bool saved = std::ranges::all_of(Sizes, [&Folder](int Size) {
+        return SavePicture(Size, PictureIn(Folder, Size));
     });
+    if (saved) {
+        WriteBytes(Folder / "kestrel-volley.ico", PackForWindows(Folder));
+    }
+    return saved;
 }
 
 } // namespace

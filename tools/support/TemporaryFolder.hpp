@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <random>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -13,11 +14,12 @@ class TemporaryFolder {
 public:
     /// Throws std::runtime_error if the system gives no folder.
     TemporaryFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "kestrel-volley-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) {
-            throw std::runtime_error("No temporary folder could be made as " + pattern);
+        const std::filesystem::path pattern =
+            std::filesystem::temp_directory_path() / "kestrel-volley-XXXXXX";
+        Folder = Make(pattern);
+        if (Folder.empty()) {
+            throw std::runtime_error("No temporary folder could be made as " + pattern.string());
         }
-        Folder = pattern;
     }
     ~TemporaryFolder() {
         std::error_code ignored;
@@ -31,5 +33,24 @@ public:
     }
 
 private:
+    /// The pattern with other letters for its last six; empty if there can be no such folder.
+    static std::filesystem::path Make(const std::filesystem::path &Pattern) {
+#ifdef _WIN32
+        std::random_device draw;
+        std::error_code failed;
+        for (int attempt = 0; attempt < 100; ++attempt) {
+            const std::string letters = std::to_string(100000 + draw() % 900000);
+            std::filesystem::path folder = Pattern.parent_path() / ("kestrel-volley-" + letters);
+            if (std::filesystem::create_directory(folder, failed)) {
+                return folder;
+            }
+        }
+        return {};
+#else
+        std::string name = Pattern.string();
+        return mkdtemp(name.data()) == nullptr ? std::filesystem::path() : std::filesystem::path(name);
+#endif
+    }
+
     std::filesystem::path Folder;
 };

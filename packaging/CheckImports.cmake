@@ -1,0 +1,12 @@
+# Lists the libraries that the program for Windows takes from the system, and refuses what packaging/libraries does not
+# name. Takes OBJDUMP and PROGRAM.
+cmake_minimum_required(VERSION 3.25)
+include(${CMAKE_CURRENT_LIST_DIR}/Allowed.cmake)
+
+execute_process(COMMAND ${OBJDUMP} --private-headers "${PROGRAM}" OUTPUT_VARIABLE said COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "DLL Name: [^\r\n]+" imported "${said}")
+list(TRANSFORM imported REPLACE "DLL Name: " "")
+list(TRANSFORM imported TOLOWER) # Windows does not tell them apart either
+
+Check(imported ${imported})
+StopIfRefused(imported)
