@@ -6,6 +6,10 @@ set(CMAKE_C_COMPILER ${tools}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${tools}-g++-posix)
 set(CMAKE_RC_COMPILER ${tools}-windres)
 
+# This compiler believes that of a template's copies the linker takes the one that it has just compiled, and leaves values
+# in registers that another copy, from a source with other options, overwrites.
+set(CMAKE_CXX_FLAGS_INIT -fno-ipa-ra)
+
 set(CMAKE_FIND_ROOT_PATH /usr/${tools})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

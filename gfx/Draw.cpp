@@ -112,7 +112,7 @@ int GetPixelSnapStep(SDL_Renderer *Renderer) {
 
 float SnapToStep(float Value, int Step) {
     const auto step = static_cast<float>(std::max(Step, 1));
-    return std::round(Value / step) * step;
+    return RoundToWhole(Value / step) * step;
 }
 
 void DrawSprite(

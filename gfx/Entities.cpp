@@ -5,7 +5,6 @@
 #include "state/Numbers.hpp"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -59,19 +58,19 @@ SpriteId PlayerSprite(bool Invincible, bool DualWeapon) {
 /// Draws a sprite on whole pixels, and over it a red flash while it has just been hit.
 void DrawHittable(
     SDL_Renderer *Renderer, SpriteId Id, float X, float Y, float Width, float Height, float HitFlash) {
-    DrawSprite(Renderer, Id, std::round(X), std::round(Y), Width, Height);
+    DrawSprite(Renderer, Id, RoundToWhole(X), RoundToWhole(Y), Width, Height);
     if (HitFlash > 0.0F) {
         const float strength = std::min(HitFlash / HitFlashSeconds, 1.0F);
         const auto alpha = static_cast<std::uint32_t>(strength * EndingFlashAlpha + EndingFlashAlpha);
         const std::uint32_t tint = alpha << 24U | 0x003C3CFFU;
-        DrawSpriteTinted(Renderer, Id, std::round(X), std::round(Y), Width, Height, tint);
+        DrawSpriteTinted(Renderer, Id, RoundToWhole(X), RoundToWhole(Y), Width, Height, tint);
     }
 }
 
 void DrawItems(SDL_Renderer *Renderer, const GameState &State) {
     for (const Item &item : State.Items) {
-        DrawSprite(
-            Renderer, ItemSprite(item.Type), std::round(item.X), std::round(item.Y), EntitySize, EntitySize);
+        DrawSprite(Renderer, ItemSprite(item.Type), RoundToWhole(item.X), RoundToWhole(item.Y), EntitySize,
+            EntitySize);
     }
 }
 
@@ -107,7 +106,7 @@ void DrawExplosion(SDL_Renderer *Renderer, const Explosion &Disc) {
         static_cast<std::uint32_t>(TruncateToInt(static_cast<float>(Disc.Color.A) * (1.0F - t)));
     const std::uint32_t color = alpha << 24U | std::uint32_t{Disc.Color.B} << 16U |
                                 std::uint32_t{Disc.Color.G} << 8U | std::uint32_t{Disc.Color.R};
-    FillDisc(Renderer, std::round(Disc.X), std::round(Disc.Y), Disc.MaxRadius * t, color);
+    FillDisc(Renderer, RoundToWhole(Disc.X), RoundToWhole(Disc.Y), Disc.MaxRadius * t, color);
 }
 
 void DrawExplosions(SDL_Renderer *Renderer, const GameState &State) {
@@ -129,8 +128,8 @@ void DrawPlayer(SDL_Renderer *Renderer, const GameState &State) {
     if (!IsPlayerShown(State)) {
         return;
     }
-    const float x = std::round(State.Player.X);
-    const float y = std::round(State.Player.Y);
+    const float x = RoundToWhole(State.Player.X);
+    const float y = RoundToWhole(State.Player.Y);
     const bool invincible = State.InvincibilityPowerTimer > 0.0F;
     if (invincible) {
         FillDisc(Renderer, x, y, HaloRadius, HaloColor);

@@ -8,12 +8,12 @@
 #include "state/GameState.hpp"
 #include "state/Limits.hpp"
 #include "state/LogicalScreen.hpp"
+#include "state/Numbers.hpp"
 #include "text/Localization.hpp"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 
 namespace {
 
@@ -131,7 +131,7 @@ void DrawReadyBanner(SDL_Renderer *Renderer) {
 
 void DrawBombFlash(SDL_Renderer *Renderer, const GameState &State) {
     const float radius = (1.0F - State.SpecialTimer / BombFlashSeconds) * FlashGrowth + FlashStartRadius;
-    FillDisc(Renderer, std::round(State.Player.X), std::round(State.Player.Y), radius, FlashColor);
+    FillDisc(Renderer, RoundToWhole(State.Player.X), RoundToWhole(State.Player.Y), radius, FlashColor);
 }
 
 } // namespace

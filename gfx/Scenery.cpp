@@ -95,7 +95,7 @@ WaterOffsets WaterOffsetsAt(float GameTime, float Y0, std::int32_t FlowDirection
 /// NOT-BUGS: A roadside shrub is not cut at the edge between two stages
 void DrawShrub(SDL_Renderer *Renderer, SpriteId Shrub, float X, float Y, float Y0, float Y1) {
     if (Y >= Y0 && Y < Y1) {
-        DrawSprite(Renderer, Shrub, X, std::round(Y), ShrubSize, ShrubSize);
+        DrawSprite(Renderer, Shrub, X, RoundToWhole(Y), ShrubSize, ShrubSize);
     }
 }
 

@@ -2,9 +2,9 @@
 
 #include "state/GameState.hpp"
 #include "state/LogicalScreen.hpp"
+#include "state/Numbers.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace {
@@ -35,7 +35,7 @@ std::int32_t ClampLane(std::int32_t Lane) {
 
 float LaneCenterX(std::int32_t Lane) {
     // NOT-BUGS: The nine lanes are not evenly spaced
-    return std::round(RoadLeft() + OuterLaneDistance + static_cast<float>(ClampLane(Lane)) * LaneDistance);
+    return RoundToWhole(RoadLeft() + OuterLaneDistance + static_cast<float>(ClampLane(Lane)) * LaneDistance);
 }
 
 void SnapToLanes(GameState &State) {

@@ -1,9 +1,9 @@
 #include "sim/Score.hpp"
 
 #include "state/GameState.hpp"
+#include "state/Numbers.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 
 std::int64_t ScoreForStage(std::int32_t BasePoints, std::int32_t Stage) {
@@ -11,7 +11,7 @@ std::int64_t ScoreForStage(std::int32_t BasePoints, std::int32_t Stage) {
         return 0;
     }
     const float multiplier = std::min(1.0F + static_cast<float>(std::max(Stage, 1) - 1) * 0.06F, 2.5F);
-    const float rounded = std::round(static_cast<float>(BasePoints) * multiplier);
+    const float rounded = RoundToWhole(static_cast<float>(BasePoints) * multiplier);
     return static_cast<std::int64_t>(std::max(rounded, 1.0F));
 }
 

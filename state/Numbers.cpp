@@ -18,7 +18,7 @@ std::int32_t TruncateToInt(float Value) {
 }
 
 std::int32_t RoundToInt(float Value) {
-    return TruncateToInt(std::round(Value));
+    return TruncateToInt(RoundToWhole(Value));
 }
 
 std::int32_t FloorModulo(float Value, std::int32_t Size) {

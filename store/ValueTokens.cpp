@@ -1,5 +1,7 @@
 #include "store/ValueStream.hpp"
 
+#include "state/Numbers.hpp"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -10,7 +12,7 @@ namespace {
 std::int32_t RoundToInt32(double Value) {
     constexpr double lowest = std::numeric_limits<std::int32_t>::min();
     constexpr double highest = std::numeric_limits<std::int32_t>::max();
-    return static_cast<std::int32_t>(std::clamp(std::round(Value), lowest, highest));
+    return static_cast<std::int32_t>(std::clamp(RoundToWhole(Value), lowest, highest));
 }
 
 /// The nearest float, but an infinity for all beyond FLT_MAX, where C++ leaves the conversion undefined.

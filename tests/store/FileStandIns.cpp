@@ -8,6 +8,12 @@ namespace {
 /// The staging file that was opened last, until it is closed.
 std::FILE *StagingFile = nullptr;
 
+/// The name begins with a point as well, unlike those of the test framework's own files on Windows.
+bool IsStagingPath(std::string_view Path) {
+    const std::string_view name = Path.substr(Path.find_last_of("/\\") + 1);
+    return name.starts_with('.') && name.ends_with(".tmp");
+}
+
 } // namespace
 
 /// A function and its stand-in, by the names that the linker dictates.
@@ -17,7 +23,7 @@ std::FILE *StagingFile = nullptr;
 
 WRAPPED(fopen)
 extern "C" std::FILE *__wrap_fopen(const char *Path, const char *Mode) {
-    if (!std::string_view(Path).ends_with(".tmp")) {
+    if (!IsStagingPath(Path)) {
         return __real_fopen(Path, Mode);
     }
     StagingFile = PassOn(&StoreWatch::OpenFile, __real_fopen, Path, Mode);

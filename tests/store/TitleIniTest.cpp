@@ -171,6 +171,9 @@ TEST_F(TitleIni, IsFalseWithoutTheProgramsFolder) {
 }
 
 TEST_F(TitleIni, JoinsTheProgramsFolderWithASeparatorUnlessItEndsInOne) {
+    if (std::filesystem::path::preferred_separator == '\\') {
+        GTEST_SKIP() << "both separators lead to the same folder here";
+    }
     WriteBytes(Base / "a.ini", "[Songs]\nFrom=folder\n");
     WriteBytes(BaseText + "\\a.ini", "[Songs]\nFrom=backslash\n");
     EXPECT_TRUE(Read("a.ini"));

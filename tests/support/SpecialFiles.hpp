@@ -23,8 +23,10 @@ struct SpecialFile {
 // Windows has folders only: its pipes and devices lie in no folder, and MinGW's C++ library makes no links.
 #ifdef _WIN32
 inline constexpr bool LinksCanBeMade = false;
+inline constexpr bool FoldersCanBeRemoved = false; ///< by std::remove
 #else
 inline constexpr bool LinksCanBeMade = true;
+inline constexpr bool FoldersCanBeRemoved = true;
 
 inline void MakePipe(const std::filesystem::path &Path) {
     std::filesystem::create_directories(Path.parent_path());
@@ -36,7 +38,8 @@ inline constexpr std::array SpecialFiles{
     SpecialFile{"folder",
         [](const std::filesystem::path &Path) {
             std::filesystem::create_directory(Path);
-        }},
+        },
+        FoldersCanBeRemoved},
     SpecialFile{"folder with something in it",
         [](const std::filesystem::path &Path) {
             std::filesystem::create_directories(Path / "kept");
