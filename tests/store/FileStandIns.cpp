@@ -1,7 +1,10 @@
 #include "tests/store/StoreWatch.hpp"
 
-#include <filesystem>
 #include <string_view>
+#ifdef _WIN32
+#include <filesystem>
+#include <string>
+#endif
 
 namespace {
 

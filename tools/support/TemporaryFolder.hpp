@@ -2,10 +2,12 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <random>
 #include <stdexcept>
 #include <string>
 #include <system_error>
+#ifdef _WIN32
+#include <random>
+#endif
 
 // For every program beside the game: tools, tests, benchmarks and fuzz targets.
 
