@@ -37,10 +37,13 @@ extern "C" std::FILE *__wrap_fopen(const char *Path, const char *Mode) {
 
 namespace {
 
-/// What the game calls on Windows in the place of fopen.
+/// What the game calls on Windows in the place of fopen. The C++ library opens its streams by it as well, and
+/// among them are all staging files but the save state's.
 std::FILE *OpenByUtf16(const wchar_t *Path, const wchar_t *Mode) {
     const std::string path = std::filesystem::path(Path).string();
-    return __wrap_fopen(path.c_str(), std::filesystem::path(Mode).string().c_str());
+    const std::string mode = std::filesystem::path(Mode).string();
+    return path.ends_with(".SaveState.bin.tmp") ? __wrap_fopen(path.c_str(), mode.c_str())
+                                                : __real_fopen(path.c_str(), mode.c_str());
 }
 
 } // namespace

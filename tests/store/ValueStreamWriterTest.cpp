@@ -162,8 +162,8 @@ TEST_F(ValueStreamWriterTest, TellsOfAFileThatHasNotTakenEveryByte) {
 }
 
 TEST_F(ValueStreamWriterTest, TakesAPathBeyondAscii) {
-    const std::string path = PathOf("\xC3\xA4\xE2\x82\xAC").string();
-    EXPECT_TRUE(Writer.Open(path));
+    const std::filesystem::path path = PathOf("\xC3\xA4\xE2\x82\xAC");
+    EXPECT_TRUE(Writer.Open(path.string()));
     Writer.End();
     EXPECT_TRUE(Writer.Close());
     EXPECT_EQ(Hex(ReadBytes(path)), "01 ");

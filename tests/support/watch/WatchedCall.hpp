@@ -38,7 +38,8 @@ public:
     /// Answers in place of the real function, which it may call itself.
     std::function<Result(Parameters...)> Answer;
 
-    /// What a refused call does and gives, where that is not nothing and a false, null, 0 or, of 64 bits, -1.
+    /// What a refused call does and gives, where that is not nothing and a false, null, 0 or, of a size or a
+    /// place, -1.
     std::function<Result(Parameters...)> Failure;
 
     /// Lets the calls from now on fail without reaching the library, after so many that work and for so many.
@@ -81,7 +82,7 @@ private:
 
     static Result Refusal() {
         SDL_SetError("%s", CallWatch::RefusalText);
-        if constexpr (std::is_same_v<Result, std::int64_t>) {
+        if constexpr (std::is_same_v<Result, std::int64_t> || std::is_same_v<Result, long>) {
             return -1;
         } else if constexpr (!std::is_void_v<Result>) {
             return Result{};
