@@ -4,15 +4,10 @@
 #include <concepts>
 #include <cstdint>
 
-/// The nearest whole number, half away from zero.
+/// The nearest whole number, half away from zero. Some C libraries' round is wrong just below a half.
 template <std::floating_point Number> Number RoundToWhole(Number Value) {
-#ifdef __MINGW32__
-    // This C library takes the largest number below a half for a half.
     const Number whole = std::trunc(Value);
     return std::abs(Value - whole) < Number{0.5} ? whole : whole + std::copysign(Number{1}, Value);
-#else
-    return std::round(Value);
-#endif
 }
 
 // From float to whole number without undefined behaviour: what lies outside the 32 bits becomes the nearest

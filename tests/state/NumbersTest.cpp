@@ -47,6 +47,12 @@ TEST(RoundToInt, RoundsHalvesAwayFromZero) {
     EXPECT_EQ(RoundToInt(-2.5F), -3);
 }
 
+TEST(RoundToInt, RoundsWhatIsJustBelowAHalfToZero) {
+    EXPECT_EQ(RoundToInt(0.49999997F), 0); // the largest float below a half
+    EXPECT_EQ(RoundToInt(-0.49999997F), 0);
+    EXPECT_EQ(RoundToInt(8388607.0F), 8388607); // and a half more has no float
+}
+
 TEST(RoundToInt, RoundsEverythingElseToTheNearest) {
     EXPECT_EQ(RoundToInt(2.25F), 2);
     EXPECT_EQ(RoundToInt(2.75F), 3);
