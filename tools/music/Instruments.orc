@@ -1,6 +1,14 @@
-; The players. Notes bring their frequency in p4 and their velocity in p5, drums their velocity in p4.
-; Nothing here runs on by itself or rolls dice that differ from one pass to the next: every sound begins with its note,
-; so that a piece comes round exactly to where it began.
+; The players. Notes bring their frequency in p4, their velocity in p5 and the frequency from which they slide in p6,
+; drums their velocity in p4. Nothing here rolls dice that differ from one rendering to the next.
+
+; The pitch of a voice: a slide from the note before takes 50 ms, and a vibrato of 22 cents comes late.
+opcode Pitch, k, iiiii
+    iTo, iFrom, iLate, iRise, iRate xin
+    kSlide expseg iFrom, 0.05, iTo, 1, iTo
+    kVibrato linseg 0, iLate, 0, iRise, 1
+    kBend lfo 0.0128, iRate
+    xout kSlide * (1 + kVibrato * kBend)
+endop
 
 ; Puts a sound on the mixing desk: left, right, and the shares that go to the echo and to the room.
 opcode Mix, 0, aaii
@@ -52,11 +60,9 @@ endin
 
 ; Singing lead of two saws and a pulse, spread a little, with a vibrato that comes late.
 instr Lead
-    kVibrato linseg 0, 0.22, 0, 0.3, 1
-    kBend lfo 0.0045, 5.4
-    kPitch = p4 * (1 + kVibrato * kBend)
-    aEnvelope linsegr 0, 0.012, 1, 0.15, 0.72, 0.14, 0
-    kOpen linseg 6200, 0.25, 3600, 2, 2600
+    kPitch Pitch p4, p6, 0.24, 0.3, 5.6
+    aEnvelope linsegr 0, 0.01, 1, 0.15, 0.74, 0.12, 0
+    kOpen linseg 3000 + 4200 * p5, 0.25, 2200 + 2200 * p5, 2, 2600
     aLeft vco2 0.5, kPitch * 1.0035
     aRight vco2 0.5, kPitch * 0.9965, 0, 0.5, 0.37
     aMiddle vco2 0.3, kPitch, 2, 0.34, 0.2
@@ -67,11 +73,38 @@ instr Lead
     Mix aLeft, aRight, 0.28, 0.16
 endin
 
+; Reed: a narrow pulse with a nose, for second voices and answers.
+instr Reed
+    kPitch Pitch p4, p6, 0.26, 0.35, 5.2
+    aEnvelope linsegr 0, 0.018, 1, 0.2, 0.8, 0.1, 0
+    aLeft vco2 0.5, kPitch * 1.002, 2, 0.24
+    aRight vco2 0.5, kPitch * 0.998, 2, 0.27, 0.4
+    kOpen linseg 1800 + 2600 * p5, 0.4, 2600
+    aLeft butlp aLeft, kOpen
+    aRight butlp aRight, kOpen
+    aLeft pareq aLeft, 1300, 1.5, 1.2
+    aRight pareq aRight, 1300, 1.5, 1.2
+    Mix aLeft * aEnvelope * 0.42 * p5, aRight * aEnvelope * 0.42 * p5, 0.2, 0.2
+endin
+
+; Solo guitar that sings at the edge of feedback.
+instr Solo
+    kPitch Pitch p4, p6, 0.2, 0.25, 5.9
+    aEnvelope linsegr 0, 0.006, 1, 0.3, 0.85, 0.1, 0
+    aString vco2 0.4, kPitch
+    aOther vco2 0.22, kPitch * 1.004, 0, 0.5, 0.3
+    aDriven = tanh((aString + aOther) * 3.2)
+    aDriven butlp aDriven, 5200
+    aDriven pareq aDriven, 900, 0.8, 0.8
+    aDriven pareq aDriven, 2600, 1.4, 1
+    aLate delay aDriven * aEnvelope, 0.011
+    aSound = aDriven * aEnvelope * 0.36 * p5
+    Mix aSound + aLate * 0.07 * p5, aSound - aLate * 0.07 * p5, 0.3, 0.2
+endin
+
 ; Flute of glass: a sine with a breath at its start.
 instr Flute
-    kVibrato linseg 0, 0.35, 0, 0.6, 1
-    kBend lfo 0.005, 4.8
-    kPitch = p4 * (1 + kVibrato * kBend)
+    kPitch Pitch p4, p6, 0.4, 0.6, 4.9
     aEnvelope linsegr 0, 0.07, 1, 0.4, 0.8, 0.3, 0
     aBreath rand 0.5, 0.41, 1
     aBreath butbp aBreath, p4 * 2, p4 * 0.5
@@ -86,9 +119,7 @@ endin
 
 ; A wordless choir of soft triangles: the voice above the water.
 instr Voice
-    kVibrato linseg 0.2, 0.6, 1
-    kBend lfo 0.0038, 4.4
-    kPitch = p4 * (1 + kVibrato * kBend)
+    kPitch Pitch p4, p6, 0.45, 0.6, 4.6
     aEnvelope linsegr 0, 0.11, 1, 0.6, 0.85, 0.35, 0
     kOpen linseg 1500, 0.3, 3200, 1.5, 2200
     aLeft vco2 0.4, kPitch * 1.0028, 12
@@ -235,8 +266,8 @@ instr Snare
     aRight butbp aOther, 4200, 5200
     aMiddle buthp aNoise, 1500
     aTail linseg 1, 0.25, 1, 0.05, 0
-    aLeft = ((aLeft * 0.3 + aMiddle * 0.22) * aSnap + aTone * aShell) * aTail * 0.68 * p4
-    aRight = ((aRight * 0.3 + aMiddle * 0.22) * aSnap + aTone * aShell) * aTail * 0.68 * p4
+    aLeft = ((aLeft * 0.3 + aMiddle * 0.22) * aSnap + aTone * aShell) * aTail * 0.86 * p4
+    aRight = ((aRight * 0.3 + aMiddle * 0.22) * aSnap + aTone * aShell) * aTail * 0.86 * p4
     MixDrum aLeft, aRight, 0.16
 endin
 
@@ -267,7 +298,7 @@ instr Hat
     aEnvelope expseg 1, 0.035, 0.1, 0.05, 0.002
     aLeft buthp aNoise, 8200
     aRight buthp aOther, 8200
-    aLoudness = aEnvelope * 0.27 * p4
+    aLoudness = aEnvelope * 0.36 * p4
     MixDrum (aLeft * 0.8 + aRight * 0.35) * aLoudness, (aRight * 0.8 + aLeft * 0.35) * aLoudness, 0.05
 endin
 
@@ -278,7 +309,7 @@ instr OpenHat
     aEnvelope expseg 1, 0.2, 0.2, 0.1, 0.002
     aLeft buthp aNoise, 7400
     aRight buthp aOther, 7400
-    aLoudness = aEnvelope * 0.17 * p4
+    aLoudness = aEnvelope * 0.23 * p4
     MixDrum (aLeft * 0.8 + aRight * 0.35) * aLoudness, (aRight * 0.8 + aLeft * 0.35) * aLoudness, 0.08
 endin
 
@@ -300,7 +331,34 @@ instr Crash
     aEnvelope expseg 0.05, 0.004, 1, 0.35, 0.3, 1.5, 0.001
     aLeft buthp aNoise, 5200
     aRight buthp aOther, 5200
-    MixDrum aLeft * aEnvelope * 0.13 * p4, aRight * aEnvelope * 0.13 * p4, 0.15
+    MixDrum aLeft * aEnvelope * 0.17 * p4, aRight * aEnvelope * 0.17 * p4, 0.15
+endin
+
+; Ride cymbal: bells of metal that do not agree, and a little hiss.
+instr Ride
+    p3 = 0.55
+    aLow vco2 0.2, 417, 10
+    aMiddle vco2 0.2, 563, 10
+    aHigh vco2 0.2, 787, 10
+    aMetal buthp aLow * aMiddle * 6 + aHigh * aMiddle * 6, 5200
+    aNoise rand 0.4, 0.43, 1
+    aNoise buthp aNoise, 9000
+    aPing expseg 1, 0.06, 0.35, 0.49, 0.004
+    aSound = (aMetal * 0.8 + aNoise * 0.3) * aPing * 0.36 * p4
+    MixDrum aSound * 0.75, aSound, 0.1
+endin
+
+; Wind that rises as long as its note lasts, towards its pitch.
+instr Riser
+    aNoise rand 0.7, 0.57, 1
+    aOther rand 0.7, 0.11, 1
+    kCentre expseg p4 * 0.25, p3, p4 * 2
+    aLeft butbp aNoise, kCentre, kCentre * 0.7
+    aRight butbp aOther, kCentre, kCentre * 0.7
+    aSwell expseg 0.02, p3, 1
+    aTail linseg 1, p3 - 0.03, 1, 0.03, 0
+    aLoudness = aSwell * aTail * 0.3 * p5
+    Mix (aLeft * 0.8 + aRight * 0.4) * aLoudness, (aRight * 0.8 + aLeft * 0.4) * aLoudness, 0, 0.3
 endin
 
 ; Toms from high to low.

@@ -1,18 +1,19 @@
 ; How the scores are written: words of text on a grid of steps.
 ;
-;   Line       notes of one voice or of chords: "e5 - f#5 . | e4+g4+b4 - - -"
-;              a note is a letter, perhaps "#", and an octave; "+" joins notes to a chord; "-" holds on for another
-;              step, "." is a rest; "|" and line ends are for the eye only
+;   Line       notes of one voice or of chords: "e5 - ~f#5! . | e4+g4+b4, - - -"
+;              a note is a letter, perhaps "#" or "b", and an octave; "+" joins notes to a chord; "-" holds on for
+;              another step, "." is a rest; "|" and line ends are for the eye only. "!" behind a note makes it loud, ","
+;              makes it soft; "~" before it lets its pitch slide over from the note before
 ;   Figure     the same, but a second text gives one chord for each "every" beats, and the line picks its notes by
 ;              number: "0 . 1 2" with the chord "e2+b2" plays e2, a rest, b2, and e3, an octave above the first;
 ;              notes between the beats are a little softer
-;   Beat       drums: "X.x.o..." with X loud, x normal, o soft and . for nothing
+;   Beat       drums: "X.x.o..." with X loud, x normal, o soft and . for nothing; 1 to 9 are finer steps up to X
 ;
 ; All of them take the name of an instrument, the beat at which they start, and the length of a step in beats.
 
-giBeat = 6.5 / 16 ; seconds: sixteen beats make the unit of 6.5 seconds of which every piece is a multiple
-; A piece's first beat comes this much into its file. A change of music is noticed a moment after the old piece has
-; begun again, and in this moment the old first beat must not sound.
+giBeat init 0.5 ; seconds; the Conductor sets it
+; A file's first beat comes this much into it. A change of music is noticed a moment after the old file has begun again,
+; and in this moment the old first beat must not sound. What the file before it held lasts until then.
 giUpbeat = 0.05
 giSemitones[] fillarray 9, 11, 0, 2, 4, 5, 7 ; of a, b, c, d, e, f, g above c
 
@@ -46,22 +47,31 @@ endop
 opcode NextNote, ii, Si
     Sword, iAt xin
     iKey = giSemitones[strchar(Sword, iAt) - 97]
-    if strchar(Sword, iAt + 1) == 35 then
-        iKey += 1
+    iSign strchar Sword, iAt + 1
+    if iSign == 35 || iSign == 98 then ; "#" or "b"
+        iKey += (iSign == 35 ? 1 : -1)
         iAt += 1
     endif
     xout iKey + 12 * (strchar(Sword, iAt + 1) - 47), iAt + 3
 endop
 
-; Plays all notes of a word.
-opcode Sound, 0, iSiii
-    iInstrument, Sword, iBeat, iBeats, iVelocity xin
-    iLength strlen Sword
-    iAt = 0
-    while iAt < iLength do
+; Plays all notes of a word, and gives the last of them. Before is the note that a slide comes from.
+opcode Sound, i, iSiiii
+    iInstrument, Sword, iBeat, iBeats, iVelocity, iBefore xin
+    iEnd strlen Sword
+    iMark strchar Sword, iEnd - 1
+    if iMark == 33 || iMark == 44 then ; "!" or ","
+        iVelocity *= (iMark == 33 ? 1.22 : 0.68)
+        iEnd -= 1
+    endif
+    iSlides = (strchar(Sword, 0) == 126 ? 1 : 0)
+    iAt = iSlides
+    while iAt < iEnd do
         iKey, iAt NextNote Sword, iAt
-        schedule iInstrument, giUpbeat + iBeat * giBeat, iBeats * giBeat, cpsmidinn(iKey), iVelocity
+        iFrom = (iSlides == 1 ? iBefore : iKey)
+        schedule iInstrument, giUpbeat + iBeat * giBeat, iBeats * giBeat, cpsmidinn(iKey), iVelocity, cpsmidinn(iFrom)
     od
+    xout iKey
 endop
 
 opcode Line, 0, SiiiS
@@ -69,13 +79,14 @@ opcode Line, 0, SiiiS
     iInstrument PlayerOf Sinstrument
     iAt = 0
     iSince = iBeat
+    iBefore = 60
     Sheld = "."
     Sword = "."
     while strlen(Sword) > 0 do
         Sword, iAt NextWord Stext, iAt
         if strcmp(Sword, "-") != 0 then
             if strcmp(Sheld, ".") != 0 then
-                Sound iInstrument, Sheld, iSince, iBeat - iSince, iVelocity
+                iBefore Sound iInstrument, Sheld, iSince, iBeat - iSince, iVelocity, iBefore
             endif
             Sheld strcpy Sword
             iSince = iBeat
@@ -114,9 +125,10 @@ opcode Figure, 0, SiiiiSS
                 Snote, iNoteAt NextWord Spattern, 0
             endif
             if strcmp(Snote, ".") != 0 then
-                iAccent = (abs(iNow - round(iNow)) < 0.01 ? 1 : 0.8)
-                schedule iInstrument, giUpbeat + (iBeat + iNow) * giBeat, iStep * giBeat, \
-                    cpsmidinn(NoteOfChord(Schord, strtod(Snote))), iVelocity * iAccent
+                iAccent = (abs(iNow - round(iNow)) < 0.01 ? 1 : 0.78)
+                iPitch = cpsmidinn(NoteOfChord(Schord, strtod(Snote)))
+                schedule iInstrument, giUpbeat + (iBeat + iNow) * giBeat, iStep * giBeat, iPitch, \
+                    iVelocity * iAccent, iPitch
             endif
             iNow += iStep
         od
@@ -131,6 +143,9 @@ opcode Beat, 0, SiiiS
     while iAt < strlen(Stext) do
         iSign strchar Stext, iAt
         iLoudness = (iSign == 88 ? 1 : (iSign == 120 ? 0.7 : (iSign == 111 ? 0.4 : 0)))
+        if iSign >= 49 && iSign <= 57 then ; "1" to "9"
+            iLoudness = (iSign - 48) / 9
+        endif
         if iLoudness > 0 then
             schedule iDrum, giUpbeat + iBeat * giBeat, 0.1, iVelocity * iLoudness
         endif

@@ -1,60 +1,73 @@
-; The mixing desk and the tape, for every piece. A piece is its score, instr Piece, and one line that starts it:
-;   i "Conductor" 0 <length of all three passes> <level> <room> <push>
-; level is the gain that brings the piece to the loudness that all pieces share (-19 LUFS; the tests of the music show
-; where it is), room is how much of the room's answer is heard, and push is how far the kick pushes the other players
-; down, 0 to 1.
+; The mixing desk and the tape, for every piece. A piece is the music of one mode of the game and fills two files that
+; are heard in turn: its score has instr First and instr Second, and one line that starts it:
+;   i "Conductor" 0 <length of three files> <bars of a file> <beats of a bar> <level> <room> <push> <width>
+; level is the gain that brings the piece to its loudness (the tests of the music show where it is), room is how much of
+; the room's answer is heard, push is how far the kick pushes the other players down, 0 to 1, and width is how much of
+; what differs between the sides is left.
 sr = 44100
-ksmps = 10 ; a divisor of the 286650 frames of a unit, so that each pass begins on the same frame
+ksmps = 10 ; a divisor of the 286650 frames of 6.5 seconds, so that each file begins on a frame of its own
 nchnls = 2
 0dbfs = 1
 
 gaLeft, gaRight, gaDrumLeft, gaDrumRight, gaEchoLeft, gaEchoRight, gaRoomLeft, gaRoomRight, gaPush init 0
+giEcho init 0.75 ; beats from an echo to the next
 
 #include "Score.orc"
 #include "Instruments.orc"
 
-; Plays the piece three times in a row and records the third, so that what rings on from its end is in its beginning.
+; Plays the second file, the first and the second once more, and records the latter two: so that in the beginning of
+; each is what rings on from the end of the other.
 instr Conductor
-    iPass = p3 / 3
-    schedule "Piece", 0, iPass
-    schedule "Piece", iPass, iPass
-    schedule "Piece", 2 * iPass, iPass
-    schedule "Desk", 0, p3, p4, p5, p6
-    schedule "Tape", 2 * iPass, iPass
+    iFile = p3 / 3
+    giBeat = iFile / (p4 * p5)
+    schedule "Second", 0, iFile
+    schedule "First", iFile, iFile
+    schedule "Second", 2 * iFile, iFile
+    schedule "Desk", 0, p3, p6, p7, p8, p9
+    schedule "Tape", iFile, iFile, 1
+    schedule "Tape", 2 * iFile, iFile, 2
 endin
 
-; Echoes of three quarters of a beat that change sides.
+; Echoes that change sides.
 opcode Echo, aa, aa
     aLeft, aRight xin
     aBackLeft init 0
     aBackRight init 0
-    aGoneLeft delay aLeft + aBackRight * 0.42, 0.75 * giBeat
-    aGoneRight delay aRight + aBackLeft * 0.42, 0.75 * giBeat
+    aGoneLeft delay aLeft + aBackRight * 0.42, giEcho * giBeat
+    aGoneRight delay aRight + aBackLeft * 0.42, giEcho * giBeat
     aBackLeft butlp aGoneLeft, 3600
     aBackRight butlp aGoneRight, 3600
     xout aBackLeft, aBackRight
 endop
 
-; Lightens what the sounds of the game need: a broad dip around the shots and signals, less of the low middle where
-; hits and explosions are. The lowest octave steps back a little as well, so that nothing booms.
+; Less of the low middle, where hits and explosions are, and some air above. The lowest octave steps back a little, so
+; that nothing booms.
 opcode Equalise, a, a
     aSound xin
     aSound buthp aSound, 32
-    aSound pareq aSound, 90, 0.78, 0.7, 1
+    aSound pareq aSound, 100, 0.68, 0.7, 1
     aSound pareq aSound, 260, 0.84, 0.7
-    aSound pareq aSound, 1250, 0.76, 0.6
-    aSound pareq aSound, 9000, 1.12, 0.7, 2
+    aSound pareq aSound, 4500, 1.4, 0.7, 2
     xout aSound
 endop
 
-; Straight up to half of full scale; what is above bends towards 0.72 and never passes it.
+; Straight up to 0.36 of full scale; what is above bends towards 0.54 and never passes it.
 opcode Bend, a, a
     aSound xin
-    aOver = abs(aSound) - 0.5
+    aOver = abs(aSound) - 0.36
     aOver = (aOver + abs(aOver)) * 0.5
-    aUnder limit aSound, -0.5, 0.5
-    aSign = aUnder * 2
-    xout aUnder + aSign * 0.22 * tanh(aOver / 0.22)
+    aUnder limit aSound, -0.36, 0.36
+    aSign = aUnder / 0.36
+    xout aUnder + aSign * 0.18 * tanh(aOver / 0.18)
+endop
+
+; Takes out what differs between the sides below 120 Hz, and leaves a share of it above.
+opcode Narrow, aa, aai
+    aLeft, aRight, iWidth xin
+    aMiddle = (aLeft + aRight) * 0.5
+    aSide buthp (aLeft - aRight) * 0.5, 150
+    aSide buthp aSide * iWidth, 150
+    xout aMiddle + aSide, aMiddle - aSide
 endop
 
 instr Desk
@@ -62,12 +75,13 @@ instr Desk
     iRoom = p5
     iPush = p6
     aEchoLeft, aEchoRight Echo gaEchoLeft, gaEchoRight
-    aRoomLeft, aRoomRight reverbsc gaRoomLeft + aEchoLeft * 0.2, gaRoomRight + aEchoRight * 0.2, 0.78, 6500, sr, 0
+    aRoomLeft, aRoomRight reverbsc gaRoomLeft + aEchoLeft * 0.2, gaRoomRight + aEchoRight * 0.2, 0.78, 7500, sr, 0
     aRoomLeft buthp aRoomLeft, 240
     aRoomRight buthp aRoomRight, 240
     aGap = 1 - iPush * limit(gaPush, 0, 1)
     aLeft = (gaLeft + aEchoLeft) * aGap + gaDrumLeft + aRoomLeft * iRoom
     aRight = (gaRight + aEchoRight) * aGap + gaDrumRight + aRoomRight * iRoom
+    aLeft, aRight Narrow aLeft, aRight, p7
     aLeft Equalise aLeft
     aRight Equalise aRight
     gaMasterLeft Bend aLeft * iLevel
@@ -75,9 +89,14 @@ instr Desk
     clear gaLeft, gaRight, gaDrumLeft, gaDrumRight, gaEchoLeft, gaEchoRight, gaRoomLeft, gaRoomRight, gaPush
 endin
 
-; The tape dips around the place where it is cut. The piece itself comes round without a gap; but where another piece
-; takes over, it does so a little behind the cut, and there both shall be quiet.
+; The tape begins and ends with silence, but for no longer than a click takes to disappear: the file that follows may be
+; another one than the one that was played behind it here.
 instr Tape
-    aDip linseg 0.2, 0.025, 0.2, 0.02, 1, p3 - 0.105, 1, 0.06, 0.2
-    fout "$TAPE", 8, gaMasterLeft * aDip, gaMasterRight * aDip
+    if p4 == 1 then
+        Sfile = "$TAPE..wav"
+    else
+        Sfile = "$TAPE.B.wav"
+    endif
+    aEdge linseg 0, 0.004, 1, p3 - 0.012, 1, 0.008, 0
+    fout Sfile, 8, gaMasterLeft * aEdge, gaMasterRight * aEdge
 endin
