@@ -412,7 +412,7 @@ TEST_F(AudioStartup, LoadsTheMusicThatShipsWithoutAWord) {
         EXPECT_GT(MIX_GetAudioDuration(pattern.Audio), 0) << pattern.Name;
     }
     EXPECT_EQ(names, (Lines{"MENU", "MENU_B", "GAMEPLAY", "GAMEPLAY_B", "WATER", "WATER_B", "GAMEOVER",
-                         "INVINCIBILITY", "DUALWEAPON"}));
+                         "GAMEOVER_B", "INVINCIBILITY", "INVINCIBILITY_B", "DUALWEAPON", "DUALWEAPON_B"}));
     EXPECT_EQ(Runtime.MenuPattern, "MENU");
     EXPECT_EQ(Runtime.GameplayPattern, "GAMEPLAY");
     EXPECT_EQ(Runtime.WaterPattern, "WATER");

@@ -299,7 +299,7 @@ INSTANTIATE_TEST_SUITE_P(Music, MusicOfARun,
         return std::string(Info.param.Name);
     });
 
-// The run's loop of thirteen seconds is played to its end, and the menu's piece follows at once again.
+// The run's loop of twenty-six seconds is played to its end, and the menu's piece follows at once again.
 TEST_F(Music, GameOverWaitsForTheLoopsEndAndTheMenuAfterItDoesNot) {
     GameState run = QuietRun();
     run.Player.Hp = 10;
@@ -310,7 +310,7 @@ TEST_F(Music, GameOverWaitsForTheLoopsEndAndTheMenuAfterItDoesNot) {
     ASSERT_TRUE(game.Game().Tap(Key::Return, ScreenIs(SeenScreen::Playing)));
     ASSERT_TRUE(game.Game().WaitForPicture(ScreenIs(SeenScreen::GameOver)));
     const std::size_t over = game.FramesSoFar();
-    ASSERT_TRUE(game.Listen(13.5));
+    ASSERT_TRUE(game.Listen(26.5));
     ASSERT_TRUE(game.Game().Tap(Key::Return, FiveRowMenu(0)));
     const std::size_t back = game.FramesSoFar();
     ASSERT_TRUE(game.Listen(1.0));

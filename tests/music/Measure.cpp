@@ -5,10 +5,13 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <numbers>
+#include <numeric>
 
 namespace {
 
 constexpr double SecondsForLoudness = 26.0;
+constexpr double SecondsForRange = 60.0;
 constexpr std::size_t FramesBehindTheSeam = 4096; ///< far more than the meter's filter is long
 
 struct MeterEnd {
@@ -25,6 +28,49 @@ Meter NewMeter(const Piece &Piece, int Mode) {
 
 double Decibels(double Amplitude) {
     return 20.0 * std::log10(Amplitude);
+}
+
+/// Shows the piece to the meter again and again, at least twice, until it has seen that many seconds.
+void Repeat(ebur128_state *State, const Piece &Piece, double Seconds) {
+    const double length = static_cast<double>(FrameCount(Piece)) / Piece.Rate;
+    const int passes = std::max(2, static_cast<int>(std::ceil(Seconds / length)));
+    for (int pass = 0; pass < passes; ++pass) {
+        ebur128_add_frames_float(State, Piece.Samples.data(), FrameCount(Piece));
+    }
+}
+
+struct MiddleAndSide {
+    std::vector<double> Middle;
+    std::vector<double> Side;
+};
+
+MiddleAndSide Split(const Piece &Piece) {
+    MiddleAndSide split;
+    for (std::size_t at = 0; at < Piece.Samples.size(); at += 2) {
+        const auto left = static_cast<double>(Piece.Samples[at]);
+        const auto right = static_cast<double>(Piece.Samples[at + 1]);
+        split.Middle.push_back((left + right) / 2.0);
+        split.Side.push_back((left - right) / 2.0);
+    }
+    return split;
+}
+
+double Power(const std::vector<double> &Samples) {
+    return std::inner_product(Samples.begin(), Samples.end(), Samples.begin(), 0.0) /
+           static_cast<double>(Samples.size());
+}
+
+/// Four filters of the first order in a row.
+std::vector<double> Below120(std::vector<double> Samples, int Rate) {
+    const double share = 1.0 - std::exp(-2.0 * std::numbers::pi * 120.0 / Rate);
+    for (int filter = 0; filter < 4; ++filter) {
+        double level = 0.0;
+        for (double &sample : Samples) {
+            level += share * (sample - level);
+            sample = level;
+        }
+    }
+    return Samples;
 }
 
 double ChannelPower(const Piece &Piece, std::size_t Channel, std::size_t First, std::size_t Last) {
@@ -51,14 +97,18 @@ double Step(const Piece &Piece, std::size_t From, std::size_t To) {
 
 double Loudness(const Piece &Piece) {
     const Meter meter = NewMeter(Piece, EBUR128_MODE_I);
-    const double length = static_cast<double>(FrameCount(Piece)) / Piece.Rate;
-    const int passes = std::max(2, static_cast<int>(std::ceil(SecondsForLoudness / length)));
-    for (int pass = 0; pass < passes; ++pass) {
-        ebur128_add_frames_float(meter.get(), Piece.Samples.data(), FrameCount(Piece));
-    }
+    Repeat(meter.get(), Piece, SecondsForLoudness);
     double loudness = 0.0;
     ebur128_loudness_global(meter.get(), &loudness);
     return loudness;
+}
+
+double LoudnessRange(const Piece &Piece) {
+    const Meter meter = NewMeter(Piece, EBUR128_MODE_LRA);
+    Repeat(meter.get(), Piece, SecondsForRange);
+    double range = 0.0;
+    ebur128_loudness_range(meter.get(), &range);
+    return range;
 }
 
 double TruePeak(const Piece &Piece) {
@@ -86,6 +136,21 @@ double Level(const Piece &Piece, std::size_t First, std::size_t Last) {
 double Balance(const Piece &Piece) {
     const std::size_t frames = FrameCount(Piece);
     return Decibels(std::sqrt(ChannelPower(Piece, 0, 0, frames) / ChannelPower(Piece, 1, 0, frames)));
+}
+
+double SideUnderMiddle(const Piece &Piece) {
+    const MiddleAndSide split = Split(Piece);
+    return Decibels(std::sqrt(Power(split.Middle) / Power(split.Side)));
+}
+
+double SideUnderMiddleBelow120(const Piece &Piece) {
+    const MiddleAndSide split = Split(Piece);
+    return Decibels(
+        std::sqrt(Power(Below120(split.Middle, Piece.Rate)) / Power(Below120(split.Side, Piece.Rate))));
+}
+
+double MonoLoss(const Piece &Piece) {
+    return Level(Piece, 0, FrameCount(Piece)) - Decibels(std::sqrt(Power(Split(Piece).Middle)));
 }
 
 double Offset(const Piece &Piece) {

@@ -30,7 +30,7 @@ instr First
     Beat "Snare", 0, 0.25, 0.45, "......2..2.....2 ..2...2..2...... ......2..2....22 ..2...2...2.3456"
     Beat "Hat", 0, 0.25, 0.7, "9.5.9.5.9.5.9.57 9.5.9.579.5.9.5. 9.559.5.9.559.5. 9.5.9.5.9.5....."
     Beat "OpenHat", 0, 0.5, 0.65, ".9.9.9.9 .9.9.9.9 .9.9.9.9 .9.9.9.."
-    Beat "Crash", 0, 0.5, 0.55, "X"
+    Beat "Crash", 0, 0.5, 0.4, "X"
 
     ; Bar 5: the fill, on E7.
     ;   D/E E7
@@ -39,9 +39,9 @@ instr First
     Line "Bass", 16, 0.5, 0.86, "e2! . e2 e1 . e2 g#1 g#2"
     Figure "Pluck", 16, 0.25, 0.55, 4, "e4+g#4+b4+d5", "0 1 2 3 4 5 6 7  8 7 6 5 4 3 2 1"
     Beat "Kick", 16, 0.25, 0.9, "X.....X...X....."
-    Beat "Snare", 16, 0.25, 0.78, "X..6..X..67.8888"
+    Beat "Snare", 16, 0.25, 0.78, "X..6..X..67.7777"
     Beat "HighTom", 16, 0.25, 0.85, ".9..9...X......."
-    Beat "LowTom", 16, 0.25, 0.9, "...........9.X.."
+    Beat "LowTom", 16, 0.25, 0.8, "...........9.8.."
     Line "Pad", 0, 2, 0.7, {{
         a3+c#4+e4 a3+c#4+f#4 a3+c#4+f#4 g#3+b3+e4 g#3+c#4+e4
         a3+c#4+e4 a3+b3+d4 g#3+b3+d4 a3+d4+f#4 g#3+b3+d4 }}
@@ -50,13 +50,13 @@ endin
 instr Second
     ; Bars 1 and 2, F sharp minor: a moment of air, the kick away.
     ;   F#m9 Dmaj7  Bm9 C#7
-    Line "Reed", 0, 0.5, 0.66, "a5! - g#5 a5 ~c#6 - a5 . | f#5, - b5! - ~c#6 b5 g#5 ."
+    Line "Reed", 0, 0.5, 0.58, "a5! - g#5 a5 ~c#6 - a5 . | f#5, - b5! - ~c#6 b5 g#5 ."
     Line "Bell", 0, 0.5, 0.4, ". . . . . . e6 a6 | . . . . . . f6 g#6"
-    Figure "Pluck", 0, 0.25, 0.52, 2, "f#4+a4+c#5+g#5 d4+f#4+a4+c#5 d4+f#4+b4+c#5 c#4+f4+g#4+b4", {{
+    Figure "Pluck", 0, 0.25, 0.42, 2, "f#4+a4+c#5+g#5 d4+f#4+a4+c#5 d4+f#4+b4+c#5 c#4+f4+g#4+b4", {{
         0 . 2 . 1 . 3 .  2 1 . 0 . 1 2 .  0 1 2 3 . 4 3 2  1 2 3 4 5 4 3 2 }}
-    Line "Bass", 0, 0.5, 0.72, "f#1! - - f#2, d2 - - d#2, | b1! - - f#1, c#2 - c#2, e2"
-    Beat "Clap", 0, 0.25, 0.7, "........X....... ........X.....5."
-    Beat "Hat", 0, 0.25, 0.7, "9.5.7.5.9.5.7.5. 9.5.7.5.9.577.77"
+    Line "Bass", 0, 0.5, 0.66, "f#1! - - f#2, d2 - - d#2, | b1! - - f#1, c#2 - c#2, e2"
+    Beat "Clap", 0, 0.25, 0.55, "........X....... ........X.....5."
+    Beat "Hat", 0, 0.25, 0.5, "9.5.7.5.9.5.7.5. 9.5.7.5.9.577.77"
     Beat "Crash", 0, 0.5, 0.4, "x"
 
     ; Bars 3 and 4, back to A major: everything, the hook over a walking bass.
@@ -83,7 +83,7 @@ instr Second
     Line "Bass", 16, 0.5, 0.86, "b1! b2 f#1 b1 e2! e1 e2 g#1"
     Figure "Pluck", 16, 0.25, 0.52, 2, "d4+f#4+a4+b4 e4+g#4+b4+d5", "3 . 2 . 1 . 0 .  0 1 2 3 4 5 6 7"
     Beat "Kick", 16, 0.25, 0.9, "X...X...X...X..."
-    Beat "Snare", 16, 0.25, 0.78, "..5.X..5..X.X676"
+    Beat "Snare", 16, 0.25, 0.78, "..5.X..5..X.X655"
     Beat "HighTom", 16, 0.25, 0.85, ".......9X......."
     Beat "LowTom", 16, 0.25, 0.9, ".........9.9...."
     Line "Pad", 0, 2, 0.7, {{
@@ -93,6 +93,6 @@ endin
 </CsInstruments>
 <CsScore>
 ; length of three files, bars, beats of a bar, level, room, push, width
-i "Conductor" 0 [3 * 6.5] 5 4 0.64 0.45 0.4 0.65
+i "Conductor" 0 [3 * 6.5] 5 4 0.66 0.45 0.4 0.65
 </CsScore>
 </CsoundSynthesizer>
