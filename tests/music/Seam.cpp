@@ -40,7 +40,7 @@ Piece Heard(const Seam &Seam, std::size_t Late) {
 double MeanStep(const Piece &Piece, std::size_t First, std::size_t Last) {
     double sum = 0.0;
     for (std::size_t at = First * Channels; at < Last * Channels; ++at) {
-        const double step = static_cast<double>(Piece.Samples[at] - Piece.Samples[at - Channels]);
+        const auto step = static_cast<double>(Piece.Samples[at] - Piece.Samples[at - Channels]);
         sum += step * step;
     }
     return sum / static_cast<double>(Last - First);
