@@ -12,16 +12,19 @@ struct Pattern {
     std::string_view Before;   ///< the pattern that it follows, if not itself
 };
 
-constexpr std::array<Pattern, 9> Patterns{{
+constexpr std::array<Pattern, 12> Patterns{{
     {"MENU", "Music/MenuCredits.ogg", "MenuPattern", "MENU_B", "MENU_B"}, // then the first that there is
     {"MENU_B", "Music/MenuCreditsB.ogg", "", "", "MENU"},
     {"GAMEPLAY", "Music/Gameplay.ogg", "GameplayPattern", "MENU", "GAMEPLAY_B"},
     {"GAMEPLAY_B", "Music/GameplayB.ogg", "", "", "GAMEPLAY"},
     {"WATER", "Music/Water.ogg", "WaterPattern", "GAMEPLAY", "WATER_B"},
     {"WATER_B", "Music/WaterB.ogg", "", "", "WATER"},
-    {"GAMEOVER", "Music/GameOver.ogg", "GameOverPattern", "GAMEPLAY", ""},
-    {"INVINCIBILITY", "Music/Invincibility.ogg", "InvincibilityPattern", "GAMEPLAY", ""},
-    {"DUALWEAPON", "Music/DualWeapon.ogg", "DualWeaponPattern", "GAMEPLAY", ""},
+    {"GAMEOVER", "Music/GameOver.ogg", "GameOverPattern", "GAMEPLAY", "GAMEOVER_B"},
+    {"GAMEOVER_B", "Music/GameOverB.ogg", "", "", "GAMEOVER"},
+    {"INVINCIBILITY", "Music/Invincibility.ogg", "InvincibilityPattern", "GAMEPLAY", "INVINCIBILITY_B"},
+    {"INVINCIBILITY_B", "Music/InvincibilityB.ogg", "", "", "INVINCIBILITY"},
+    {"DUALWEAPON", "Music/DualWeapon.ogg", "DualWeaponPattern", "GAMEPLAY", "DUALWEAPON_B"},
+    {"DUALWEAPON_B", "Music/DualWeaponB.ogg", "", "", "DUALWEAPON"},
 }};
 
 std::string Quoted(std::string_view Text) {
