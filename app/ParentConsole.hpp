@@ -1,5 +1,6 @@
 #pragma once
 
-/// On Windows the program has no console of its own: this lets it write to the one that it was started from,
-/// and what is redirected to files and pipes, too. Elsewhere it does nothing.
+/// On Windows the program has no console of its own. From this call on, its output and its log go to the
+/// console that it was started from, or where they were redirected to; so it comes before all that logs.
+/// Elsewhere it does nothing.
 void UseParentConsole();

@@ -33,7 +33,7 @@ bool InitSdl() {
     return true;
 }
 
-void FillDefaults(GameState &State) {
+void FillDefaultsAndSeed(GameState &State) {
     State = GameState{};
     State.Rng.seed(std::random_device{}());
 }
@@ -77,6 +77,7 @@ void SetIcon(const Program &Game) {
     }
 }
 
+/// A first launch leaves a whole file to edit, whatever becomes of the start. It is tried once.
 void WriteFirstOptions(const Program &Game) {
     if (!Game.Writers.SaveOptions(Game.State)) {
         SDL_Log("Failed to create default options config: %s", OptionsFileName);
@@ -113,7 +114,7 @@ bool StartUp(Program &Game) {
     if (!InitSdl()) {
         return false;
     }
-    FillDefaults(Game.State);
+    FillDefaultsAndSeed(Game.State);
     const bool configExisted = LoadOptions(Game.State);
     if (!configExisted) {
         UseDesktopSize(Game.State);
@@ -130,7 +131,7 @@ bool StartUp(Program &Game) {
     }
     StartLanguage(Game.State);
     RestoreGame(Game.State);
-    // Whatever was there is forgotten, as the state was above.
+    // New like the state above: devices and latches of an earlier start mean nothing now.
     Game.Devices = InputDevices{};
     OpenFirstInputDevices(Game.Devices);
     ApplyDisplaySettings(Game.State, Game.Window, Game.Renderer);

@@ -6,6 +6,14 @@
 
 #include <SDL3/SDL_main.h>
 
+// StartUp brings up SDL, the options, the window, the words, the saved run and the sound. Each RunFrame then
+//   reads the events and acts on presses         app/Events, app/KeyHandler, input/, options/
+//   writes the options where that is due         app/Saving, store/
+//   lets the run go on by one step               sim/Step
+//   writes the run where that is due             app/Saving, store/
+//   asks for the music and plays the sounds      audio/Transport, audio/SfxVoices
+//   draws the screen that is shown               gfx/
+// ShutDown saves and takes all down. All that happens stands in one record, state/GameState.hpp.
 int main(int /*ArgumentCount*/, char ** /*Arguments*/) {
     UseParentConsole();
     Program program;

@@ -40,6 +40,7 @@ void OpenFirst(
     }
 }
 
+/// SDL tells of an unplugged gamepad twice, as a joystick and as a gamepad: whichever comes first closes it.
 void HandleJoystickRemoved(InputDevices &Devices, SDL_JoystickID Id) {
     if (IsOpenJoystick(Devices, Id)) {
         CloseJoystick(Devices);

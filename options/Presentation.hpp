@@ -5,7 +5,7 @@
 struct GameState;
 
 /// Has the renderer fit the logical screen into the window, whole and with bars at two sides where the shapes
-/// differ. A failure is logged. Without a window (null) nothing happens.
+/// differ. A failure is logged. Window is only asked whether it is there: without it (null) nothing happens.
 void ApplyLogicalPresentation(SDL_Window *Window, SDL_Renderer *Renderer);
 
 /// Brings LogicalWidth, window and renderer in line with the applied display options. What is on the road

@@ -1,5 +1,6 @@
 #include "sim/Damage.hpp"
 
+#include "sim/Death.hpp"
 #include "sim/Explosions.hpp"
 #include "sim/Lanes.hpp"
 #include "state/GameState.hpp"
@@ -12,7 +13,6 @@ namespace {
 
 constexpr float HurtSeconds = 1.0F;    ///< nothing hurts after a blow
 constexpr float RespawnSeconds = 2.0F; ///< nothing hurts after a lost life
-constexpr float DeathSeconds = 0.85F;  ///< the death is shown
 
 /// Hp less Amount, kept within 32 bits: a damaged file may hold a shot of any damage.
 std::int32_t SaturatingSubtract(std::int32_t Hp, std::int32_t Amount) {
@@ -31,19 +31,6 @@ void Respawn(GameState &State) {
     State.InvulnerabilityTimer = RespawnSeconds;
     State.LaneMoveCooldown = 0.0F;
     AddExplosion(State, player.X, player.Y, RespawnLook);
-}
-
-void BeginDeath(GameState &State) {
-    Player &player = State.Player;
-    State.PlayerDying = true;
-    player.Hp = 0;
-    State.DeathTimer = DeathSeconds;
-    State.InvulnerabilityTimer = std::max(DeathSeconds, State.InvulnerabilityTimer);
-    player.FireCooldown = 0.0F;
-    State.Bullets.clear();
-    State.EnemyBullets.clear();
-    AddExplosion(State, player.X, player.Y, DyingPlayerFirstLook);
-    AddExplosion(State, player.X, player.Y, DyingPlayerSecondLook);
 }
 
 } // namespace

@@ -33,11 +33,15 @@ constexpr float MuzzleDistance = 11.0F;
 /// How an enemy thinks and shoots, by the hit points that it has now.
 /// NOT-BUGS: A heavy enemy that was hit once behaves like a light one
 struct Temper {
-    float ThinkSeconds;
-    float ReloadSeconds;
+    float LeastThinkSeconds;
+    float LeastReloadSeconds;
     float ShotRadius;
     std::int32_t ShotDamage;
 };
+
+// Drawn on top, in seconds.
+constexpr float ThinkSpread = 0.32F;
+constexpr float ReloadSpread = 0.55F;
 
 constexpr Temper LightTemper{0.28F, 1.18F, 2.0F, 10};
 constexpr Temper HeavyTemper{0.2F, 0.9F, 2.2F, 12};
@@ -51,7 +55,7 @@ const Temper &TemperOf(const Enemy &Enemy) {
     return IsHeavy(Enemy) ? HeavyTemper : LightTemper;
 }
 
-/// An enemy as it stood at the start of the frame.
+/// An enemy as it stood before any of them moved.
 struct Snapshot {
     std::int32_t Lane;
     float Y;
@@ -60,7 +64,7 @@ struct Snapshot {
 
 constexpr std::size_t UsualEnemyLimit = 128; ///< more than a road holds, unless a file was damaged
 
-/// One enemy's turn: the run, the enemies at the start of the frame, and which of them it is.
+/// One enemy's turn: the run, the enemies as they stood, and which of them it is.
 struct Turn {
     GameState &State;
     std::span<const Snapshot> Others; ///< the enemy's own among them
@@ -106,19 +110,19 @@ void Decide(const Turn &Turn, Enemy &Enemy) {
         !IsLaneObstructed(Turn, Enemy, target)) {
         Enemy.Lane = target;
     }
-    Enemy.AiTimer = RandomFloat(Turn.State, 0.0F, 1.0F) * 0.32F + TemperOf(Enemy).ThinkSeconds;
+    Enemy.AiTimer = RandomFloat(Turn.State, 0.0F, 1.0F) * ThinkSpread + TemperOf(Enemy).LeastThinkSeconds;
 }
 
 /// Halts behind an obstacle and rolls with it; one that is already passed does not hold back.
 float StopBehindObstacles(const Turn &Turn, const Enemy &Enemy, float WantedY) {
     float wantedY = WantedY;
     for (const Obstacle &obstacle : Turn.State.Obstacles) {
-        const float o = PredictedY(Turn.State, obstacle, Turn.dt);
-        const float h = obstacle.Height / 2.0F;
-        const bool notYetPassed = Enemy.Y - Enemy.Radius < o + h;
-        if (notYetPassed &&
-            CircleHitsRect(Enemy.X, wantedY, Enemy.Radius, obstacle.X, o, obstacle.Width, obstacle.Height)) {
-            wantedY = std::min(wantedY, o - h - Enemy.Radius);
+        const float obstacleY = PredictedY(Turn.State, obstacle, Turn.dt);
+        const float halfHeight = obstacle.Height / 2.0F;
+        const bool notYetPassed = Enemy.Y - Enemy.Radius < obstacleY + halfHeight;
+        if (notYetPassed && CircleHitsRect(Enemy.X, wantedY, Enemy.Radius, obstacle.X, obstacleY,
+                                obstacle.Width, obstacle.Height)) {
+            wantedY = std::min(wantedY, obstacleY - halfHeight - Enemy.Radius);
         }
     }
     return wantedY;
@@ -159,8 +163,8 @@ void Shoot(GameState &State, Enemy &Enemy) {
     } else {
         addShot(Enemy.X);
     }
-    Enemy.FireCooldown =
-        (RandomFloat(State, 0.0F, 1.0F) * 0.55F + temper.ReloadSeconds) * ReloadFactor(State.Stage);
+    Enemy.FireCooldown = (RandomFloat(State, 0.0F, 1.0F) * ReloadSpread + temper.LeastReloadSeconds) *
+                         ReloadFactor(State.Stage);
 }
 
 void TakeTurn(const Turn &Turn, Enemy &Enemy) {
@@ -180,7 +184,7 @@ void TakeTurn(const Turn &Turn, Enemy &Enemy) {
 void MoveEnemies(GameState &State, float dt) {
     // On the stack, because a frame allocates no memory; only a crowd that no road holds is taken from the
     // heap.
-    std::array<std::byte, UsualEnemyLimit * sizeof(Snapshot)> buffer;
+    alignas(Snapshot) std::array<std::byte, UsualEnemyLimit * sizeof(Snapshot)> buffer;
     std::pmr::monotonic_buffer_resource memory(buffer.data(), buffer.size());
     std::pmr::vector<Snapshot> others(&memory);
     others.reserve(State.Enemies.size());

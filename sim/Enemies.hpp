@@ -3,5 +3,5 @@
 struct GameState;
 
 /// Lets every enemy think, drive and shoot for dt seconds. What an enemy sees of the others is where they
-/// stood at the start of the frame.
+/// stood before any of them moved.
 void MoveEnemies(GameState &State, float dt);

@@ -63,7 +63,7 @@ void SpawnTimedItem(GameState &State, float dt) {
     if (State.ItemSpawnTimer > 0.0F) {
         return;
     }
-    SpawnItem(State, -1.0F, -1.0F);
+    SpawnItem(State, AnyLane, AtSpawnLine);
     State.ItemSpawnTimer = RandomFloat(State, 9.0F, 14.0F);
 }
 

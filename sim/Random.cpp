@@ -20,9 +20,10 @@ float RandomFloat(GameState &State, float A, float B) {
     return (B - A) * v + A;
 }
 
-// Multiply and shift with rejection: the result is the high half of an output times N. 2^32 modulo N results
-// would have one output more than the others; an output whose product has a low half below that number is
-// drawn again, which leaves each result the same number of outputs.
+// Lemire's multiply and shift with rejection: the result is the high half of an output times N. 2^32 modulo N
+// results would have one output more than the others; an output whose product has a low half below that
+// number is drawn again, which leaves each result the same number of outputs. The first comparison only
+// spares the division: that number is below N.
 std::uint32_t RandomIndex(GameState &State, std::uint32_t N) {
     std::uint64_t product = std::uint64_t{Draw(State)} * N;
     if (static_cast<std::uint32_t>(product) < N) {

@@ -32,7 +32,8 @@ template <typename Thing, typename NewThing> bool IsTooClose(const Thing &Other,
     return Touches(Widened(Other), Widened(New));
 }
 
-/// Added in this order, since sums of floats are rounded: a damaged file may hold any size.
+/// Two rectangles, by the distance of their centres and half the sum of their widened sides. For sizes that
+/// only a damaged file holds another order of the terms would round to another answer.
 bool IsTooClose(const Obstacle &Other, const Obstacle &New) {
     return std::abs(Other.X - New.X) <= (Other.Width + DoubleMargin + New.Width + DoubleMargin) / 2.0F &&
            std::abs(Other.Y - New.Y) <= (Other.Height + DoubleMargin + New.Height + DoubleMargin) / 2.0F;

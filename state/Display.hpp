@@ -8,7 +8,7 @@ enum AspectMode : std::int32_t {
     AspectClassic4x3 = 1,
 };
 
-/// A size in physical pixels, ordered by width, ties by height.
+/// A size in the units of SDL's windows and display modes, ordered by width, ties by height.
 struct Resolution {
     std::int32_t Width = 0;
     std::int32_t Height = 0;
@@ -16,7 +16,7 @@ struct Resolution {
     auto operator<=>(const Resolution &) const = default;
 };
 
-/// What a display offers, in physical pixels.
+/// What a display offers, in the same units.
 struct DisplayMode {
     std::int32_t Width = 0;
     std::int32_t Height = 0;

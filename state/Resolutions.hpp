@@ -17,8 +17,8 @@ bool IsUltrawide(std::int32_t Width, std::int32_t Height);
 /// Whether the Graphics page offers this size in this aspect mode.
 bool ResolutionAllowed(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height);
 
-/// Sets the global LogicalWidth, rather than return a value, by the aspect mode and the shape of a resolution
-/// in physical pixels.
+/// Sets the global LogicalWidth, rather than return a value, by the aspect mode and the shape of a
+/// resolution.
 void ComputeLogicalWidth(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height);
 
 /// The sizes offered where no size of a display fits the aspect mode, smallest first.
