@@ -39,12 +39,12 @@ void WriteFiles(std::string_view Input) {
     }
 }
 
-/// Every text of the game can be had and is none that cannot be shown.
+/// Every text is there, and once in capitals it stays as it is.
 void DemandTexts() {
     for (const TextRow &row : TextTable) {
-        const std::string upper = ToUpperUtf8(GetText(row.Key, row.Default));
+        const std::string upper = ToUpperUtf8(GetText(row.Id));
         Demand(!upper.empty(), "a label is blank");
-        Demand(ToUpperUtf8(upper) == upper, "capitals have capitals");
+        Demand(ToUpperUtf8(upper) == upper, "a text in capitals changed");
     }
 }
 

@@ -10,7 +10,7 @@
 #include <limits>
 #include <tuple>
 
-// The input as the options file: loaded, saved and loaded again, without a display or with two modes of one.
+// The input as the options file: loaded, saved and loaded again, with a display of three modes or none.
 
 namespace {
 

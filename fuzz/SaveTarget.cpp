@@ -43,6 +43,9 @@ void DemandRanges(const GameState &State) {
     Demand(IsWithin(State.Player.Stocks, 0, 5), "wrong number of lives");
     Demand(State.AmmoMeter >= 0.0F && State.AmmoMeter <= 100.0F, "wrong ammunition");
     Demand(State.CurrentScrollSpeed >= 10.0F, "the road stands");
+    for (const Enemy &enemy : State.Enemies) {
+        Demand(IsWithin(enemy.Lane, 0, 8), "an enemy is on no lane");
+    }
     for (const Obstacle &obstacle : State.Obstacles) {
         Demand(IsWithin(obstacle.Lane, 0, 8) && IsWithin(obstacle.Type, 0, 2), "wrong obstacle");
     }

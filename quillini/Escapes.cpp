@@ -1,5 +1,6 @@
 #include "quillini/Escapes.hpp"
 
+#include "quillini/Text.hpp"
 #include "quillini/quillini.hpp"
 
 #include <algorithm>
@@ -19,6 +20,7 @@ struct ShortEscape {
     std::string_view Escape;
 };
 
+// Reading resolves only the first two again (ValueScan), and the escapes of AppendUnit (LineCutter).
 constexpr auto ShortEscapes = std::to_array<ShortEscape>({
     {'"', "\\\""},
     {'\\', "\\\\"},
@@ -32,19 +34,6 @@ constexpr auto ShortEscapes = std::to_array<ShortEscape>({
 
 // NOT-BUGS: The character 0x1F is written as it is
 constexpr std::uint8_t LastEscapedControl = 0x1E;
-
-/// A sequence of more than one byte, by the bits of its first one under Mask.
-struct SequenceForm {
-    std::uint8_t Mask;
-    std::uint8_t Lead;
-    std::size_t Length;
-};
-
-constexpr auto SequenceForms = std::to_array<SequenceForm>({
-    {0xE0, 0xC0, 2},
-    {0xF0, 0xE0, 3},
-    {0xF8, 0xF0, 4},
-});
 
 [[noreturn]] void RefuseSequence() {
     throw std::runtime_error("Invalid UTF-8 sequence!");

@@ -4,7 +4,6 @@
 #include "quillini/ValueScan.hpp"
 #include "quillini/quillini.hpp"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -66,20 +65,19 @@ std::string_view ErrorInName(char Character, KeyForm Form) {
     }
 }
 
-/// The name at the start of a line, up to the separator, or in an array form up to the "[" before it.
-std::string CollectName(std::string_view Line, char Separator, KeyForm Form, std::string &Error) {
-    std::string_view text = Line.substr(0, Line.find(Separator));
+/// The name in the text before a separator, in an array form up to its "[".
+std::string CollectName(std::string_view Text, char Separator, KeyForm Form, std::string &Error) {
     if (Form != KeyForm::Plain) {
-        text = text.substr(0, text.find('['));
+        Text = Text.substr(0, Text.find('['));
     }
-    for (const char character : text) {
+    for (const char character : Text) {
         const std::string_view error = ErrorInName(character, Form);
         if (!error.empty()) {
             Error.append(error).append(KeyNotEnded(Separator));
             return {};
         }
     }
-    std::string name(text);
+    std::string name(Text);
     std::erase(name, ' '); // a key holds no blanks; tabs are kept
     if (name.empty()) {
         Error += KeyNotEnded(Separator);
@@ -110,8 +108,9 @@ void StoreElement(ReadState &State, std::string_view Name, const ScannedValue &S
         Scanned.Quoted, CommentOrNone(Scanned.Comment));
 }
 
-void Store(ReadState &State, std::string_view Name, const ScannedValue &Scanned, std::string_view KeyText) {
-    switch (FormOf(KeyText)) {
+void Store(ReadState &State, std::string_view Name, const ScannedValue &Scanned, std::string_view KeyText,
+    KeyForm Form) {
+    switch (Form) {
     case KeyForm::NextElement:
         StoreElement(State, Name, Scanned, std::nullopt);
         break;
@@ -127,20 +126,21 @@ void Store(ReadState &State, std::string_view Name, const ScannedValue &Scanned,
 } // namespace
 
 void ReadKeyLine(ReadState &State, std::string_view Line) {
-    const std::size_t separatorAt = std::min(Line.find('='), Line.find(':'));
+    const std::size_t separatorAt = Line.find_first_of("=:");
     if (separatorAt == std::string_view::npos) {
         State.Error += NoSeparator;
         return;
     }
-    const char separator = Line[separatorAt];
-    const std::string_view keyText = TrimBlanks(Line.substr(0, separatorAt));
-    const std::string name = CollectName(Line, separator, FormOf(keyText), State.Error);
+    const std::string_view beforeSeparator = Line.substr(0, separatorAt);
+    const std::string_view keyText = TrimBlanks(beforeSeparator);
+    const KeyForm form = FormOf(keyText);
+    const std::string name = CollectName(beforeSeparator, Line[separatorAt], form, State.Error);
     if (!State.Error.empty()) {
         return;
     }
     const ScannedValue scanned = ScanValue(Line.substr(separatorAt + 1), State.Error);
     if (State.Error.empty()) {
-        Store(State, name, scanned, keyText);
+        Store(State, name, scanned, keyText, form);
     }
 }
 

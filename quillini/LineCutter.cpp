@@ -152,7 +152,7 @@ void TakeNext(LineCutter &Cutter) {
 CutText CutLines(std::string_view Text) {
     LineCutter cutter;
     cutter.Text = Text;
-    cutter.Cut.Text.reserve(Text.size() + 1); // no line becomes longer but the last one
+    cutter.Cut.Text.reserve(Text.size() + 1); // only a last line without a line feed grows, by that
     while (cutter.Index < Text.size()) {
         TakeNext(cutter);
     }

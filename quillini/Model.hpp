@@ -10,7 +10,8 @@
 #include <string_view>
 #include <vector>
 
-// The operations on a document in steps, for those that look names up in another way than by walking a list.
+// The steps of the public operations. Those that take an EntryPlace begin when a name was looked up: the
+// public operations walk a list for it, the reader has an index (NameIndex).
 
 namespace quillINI {
 

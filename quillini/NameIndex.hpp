@@ -16,12 +16,12 @@ namespace quillINI {
 /// as it is asked, the list may only grow at its end.
 class NameIndex {
 public:
-    /// The first item of a name, or the end of the list: then the next item of the list has to be of that
-    /// name.
+    /// The first item of a name, or the end of the list. At the end the name is noted as that of the item to
+    /// come, so the caller has to append it before anything else is looked up.
     template <class Item>
     typename std::vector<Item>::iterator FindOrAwait(
         std::vector<Item> &List, std::string Item::*Name, std::string_view Wanted) {
-        if (List.empty()) {
+        if (List.empty()) { // a list that gets no second item takes no room here
             return List.end();
         }
         NoteNewItems(List, Name);

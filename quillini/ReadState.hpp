@@ -45,12 +45,10 @@ struct CurrentSection {
 /// The current section, appended to the document if it is absent.
 CurrentSection SectionToFill(ReadState &State);
 
-/// The entry of that key in the section, or the end: then the next entry has to be one of that key.
+/// The entry of that key in the section, or the end: then the caller has to append one of that key.
 EntryPlace FindOrAwaitEntry(const CurrentSection &Current, std::string_view Key);
 
-/// The text of a comment without one leading blank and without the line feed at its end. Rest is what stands
-/// behind the comment character.
-std::string_view CommentText(std::string_view Rest);
+// Blank lines and comments are read in Reader.cpp, the other two kinds in SectionTag.cpp and KeyLine.cpp.
 
 /// Reads the line of a section tag from behind its "[" on; it ends in a line feed.
 void ReadSectionTag(ReadState &State, std::string_view Rest);

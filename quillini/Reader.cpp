@@ -2,6 +2,7 @@
 #include "quillini/LineCutter.hpp"
 #include "quillini/Model.hpp"
 #include "quillini/ReadState.hpp"
+#include "quillini/Text.hpp"
 #include "quillini/quillini.hpp"
 
 #include <algorithm>
@@ -11,6 +12,11 @@
 #include <string>
 #include <string_view>
 #include <utility>
+
+// Reading takes three passes over the whole text: Decoding makes it UTF-8, LineCutter resolves unicode
+// escapes and cuts it into lines, and here each line goes to where its kind is read: SectionTag, or KeyLine,
+// whose value ValueScan takes. NameIndex is there for speed alone: it finds what the functions of
+// quillini.hpp find by walking a list.
 
 namespace quillINI {
 
@@ -51,30 +57,20 @@ void ReadLine(ReadState &State, std::string_view Line) {
 void ReadLines(ReadState &State, const CutText &Cut) {
     std::size_t begin = 0;
     for (const std::size_t end : Cut.LineEnds) {
-        if (!State.Error.empty()) {
-            PrintSyntaxError(State.Error);
-            return;
-        }
         ReadLine(State, std::string_view(Cut.Text).substr(begin, end - begin));
         begin = end;
+        if (!State.Error.empty()) {
+            PrintSyntaxError(State.Error);
+            if (end != Cut.LineEnds.back()) {
+                return;
+            }
+        }
     }
-    if (!State.Error.empty()) {
-        PrintSyntaxError(State.Error);
-    }
-    SectionToFill(State); // a last tag with nothing behind it makes a section, too
+    // NOT-BUGS: A section without a line is forgotten if another one follows it
+    SectionToFill(State);
 }
 
 } // namespace
-
-std::string_view CommentText(std::string_view Rest) {
-    if (Rest.starts_with(' ')) {
-        Rest.remove_prefix(1);
-    }
-    if (Rest.ends_with('\n')) {
-        Rest.remove_suffix(1);
-    }
-    return Rest;
-}
 
 bool ReadIniFile(IniDocument &Document, std::string_view Path) {
     std::optional<std::string> text = ReadDecodedFile(Path);

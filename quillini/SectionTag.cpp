@@ -1,4 +1,5 @@
 #include "quillini/ReadState.hpp"
+#include "quillini/Text.hpp"
 #include "quillini/quillini.hpp"
 
 #include <cstddef>

@@ -2,7 +2,6 @@
 #include "quillini/quillini.hpp"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
@@ -14,29 +13,20 @@
 
 namespace quillINI {
 
-namespace {
-
-/// A length of sequence, for the code points below Limit that no shorter one holds: the fixed bits of its
-/// lead byte, and how many continuation bytes follow.
-struct SequenceLength {
-    std::uint32_t Limit;
-    std::uint32_t Lead;
-    unsigned Continuations;
-};
-
-constexpr auto SequenceLengths = std::to_array<SequenceLength>({
-    {0x80, 0x00, 0},
-    {0x800, 0xC0, 1},
-    {0x10000, 0xE0, 2},
-    {0x110000, 0xF0, 3},
-});
-
-} // namespace
-
 std::string_view TrimBlanks(std::string_view Text) {
     constexpr std::string_view blanks = " \t";
     Text.remove_prefix(std::min(Text.find_first_not_of(blanks), Text.size()));
     return Text.substr(0, Text.find_last_not_of(blanks) + 1);
+}
+
+std::string_view CommentText(std::string_view Rest) {
+    if (Rest.starts_with(' ')) {
+        Rest.remove_prefix(1);
+    }
+    if (Rest.ends_with('\n')) {
+        Rest.remove_suffix(1);
+    }
+    return Rest;
 }
 
 std::int32_t NumberFromText(std::string_view Text) {
@@ -54,12 +44,13 @@ std::int32_t NumberFromText(std::string_view Text) {
 
 std::string EncodeCodePointUtf8(std::uint32_t CodePoint) {
     std::string bytes;
-    const auto length = std::ranges::upper_bound(SequenceLengths, CodePoint, {}, &SequenceLength::Limit);
-    if (CodePoint == 0 || length == SequenceLengths.end()) {
+    const auto form = std::ranges::upper_bound(SequenceForms, CodePoint, {}, &SequenceForm::Limit);
+    if (CodePoint == 0 || form == SequenceForms.end()) {
         return bytes;
     }
-    bytes.push_back(static_cast<char>(length->Lead | CodePoint >> 6 * length->Continuations));
-    for (unsigned left = length->Continuations; left > 0; --left) {
+    const std::size_t continuations = form->Length - 1;
+    bytes.push_back(static_cast<char>(form->Lead | CodePoint >> 6 * continuations));
+    for (std::size_t left = continuations; left > 0; --left) {
         bytes.push_back(static_cast<char>(0x80U | (CodePoint >> 6 * (left - 1) & 0x3FU)));
     }
     return bytes;

@@ -1,6 +1,6 @@
 #include "quillini/ValueScan.hpp"
 
-#include "quillini/ReadState.hpp"
+#include "quillini/Text.hpp"
 
 #include <cstddef>
 #include <string>

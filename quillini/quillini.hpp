@@ -10,10 +10,17 @@
 #include <vector>
 
 /// INI files that keep what a person wrote: the order of sections and entries, comments, blank lines, quotes.
-/// All text in memory is UTF-8, and so are paths. Lookups compare exact bytes and walk the lists from the
-/// front: documents are small. Only ReadIniFile has an index of names while it reads, so that its time grows
-/// with the length of a file alone. References and iterators into a list live until a section or an entry is
-/// added to it.
+///
+/// A line is blank, a comment behind ";" or "#", the tag of a section, "[Name]", or a key, "=" or ":", and a
+/// value. "key[] = v" appends to the array key, "key[3] = v" sets its element 3. A value without quotes holds
+/// no blanks, brackets or comment characters; between "..." or '...' all stands as it is but the quote and
+/// the backslash, which take a backslash before them. A comment may follow a tag or a value. "\x" and four
+/// hexadecimal digits are a UTF-16 unit, wherever they stand.
+///
+/// Text in memory is meant as UTF-8, and so are paths: reading takes other bytes as they are, writing refuses
+/// them (EscapeIniText). Lookups compare exact bytes and walk the lists from the front: documents are small.
+/// Only ReadIniFile has an index of names while it reads, so that its time grows with the length of a file
+/// alone. References and iterators into a list live until a section or an entry is added to it.
 namespace quillINI {
 
 /// The section of everything that stands before the first section tag.
@@ -68,7 +75,8 @@ struct IniDocument {
     /// Nothing but the global section, empty.
     IniDocument();
 
-    /// Only the writer goes by this and the three characters; a reader takes every form.
+    /// Only the writer goes by this and the three characters; a reader takes every line end, ; and #, both
+    /// quotes, = and :.
     std::string LineEnd = "\r\n";
     char CommentChar = ';';
     char StringChar = '"';

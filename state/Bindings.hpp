@@ -39,8 +39,17 @@ enum CaptureKind : std::int32_t {
     CaptureKindJoystick = 3,
 };
 
-/// One value for each row of a table: a scancode (1 to 511), a gamepad button (0 to 25) or a joystick button
-/// (from 0). Any other value is unbound.
+/// The values that an SDL scancode and an SDL gamepad button of a table may have; the buttons begin at 0.
+inline constexpr std::int32_t FirstScancode = 1;
+inline constexpr std::int32_t LastScancode = 511;
+inline constexpr std::int32_t LastGamepadButton = 25;
+
+/// What stands in a row that nothing is bound to.
+inline constexpr std::int32_t UnboundKey = 0;
+inline constexpr std::int32_t UnboundButton = -1;
+
+/// One value for each row of a table: a scancode from FirstScancode to LastScancode, a gamepad button from 0
+/// to LastGamepadButton, or a joystick button from 0. Any other value is unbound.
 using BindingTable = std::array<std::int32_t, 5>;
 
 /// What a row of a table is bound to.
@@ -62,11 +71,6 @@ inline constexpr BindingTable DefaultGamepadBindings{0, 2, 3, 0, 1};
 /// Joystick button indices; fire and confirm share one here too.
 inline constexpr BindingTable DefaultJoystickBindings{0, 1, 2, 0, 3};
 
-/// The values that an SDL scancode and an SDL gamepad button of a table may have; the buttons begin at 0.
-inline constexpr std::int32_t FirstScancode = 1;
-inline constexpr std::int32_t LastScancode = 511;
-inline constexpr std::int32_t LastGamepadButton = 25;
-
 /// Whether a value stands for a key of the keyboard.
 constexpr bool IsScancode(std::int32_t Value) {
     return Value >= FirstScancode && Value <= LastScancode;
@@ -76,7 +80,3 @@ constexpr bool IsScancode(std::int32_t Value) {
 constexpr bool IsGamepadButton(std::int32_t Value) {
     return Value >= 0 && Value <= LastGamepadButton;
 }
-
-/// What stands in a row that nothing is bound to.
-inline constexpr std::int32_t UnboundKey = 0;
-inline constexpr std::int32_t UnboundButton = -1;

@@ -3,6 +3,7 @@
 #include <compare>
 #include <cstdint>
 
+/// Which shapes are offered: all those of ResolutionAllowed from 3:2 to 32:9, or 4:3 alone.
 enum AspectMode : std::int32_t {
     AspectWidescreen = 0,
     AspectClassic4x3 = 1,

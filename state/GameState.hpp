@@ -31,7 +31,7 @@ struct GameState {
     std::int64_t HighScore = 0;
     std::int32_t Stage = 1;                      ///< 1 or more, follows GameTime
     std::int32_t PreviousStage = 1;              ///< the stage before the last change
-    std::int32_t WaterFlowDirection = 1;         ///< -1 or +1
+    std::int32_t WaterFlowDirection = 1;         ///< -1 the water drifts left, +1 right
     std::int32_t PreviousWaterFlowDirection = 1; ///< before the last stage change
     float GameTime = 0.0F;                       ///< time driven in this run
     float RoadScroll = 0.0F;                     ///< distance scrolled; grows without wrapping
@@ -106,9 +106,11 @@ struct GameState {
     bool PendingAudioValid = false; ///< the Audio page is in edit
 
     // Bookkeeping of the options.
-    bool OptionsDirty = false;              ///< the options file is to be written
-    bool ResetFrameClock = false;           ///< the next frame's step is to have length 0
-    std::vector<Resolution> Resolutions;    ///< those of the aspect mode, smallest first
+    bool OptionsDirty = false;    ///< the options file is to be written
+    bool ResetFrameClock = false; ///< the next frame's step is to have length 0
+    /// Those of the aspect mode, smallest first, by RebuildDisplayLists; before that the one of the options
+    /// file or of the desktop, or none.
+    std::vector<Resolution> Resolutions;
     std::vector<std::int32_t> RefreshRates; ///< Hz, ascending from 0, which is automatic
     std::vector<DisplayMode> DisplayModes;  ///< all that the display offers, in SDL's order
 

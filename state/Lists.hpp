@@ -1,11 +1,13 @@
 #pragma once
 
 #include <algorithm>
+#include <ranges>
 #include <vector>
 
 /// Whether an equal entry is in the list.
-template <typename Value> bool Contains(const std::vector<Value> &List, const Value &Entry) {
-    return std::ranges::find(List, Entry) != List.end();
+template <std::ranges::input_range List>
+bool Contains(const List &Entries, const std::ranges::range_value_t<List> &Entry) {
+    return std::ranges::find(Entries, Entry) != std::ranges::end(Entries);
 }
 
 /// Appends what is not there yet.

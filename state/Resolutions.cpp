@@ -48,19 +48,19 @@ static_assert(BuiltInResolutionsWide[DefaultResolutionIndex(AspectWidescreen)] =
 
 std::int32_t LogicalWidthFor(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height) {
     if (AspectMode == AspectClassic4x3) {
-        return 960;
+        return LogicalHeight * 4 / 3;
     }
     if (RatioMatches(Width, Height, 32, 9)) {
-        return 2560;
+        return LogicalHeight * 32 / 9;
     }
     if (IsUltrawide(Width, Height)) {
-        return 1728;
+        return LogicalHeight * 12 / 5; // the widest of its shapes
     }
     if (RatioMatches(Width, Height, 3, 2)) {
-        return 1080;
+        return LogicalHeight * 3 / 2;
     }
     if (RatioMatches(Width, Height, 16, 10)) {
-        return 1152;
+        return LogicalHeight * 16 / 10;
     }
     return DefaultLogicalWidth;
 }

@@ -11,11 +11,11 @@ std::string GetOptionText(const quillINI::IniDocument &Document, std::string_vie
 std::int32_t GetOptionInt(const quillINI::IniDocument &Document, std::string_view Section,
     std::string_view Key, std::int32_t Default) {
     std::int32_t number = Default;
-    ParseInt32(GetOptionText(Document, Section, Key, ""), number);
+    ParseInt32(quillINI::GetIniValue(Document, Section, Key, ""), number);
     return number;
 }
 
 bool GetOptionBool(
     const quillINI::IniDocument &Document, std::string_view Section, std::string_view Key, bool Default) {
-    return ParseBoolWord(GetOptionText(Document, Section, Key, ""), Default);
+    return ParseBoolWord(quillINI::GetIniValue(Document, Section, Key, ""), Default);
 }

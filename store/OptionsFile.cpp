@@ -39,16 +39,12 @@ void ReadBindings(const IniDocument &Document, const BindingSection &Section, Ga
     }
 }
 
-bool IsListed(const GameState &State, const Resolution &Size) {
-    const std::span<const Resolution> list = ResolutionsInForce(State);
-    return std::ranges::find(list, Size) != list.end();
-}
-
 void ReadResolution(const IniDocument &Document, GameState &State) {
     Resolution size = CurrentResolution(State);
     size.Width = GetOptionInt(Document, GraphicsSection, WidthKey, size.Width);
     size.Height = GetOptionInt(Document, GraphicsSection, HeightKey, size.Height);
-    if (ResolutionAllowed(State.AspectMode, size.Width, size.Height) && !IsListed(State, size)) {
+    if (ResolutionAllowed(State.AspectMode, size.Width, size.Height) &&
+        !Contains(ResolutionsInForce(State), size)) {
         State.Resolutions.push_back(size);
     }
     State.ResolutionIndex = FindResolutionIndex(State, size.Width, size.Height, State.ResolutionIndex);
@@ -64,7 +60,8 @@ void ReadSwitches(const IniDocument &Document, const char *Section,
     }
 }
 
-/// Takes a rate that the display offers; where no display has told its modes, any rate.
+/// Takes a rate that the display offers; where no display has told its modes, any rate. 0 and less leave what
+/// RebuildRefreshRates has left.
 void TakeRefreshRate(GameState &State, std::int32_t Rate) {
     const std::int32_t clamped = std::clamp(Rate, 0, MaxRefreshRate);
     RebuildRefreshRates(State);
@@ -76,9 +73,9 @@ void TakeRefreshRate(GameState &State, std::int32_t Rate) {
 void ReadGraphics(const IniDocument &Document, GameState &State) {
     ReadWord(Document, GraphicsSection, AspectModeKey, AspectModeWords, State.AspectMode);
     ReadResolution(Document, State); // after the aspect mode, on which the list depends
-    const std::int32_t rate = GetOptionInt(Document, GraphicsSection, RefreshRateKey, State.RefreshRate);
     ReadSwitches(Document, GraphicsSection, GraphicsSwitches, State);
-    TakeRefreshRate(State, rate); // after the switches, on which the list of rates depends
+    // After the switches, on which the list of rates depends.
+    TakeRefreshRate(State, GetOptionInt(Document, GraphicsSection, RefreshRateKey, State.RefreshRate));
 }
 
 void ReadAudio(const IniDocument &Document, GameState &State) {

@@ -6,12 +6,30 @@
 #include <limits>
 #include <span>
 
-// The names of the options file, and its values that need no rule of their own.
+// Config.ini, in the order in which it is written; every value stands in quotes:
+//
+//   [Options]           ControlsDevice: a word below; Language: a code, as "de"
+//   [ControlsKeyboard]  an SDL scancode for each of KeyboardKeys, 0 is unbound
+//   [ControlsGamepad]   an SDL gamepad button for each of PadKeys, -1 is unbound
+//   [ControlsJoystick]  a button's number for each of PadKeys, -1 is unbound
+//   [Graphics]          ResolutionWidth, ResolutionHeight in the units of SDL's windows; AspectMode: a word
+//                       below; RefreshRate in Hz, 0 is automatic; and switches
+//   [Audio]             volumes in percent, and switches
+//
+// A switch is written as 1 or 0 and read as ParseBoolWord has it.
 
 /// The sections beside those of the bindings.
 inline constexpr const char *OptionsSection = "Options";
 inline constexpr const char *GraphicsSection = "Graphics";
 inline constexpr const char *AudioSection = "Audio";
+
+/// The keys that stand in no table below.
+inline constexpr const char *ControlsDeviceKey = "ControlsDevice";
+inline constexpr const char *LanguageKey = "Language";
+inline constexpr const char *WidthKey = "ResolutionWidth";
+inline constexpr const char *HeightKey = "ResolutionHeight";
+inline constexpr const char *AspectModeKey = "AspectMode";
+inline constexpr const char *RefreshRateKey = "RefreshRate";
 
 /// A word for each value of an enumeration, from 0 on.
 inline constexpr std::array ControlsDeviceWords{"keyboard", "gamepad", "joystick"};
@@ -62,10 +80,3 @@ inline constexpr auto Volumes = std::to_array<VolumeOption>({
     {"MusicVolume", &GameState::MusicVolume},
     {"SfxVolume", &GameState::SfxVolume},
 });
-
-inline constexpr const char *ControlsDeviceKey = "ControlsDevice";
-inline constexpr const char *LanguageKey = "Language";
-inline constexpr const char *WidthKey = "ResolutionWidth";
-inline constexpr const char *HeightKey = "ResolutionHeight";
-inline constexpr const char *AspectModeKey = "AspectMode";
-inline constexpr const char *RefreshRateKey = "RefreshRate";

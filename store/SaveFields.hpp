@@ -10,9 +10,18 @@
 #include <string_view>
 #include <variant>
 
-// What the save state holds, in the order of the file. Writing and reading go by the same tables, so that
-// they agree. Floats are Double tokens, whole numbers Int32, the score Int64.
+// The save state is one object of a value stream (store/ValueStream.hpp):
+//
+//   FormatVersion, HighScore, HasRunState,
+//   RunState: an object, empty without a run, of
+//       RunFields, Player: an object of PlayerFields,
+//       and the lists of VisitSaveLists: each an array of objects of the list's fields
+//
+// Writing keeps this order, reading takes any. Both go by the same tables, so that they agree. Floats are
+// Double tokens, switches Bool, the run's score and the high score Int64, other whole numbers Int32; a colour
+// is an object of ColorChannels, each an Int32.
 
+inline constexpr std::string_view FormatVersionKey = "FormatVersion";
 inline constexpr std::string_view HighScoreKey = "HighScore";
 inline constexpr std::string_view HasRunStateKey = "HasRunState";
 inline constexpr std::string_view RunStateKey = "RunState";
@@ -130,25 +139,26 @@ inline constexpr auto ExplosionFields = std::to_array<SaveField<Explosion>>({
     {"Color", &Explosion::Color},
 });
 
-// What a list's entry has where its keys are missing.
+// What a list's entry has where its keys are missing; enemies, obstacles and items have it as their initial
+// values.
 
-inline constexpr Bullet SavedBullet{.Radius = 2.0F};
-inline constexpr EnemyBullet SavedEnemyBullet{.Speed = 190.0F, .Radius = 2.0F, .Damage = 12};
-inline constexpr Enemy SavedEnemy{};
-inline constexpr Obstacle SavedObstacle{};
-inline constexpr Item SavedItem{};
-inline constexpr Explosion SavedExplosion{
+inline constexpr Bullet DefaultBullet{.Radius = 2.0F};
+inline constexpr EnemyBullet DefaultEnemyBullet{.Speed = 190.0F, .Radius = 2.0F, .Damage = 12};
+inline constexpr Enemy DefaultEnemy{};
+inline constexpr Obstacle DefaultObstacle{};
+inline constexpr Item DefaultItem{};
+inline constexpr Explosion DefaultExplosion{
     .Life = 0.5F, .MaxRadius = 20.0F, .Color = {0xFF, 0xDC, 0x64, 0xDC}};
 
 /// Calls Visit(key, pointer to the state's list, fields of an entry, default entry) for each list, in the
 /// file's order.
 template <typename Visitor> void VisitSaveLists(Visitor Visit) {
-    Visit("Bullets", &GameState::Bullets, BulletFields, SavedBullet);
-    Visit("EnemyBullets", &GameState::EnemyBullets, EnemyBulletFields, SavedEnemyBullet);
-    Visit("Enemies", &GameState::Enemies, EnemyFields, SavedEnemy);
-    Visit("Obstacles", &GameState::Obstacles, ObstacleFields, SavedObstacle);
-    Visit("Items", &GameState::Items, ItemFields, SavedItem);
-    Visit("Explosions", &GameState::Explosions, ExplosionFields, SavedExplosion);
+    Visit("Bullets", &GameState::Bullets, BulletFields, DefaultBullet);
+    Visit("EnemyBullets", &GameState::EnemyBullets, EnemyBulletFields, DefaultEnemyBullet);
+    Visit("Enemies", &GameState::Enemies, EnemyFields, DefaultEnemy);
+    Visit("Obstacles", &GameState::Obstacles, ObstacleFields, DefaultObstacle);
+    Visit("Items", &GameState::Items, ItemFields, DefaultItem);
+    Visit("Explosions", &GameState::Explosions, ExplosionFields, DefaultExplosion);
 }
 
 struct ColorChannel {

@@ -15,7 +15,8 @@ template <typename Step> bool UseStagingFile(const char *StagingName, Step Use) 
         return false;
     }
     const bool done = Use(staging);
-    std::remove(staging.c_str()); // in UTF-8, which on Windows has to be the program's code page
+    // In UTF-8, which on Windows packaging/windows/kestrel-volley.manifest makes the C library's code page.
+    std::remove(staging.c_str());
     return done;
 }
 

@@ -4,10 +4,13 @@
 
 #include <string>
 
-// Storage files as plain ones: our readers and writers know only plain files, so a staging file stands
-// between. Storage is opened anew for each operation. All give false if any step fails, and log nothing; the
-// callers have their own words. StagingPath is the path of a plain file, in UTF-8. What is no regular file is
-// not opened, on neither side.
+// SDL has two storages: the user's, which on a desktop is the preferences folder of Paths.hpp, and title
+// storage, what ships with the game. They hand out whole files as bytes, but our readers and writers know
+// only plain files. So a file is copied to or from a staging file, a plain one in the preferences folder.
+//
+// Storage is opened anew for each operation. All give false if any step fails, and log nothing; the callers
+// have their own words. StagingPath is the path of the staging file, in UTF-8. What is no regular file is not
+// opened, on neither side.
 
 /// Waits until a storage can be used, at most 2 seconds; then false, with the reason as SDL's error.
 bool WaitForStorage(SDL_Storage *Storage);

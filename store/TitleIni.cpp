@@ -23,6 +23,8 @@ bool ReadTitleIni(const std::string &Path, quillINI::IniDocument &Document) {
     if (ReadFromTitleStorage(Path, Document)) {
         return true;
     }
+    // Title storage may lack what lies beside the program, and without the player's folder there is no
+    // staging file to read it through.
     const std::string plain = BaseFilePath(Path);
     return !plain.empty() && quillINI::ReadIniFile(Document, plain);
 }

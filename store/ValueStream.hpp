@@ -37,6 +37,7 @@ enum class ValueTag : std::uint8_t {
 };
 
 /// Writes a stream to a file. It checks nothing and does not know how deep it is: the caller balances End.
+/// Nothing reaches the file before Close; without it the file stays empty.
 class ValueStreamWriter {
 public:
     /// Opens a regular file in place of what was there. False after a line on standard error.
@@ -51,7 +52,8 @@ public:
     void WriteInt64(std::int64_t Value);
     void WriteDouble(double Value);
 
-    /// Closes the open file. False, after the line of Open, unless every byte has reached it.
+    /// Closes the open file, so only after an Open that gave true. False, after the line of Open, unless
+    /// every byte has reached it.
     bool Close();
 
 private:
@@ -61,7 +63,7 @@ private:
 
     PlainFile File;
     std::string Path;
-    std::string Bytes; ///< what was written since Open; the file takes it in one piece, when it is closed
+    std::string Bytes; ///< what was written since Open
 };
 
 struct ValueToken {
@@ -78,14 +80,16 @@ struct ValueToken {
 class ValueStreamReader {
 public:
     /// Reads the whole file. False after a line on standard error if it cannot be opened or is no regular
-    /// one.
+    /// one. What lies behind a read error or 4 gigabytes is missing without a word, like the end of a file
+    /// that was cut.
     bool Load(const std::string &Path);
 
     /// The next token and its value; tag None at the end of the data and for damage.
     ValueToken NextToken();
 
     /// Walks an array or object, whose opening token is Container; false at its end. What the caller has left
-    /// unread of the entry before is passed over; a Value that opens one can be walked in its turn.
+    /// unread of the entry before is passed over; a Value that opens one can be walked in its turn. A key
+    /// right before its object's End is handed out with a Value of tag End, and the walk goes on behind it.
     bool NextArrayEntry(const ValueToken &Container, ValueToken &Value);
     bool NextObjectEntry(const ValueToken &Container, ValueToken &Key, ValueToken &Value);
 
@@ -115,7 +119,7 @@ bool TokenToInt32(const ValueToken &Token, std::int32_t &Out);
 /// A Bool, or a number that TokenToInt32 takes, as not equal to 0.
 bool TokenToBool(const ValueToken &Token, bool &Out);
 
-/// Whole numbers; neither a Double nor a Bool.
+/// Whole numbers, a UInt64 beyond INT64_MAX as a negative one; neither a Double nor a Bool.
 bool TokenToInt64(const ValueToken &Token, std::int64_t &Out);
 
 /// A Double narrowed, an infinity beyond FLT_MAX, or a number that TokenToInt32 takes.

@@ -69,7 +69,7 @@ void WriteLists(ValueStreamWriter &Writer, const GameState &State) {
 
 void WriteRoot(ValueStreamWriter &Writer, const GameState &State) {
     Writer.BeginObject();
-    Writer.WriteKey("FormatVersion");
+    Writer.WriteKey(FormatVersionKey);
     Writer.WriteInt32(FormatVersion);
     Writer.WriteKey(HighScoreKey);
     Writer.WriteInt64(std::max<std::int64_t>(State.HighScore, 0));

@@ -106,6 +106,7 @@ enum class TextKey : std::uint8_t {
     PauseHintPrimary,
     GameOverTitle,
     GameOverHintBackToMainMenu,
+    TextKeyCount, ///< no text: how many there are
 };
 
 struct TextRow {
@@ -233,4 +234,5 @@ static_assert(std::ranges::all_of(TextTable,
                       return &RowOf(Row.Id) == &Row;
                   }),
     "the rows are not in the order of the enumeration");
-static_assert(TextTable.back().Id == TextKey::GameOverHintBackToMainMenu, "a row is missing");
+static_assert(
+    TextTable.size() == static_cast<std::size_t>(TextKey::TextKeyCount), "a row is missing or too many");
