@@ -108,7 +108,7 @@ film:
 	cmake --preset play -DKESTREL_BUILD_TOOLS=ON
 	cmake --build --preset play --target kestrel-volley film
 	build/play/tools/tour/film build/play/kestrel-volley build/film
-	img2webp -loop 0 -d 80 -lossy -q 70 build/film/*.png -o docs/pictures/play.webp
+	img2webp -loop 0 -d 80 -lossy -q 55 build/film/*.png -o docs/pictures/play.webp
 
 package:
 	@scripts/setup package

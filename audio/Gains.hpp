@@ -15,7 +15,8 @@ std::int32_t EffectiveSfxGain(const GameState &State);
 /// A percentage as a track's gain, 0 to 1; one outside of 0 to 100 counts as the nearest in it.
 float TrackGain(std::int32_t Percent);
 
-/// Sets *Player.GainPercent on the player's track. False as MIX_SetTrackGain says; true if there is no track.
+/// Sets *Player.GainPercent on the player's track. False as MIX_SetTrackGain says; true if there is no track,
+/// and only then GainPercent may be null.
 bool ApplyMusicGain(const MusicPlayer &Player);
 
 /// Sets a gain of 0 to 1 on every voice; a refusal of the mixer is logged.

@@ -26,7 +26,8 @@ inline constexpr std::int32_t UnknownLoopMs = std::numeric_limits<std::int32_t>:
 /// No track position has been seen yet.
 inline constexpr std::int64_t NoPosition = -1;
 
-/// What plays on the music track, and what is to play next.
+/// What plays on the music track, and what is to play next. It refers to the runtime's track and gain, so
+/// that who plays a pattern needs no more than this.
 struct MusicPlayer {
     std::int32_t LoopBoundaryMs = 0;                ///< length of the playing pattern, or UnknownLoopMs
     std::int64_t LastPosition = NoPosition;         ///< in sample frames, as the last update saw it
@@ -38,8 +39,8 @@ struct MusicPlayer {
     const std::int32_t *GainPercent = nullptr;      ///< the runtime's MusicGainPercent; null until the start
 };
 
-/// Every object of the mixer, owned by the main program as a single instance and used on the main thread
-/// alone. It stays where it was made, for its player points into it.
+/// Every object of the mixer, for the sounds as well as the music, owned by the main program as a single
+/// instance and used on the main thread alone. It stays where it was made, for its player points into it.
 struct MusicRuntime {
     MusicRuntime() = default;
     MusicRuntime(const MusicRuntime &) = delete;
@@ -48,15 +49,14 @@ struct MusicRuntime {
     MIX_Mixer *Mixer = nullptr;
     MIX_Track *MusicTrack = nullptr;              ///< destroyed with the mixer
     std::array<MIX_Audio *, SfxCount> SfxAudio{}; ///< by SfxIndex; null for a sound that could not be made
-    std::vector<MIX_Track *> SfxTracks;           ///< the voices; a null one is passed over
+    std::vector<MIX_Track *> SfxTracks;           ///< the voices; the game makes no null one
     std::size_t NextSfxTrack = 0;                 ///< round-robin cursor into the voices
     MusicPlayer Player;
     std::int32_t MusicGainPercent = 0; ///< the last effective gains, 0 to 100
     std::int32_t SfxGainPercent = 0;
     std::int32_t FadeInMs = 350;   ///< of the first menu music
     std::int32_t FadeOutMs = 1500; ///< at shutdown
-    // What the game plays when: names of patterns, none of them empty once patterns are loaded. The transport
-    // takes an empty one for a role without music of its own.
+    // What the game plays when: names of patterns, none of them empty once patterns are loaded.
     std::string MenuPattern = "MENU";
     std::string GameplayPattern = "GAMEPLAY";
     std::string WaterPattern = "WATER";

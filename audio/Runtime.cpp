@@ -54,9 +54,7 @@ void CreateSfx(const GameState &State, MusicRuntime &Runtime) {
     // What an earlier start on the same record may have left must not leak.
     DestroySfxTracks(Runtime);
     DestroySfxAudio(Runtime);
-    for (const SfxRecipe &recipe : SfxRecipes) {
-        Runtime.SfxAudio[SfxIndex(recipe.Id)] = SynthesiseSfx(Runtime.Mixer, recipe);
-    }
+    CreateSfxAudio(Runtime);
     CreateSfxTracks(Runtime);
     Runtime.SfxGainPercent = EffectiveSfxGain(State);
     ApplySfxGain(Runtime, TrackGain(Runtime.SfxGainPercent));
@@ -115,7 +113,8 @@ bool InitMusicRuntime(const GameState &State, MusicRuntime &Runtime) {
 }
 
 void ShutdownMusicRuntime(MusicRuntime &Runtime, bool FadeOut) {
-    // MIX_Quit is due once for each MIX_Init that worked; a record that holds nothing owes none.
+    // MIX_Quit is due once for each MIX_Init that worked; a record that holds nothing owes none. After
+    // InitMusicRuntime the mixer alone would tell.
     const bool quitsMixer = Runtime.Initialised || Runtime.Mixer != nullptr || Runtime.MusicTrack != nullptr;
     if (FadeOut) {
         FadeMusicOut(Runtime);

@@ -16,7 +16,7 @@ struct SfxRecipe {
     std::int64_t Duration;  ///< milliseconds
 };
 
-inline constexpr std::size_t SfxCount = 11;
+inline constexpr std::size_t SfxCount = static_cast<std::size_t>(SfxId::Item) + 1;
 
 /// In the order of the ids.
 inline constexpr std::array<SfxRecipe, SfxCount> SfxRecipes{{

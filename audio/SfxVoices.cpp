@@ -17,6 +17,7 @@ bool IsFree(MIX_Track *Track) {
 }
 
 /// The next free voice from the cursor on, or the one at the cursor if none is; the pool is not empty.
+/// NOT-BUGS: A thirteenth sound cuts off the voice whose turn it is
 MIX_Track *TakeVoice(MusicRuntime &Runtime) {
     const std::vector<MIX_Track *> &voices = Runtime.SfxTracks;
     const std::size_t start = Runtime.NextSfxTrack % voices.size();
@@ -78,13 +79,6 @@ void DestroySfxTracks(MusicRuntime &Runtime) {
     }
     Runtime.SfxTracks.clear();
     Runtime.NextSfxTrack = 0;
-}
-
-void DestroySfxAudio(MusicRuntime &Runtime) {
-    for (MIX_Audio *&audio : Runtime.SfxAudio) {
-        MIX_DestroyAudio(audio);
-        audio = nullptr;
-    }
 }
 
 void PlayQueuedSfx(GameState &State, MusicRuntime &Runtime) {

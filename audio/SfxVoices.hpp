@@ -10,9 +10,6 @@ void CreateSfxTracks(MusicRuntime &Runtime);
 /// Destroys the voices and empties the pool.
 void DestroySfxTracks(MusicRuntime &Runtime);
 
-/// Destroys the sounds; their entries become null.
-void DestroySfxAudio(MusicRuntime &Runtime);
-
 /// Plays the sounds of State.PendingSounds, each on a voice of its own, and empties that queue even where
 /// nothing can play. With every voice busy the one whose turn it is, round and round, is cut off. A sound
 /// that the mixer refuses is logged and lost.

@@ -68,3 +68,16 @@ MIX_Audio *SynthesiseSfx(MIX_Mixer *Mixer, const SfxRecipe &Recipe) {
     }
     return audio;
 }
+
+void CreateSfxAudio(MusicRuntime &Runtime) {
+    for (const SfxRecipe &recipe : SfxRecipes) {
+        Runtime.SfxAudio[SfxIndex(recipe.Id)] = SynthesiseSfx(Runtime.Mixer, recipe);
+    }
+}
+
+void DestroySfxAudio(MusicRuntime &Runtime) {
+    for (MIX_Audio *&audio : Runtime.SfxAudio) {
+        MIX_DestroyAudio(audio);
+        audio = nullptr;
+    }
+}

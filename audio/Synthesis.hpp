@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/MusicRuntime.hpp"
 #include "audio/SfxRecipes.hpp"
 
 #include <SDL3_mixer/SDL_mixer.h>
@@ -14,3 +15,9 @@ std::vector<float> SfxSamples(const SfxRecipe &Recipe, int Rate, int Channels);
 /// Makes a sound at the mixer's own rate; where that cannot be, the mixer's own sine without rise and fall.
 /// The caller owns it and destroys it before the mixer. Null after a log line if neither works.
 MIX_Audio *SynthesiseSfx(MIX_Mixer *Mixer, const SfxRecipe &Recipe);
+
+/// Makes all sounds on the runtime's mixer. The entries that it fills are null before.
+void CreateSfxAudio(MusicRuntime &Runtime);
+
+/// Destroys the sounds; their entries become null.
+void DestroySfxAudio(MusicRuntime &Runtime);

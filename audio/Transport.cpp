@@ -28,6 +28,7 @@ void UpdateGains(const GameState &State, MusicRuntime &Runtime) {
     }
 }
 
+/// A role without a name has no music of its own; LoadMusicPatterns leaves none such.
 const std::string &PatternOfRun(const GameState &State, const MusicRuntime &Runtime) {
     if (State.InvincibilityPowerTimer > 0.0F && !Runtime.InvincibilityPattern.empty()) {
         return Runtime.InvincibilityPattern;
@@ -110,8 +111,10 @@ void FollowWanted(MusicRuntime &Runtime, std::string_view Wanted, Screen Previou
     }
 }
 
-/// Whether the playing pattern has come to the end of its loop. Position is in sample frames, negative if
-/// there is none.
+/// Whether the playing pattern has come to the end of its loop: its position has fallen back. Since it loops
+/// without end, the mixer reports no loops only for a track that has stopped, as after an error in its file;
+/// that is at its end by its length or, without a position, if it does not play. Position is in sample
+/// frames, negative if there is none.
 bool IsAtLoopBoundary(const MusicPlayer &Player, std::int64_t Position) {
     const bool loops = MIX_GetTrackLoops(Player.Track) != 0;
     if (Position >= 0) {

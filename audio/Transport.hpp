@@ -14,8 +14,9 @@ struct GameState;
 /// failure is logged and tried again. Does nothing before InitMusicRuntime.
 void UpdateMusicRuntime(const GameState &State, MusicRuntime &Runtime);
 
-/// Starts a pattern as an endless loop that rises from silence in FadeInMs; 0 starts it at its gain. False
-/// without a pattern or a track, and if the mixer refuses; then Player stays as it was, its track may not.
+/// Starts a pattern as an endless loop that rises from silence in FadeInMs; 0 starts it at its gain, as the
+/// game always does: the menu's rise at the start of the program is StartupFade's. False without a pattern or
+/// a track, and if the mixer refuses; then Player stays as it was, its track may not.
 bool PlayMusicPattern(MusicPlayer &Player, const MusicPattern *Pattern, std::int32_t FadeInMs);
 
 /// Asks UpdateMusicRuntime for a pattern at the next opportunity. Throws std::runtime_error, whose message is

@@ -49,7 +49,6 @@ GameState RoadOfStage30() {
     state.Rng.seed(1);
     StartNewRun(state);
     StartStage(state, 30);
-    state.GameTime = 29.0F * StageSeconds;
     for (int i = 0; i < 30 * 60; ++i) {
         state.InvincibilityPowerTimer = 6.0F;
         state.GameTime = 29.0F * StageSeconds;

@@ -12,5 +12,7 @@ struct Measurement {
     double UpperQuartile = 0.0;
 };
 
-/// All that was measured, by its name.
+/// All that was measured, by its name: "Draw/Hud/Software", "FirstStart/OpenGl/Bare", "StepOnFullRoad". A
+/// part of it is the name of a DrawingWay where there is one for each way: what has "/OpenGl" in it is left
+/// out of the table where there is no OpenGL.
 using Measurements = std::map<std::string, Measurement>;

@@ -106,15 +106,6 @@ void MeasureInTurn(const std::string &Name, StartSeries &Game, StartSeries &Bare
 
 } // namespace
 
-void RunOnce(const std::filesystem::path &Program, const PreparedHome &Home, const DrawingWay &Way) {
-    GameSession session(Program, {}, Way.Settings, &Home, Desk::Managed);
-    const bool isShown = session.WaitForWindow() && session.WaitForPicture(ShowsAnything);
-    if (!isShown || session.Close() != 0) {
-        throw std::runtime_error(
-            Program.string() + " did not start and end. It says:\n" + session.Program().Output());
-    }
-}
-
 void MeasureStarts(const DrawingWay &Way, int Count, Measurements &Results) {
     std::printf("Starting the game and the bare program %d times each (%s) ...\n", 2 * Count, Way.Name);
     const WatchedDisplay desk;

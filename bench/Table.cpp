@@ -15,7 +15,7 @@ std::string Fixed(double Number, int Digits) {
     return text.data();
 }
 
-/// Three digits that count, and no more.
+/// With two digits behind the point below 10, one below 100, none above.
 std::string Rounded(double Number) {
     return Fixed(Number, Number < 10.0 ? 2 : Number < 100.0 ? 1 : 0);
 }
@@ -64,6 +64,10 @@ std::string ResultText(const Row &Told, double Result) {
     }
 }
 
+bool HasTarget(Judgement By) {
+    return By != Judgement::Told && By != Judgement::Part;
+}
+
 /// A row's target in the words of its result; empty if it has none.
 std::string TargetText(const Row &Told) {
     switch (Told.By) {
@@ -101,7 +105,7 @@ Table TableOf(const Measurements &Results, TableWish Wish) {
         if (IsLeftOut(row, result.has_value(), Wish)) {
             continue;
         }
-        const bool isKept = result && (TargetText(row).empty() || *result <= row.Most);
+        const bool isKept = result && (!HasTarget(row.By) || *result <= row.Most);
         table.Text += RowText(row, Results, result, isKept);
         table.IsKept = table.IsKept && isKept;
     }

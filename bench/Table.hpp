@@ -6,9 +6,10 @@
 
 /// What is expected of a table.
 struct TableWish {
-    bool IsWhole =
-        true; ///< a row whose measurement is missing has missed its target; otherwise it is left out
-    bool HasOpenGl = true; ///< without it the rows of OpenGL are left out
+    /// A row whose measurement is missing has missed its target; otherwise it is left out.
+    bool IsWhole = true;
+    /// Without it the rows of OpenGL are left out.
+    bool HasOpenGl = true;
 };
 
 /// A table in Markdown, and whether all its targets were kept.
@@ -17,4 +18,5 @@ struct Table {
     bool IsKept = true;
 };
 
+/// The rows of Targets.hpp, judged by what was measured.
 Table TableOf(const Measurements &Results, TableWish Wish);

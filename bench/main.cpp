@@ -52,6 +52,7 @@ public:
     }
 
 private:
+    /// A counter counts as a time in the same unit: those of SaveBusyRunInParts are what the table tells.
     void Remember(const Run &Done) {
         std::string name = Done.run_name.function_name;
         if (!Done.run_name.args.empty()) {
@@ -73,7 +74,8 @@ bool AreAllWanted() {
     return filter.empty() || filter == "all" || filter == ".";
 }
 
-/// Reads the number behind a name such as "--starts=". False if the argument has another name, or no number.
+/// Reads the number behind a name such as "--starts=". False if the argument has another name, or no number
+/// above 0.
 bool ReadNumber(std::string_view Argument, std::string_view Name, int &Out) {
     if (!Argument.starts_with(Name)) {
         return false;
@@ -138,6 +140,8 @@ bool MeasureAll(const Wishes &Wanted) {
         MeasurePrograms(Wanted, OpenGl(), results);
     }
     const bool isWhole = Wanted.Parts.empty();
+    // Only the whole table must know: of a part the rows that were not measured are left out anyway, and the
+    // calls are drawn by OpenGL without asking.
     const Table table = TableOf(results, {isWhole, hasOpenGl || !isWhole});
     std::printf("\n%s", table.Text.c_str());
     if (!Wanted.Page.empty()) {

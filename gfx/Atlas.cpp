@@ -4,11 +4,10 @@
 #include "gfx/Draw.hpp"
 #include "gfx/SpriteMaps.hpp"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <memory>
-#include <string_view>
 
 TextureAtlas SpriteAtlas;
 
@@ -28,31 +27,27 @@ struct GutterPart {
 };
 
 constexpr auto Gutter = std::to_array<GutterPart>({
-    {{0, -1, 16, 1}, {0.0F, -1.0F}},
-    {{0, 16, 16, 1}, {0.0F, 1.0F}},
-    {{-1, 0, 1, 16}, {-1.0F, 0.0F}},
-    {{16, 0, 1, 16}, {1.0F, 0.0F}},
+    {{0, -1, SpriteSize, 1}, {0.0F, -1.0F}},
+    {{0, SpriteSize, SpriteSize, 1}, {0.0F, 1.0F}},
+    {{-1, 0, 1, SpriteSize}, {-1.0F, 0.0F}},
+    {{SpriteSize, 0, 1, SpriteSize}, {1.0F, 0.0F}},
     {{-1, -1, 1, 1}, {-1.0F, -1.0F}},
-    {{16, -1, 1, 1}, {1.0F, -1.0F}},
-    {{-1, 16, 1, 1}, {-1.0F, 1.0F}},
-    {{16, 16, 1, 1}, {1.0F, 1.0F}},
+    {{SpriteSize, -1, 1, 1}, {1.0F, -1.0F}},
+    {{-1, SpriteSize, 1, 1}, {-1.0F, 1.0F}},
+    {{SpriteSize, SpriteSize, 1, 1}, {1.0F, 1.0F}},
 });
 
 /// Paints a sprite with its cell's corner at (X, Y), but for the runs that lie wholly outside of Visible:
 /// most of a sprite when only its edge is wanted.
 void PaintRuns(SDL_Renderer *Renderer, const SpriteMap &Map, float X, float Y, const SDL_FRect &Visible) {
     for (std::size_t y = 0; y < Map.Rows.size(); ++y) {
-        const std::string_view row = Map.Rows[y];
-        std::size_t start = 0;
-        while (start < row.size()) {
-            const std::size_t end = std::min(row.find_first_not_of(row[start], start), row.size());
-            const SDL_FRect run{X + static_cast<float>(start), Y + static_cast<float>(y),
-                static_cast<float>(end - start), 1.0F};
-            if (row[start] != TransparentSymbol && SDL_HasRectIntersectionFloat(&run, &Visible)) {
-                FillRect(Renderer, run.x, run.y, run.w, run.h, SymbolColor(Map, row[start]));
+        ForEachRun(Map.Rows[y], [&](std::size_t Start, std::size_t Length, char Symbol) {
+            const SDL_FRect run{
+                X + static_cast<float>(Start), Y + static_cast<float>(y), static_cast<float>(Length), 1.0F};
+            if (SDL_HasRectIntersectionFloat(&run, &Visible)) {
+                FillRect(Renderer, run.x, run.y, run.w, run.h, SymbolColor(Map, Symbol));
             }
-            start = end;
-        }
+        });
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "gfx/Atlas.hpp"
 #include "gfx/Clip.hpp"
+#include "gfx/PackedColor.hpp"
 #include "gfx/SpriteMaps.hpp"
 #include "state/LogicalScreen.hpp"
 #include "state/Numbers.hpp"
@@ -16,10 +17,6 @@ namespace {
 constexpr float LargestSprite = 1024.0F;
 constexpr float LargestRadius = 1e6F;
 constexpr float FarthestY = 1e6F;
-
-std::uint8_t ByteOf(std::uint32_t PackedColor, unsigned Shift) {
-    return static_cast<std::uint8_t>(PackedColor >> Shift & 0xFFU);
-}
 
 const SDL_FRect &SourceOf(SpriteId Id) {
     return SpriteAtlas.Source[static_cast<std::size_t>(Id)];
@@ -74,8 +71,8 @@ void LayTiles(
 } // namespace
 
 void SetDrawColor(SDL_Renderer *Renderer, std::uint32_t PackedColor) {
-    SDL_SetRenderDrawColor(Renderer, ByteOf(PackedColor, 0), ByteOf(PackedColor, 8), ByteOf(PackedColor, 16),
-        ByteOf(PackedColor, 24));
+    const Color color = Unpacked(PackedColor);
+    SDL_SetRenderDrawColor(Renderer, color.R, color.G, color.B, color.A);
 }
 
 void FillRect(SDL_Renderer *Renderer, float X, float Y, float W, float H, std::uint32_t PackedColor) {
@@ -132,7 +129,7 @@ void DrawSpriteTinted(SDL_Renderer *Renderer, SpriteId Id, float CenterX, float 
     const SDL_FRect target = SpriteRect(Renderer, CenterX, CenterY, Width, Height);
     // NOT-BUGS: Every tint is the same red
     SDL_SetTextureColorMod(SpriteAtlas.Texture, 255, 60, 60);
-    SDL_SetTextureAlphaMod(SpriteAtlas.Texture, ByteOf(PackedTint, 24));
+    SDL_SetTextureAlphaMod(SpriteAtlas.Texture, Unpacked(PackedTint).A);
     SDL_RenderTexture(Renderer, SpriteAtlas.Texture, &SourceOf(Id), &target);
     SDL_SetTextureColorMod(SpriteAtlas.Texture, 255, 255, 255);
     SDL_SetTextureAlphaMod(SpriteAtlas.Texture, 255);

@@ -35,7 +35,8 @@ void DrawSprite(SDL_Renderer *Renderer, SpriteId Id, float CenterX, float Center
 void DrawSpriteTinted(SDL_Renderer *Renderer, SpriteId Id, float CenterX, float CenterY, float Width,
     float Height, std::uint32_t PackedTint);
 
-/// Covers a rectangle with copies of a sprite, each Scale times its pixels, from the rectangle's corner on
-/// and shifted by an offset of any size. Draws nothing unless W, H and Scale are above 0.
+/// Covers a rectangle, widened to whole pixels, with copies of a sprite from its corner on: each is Scale
+/// times the sprite's pixels, rounded, and shifted by an offset of any size, rounded down. Draws nothing
+/// unless W, H and Scale are above 0.
 void DrawTiledSprite(SDL_Renderer *Renderer, SpriteId Id, float X, float Y, float W, float H, float OffsetX,
     float OffsetY, float Scale);

@@ -1,6 +1,7 @@
 #include "gfx/Entities.hpp"
 
 #include "gfx/Draw.hpp"
+#include "gfx/PackedColor.hpp"
 #include "state/GameState.hpp"
 #include "state/Numbers.hpp"
 
@@ -102,11 +103,9 @@ void DrawEnemies(SDL_Renderer *Renderer, const GameState &State) {
 void DrawExplosion(SDL_Renderer *Renderer, const Explosion &Disc) {
     // Only a damaged file holds a life of 0; such an explosion is drawn as at its first moment.
     const float t = Disc.Life == 0.0F ? 0.0F : std::clamp(Disc.Age / Disc.Life, 0.0F, 1.0F);
-    const auto alpha =
-        static_cast<std::uint32_t>(TruncateToInt(static_cast<float>(Disc.Color.A) * (1.0F - t)));
-    const std::uint32_t color = alpha << 24U | std::uint32_t{Disc.Color.B} << 16U |
-                                std::uint32_t{Disc.Color.G} << 8U | std::uint32_t{Disc.Color.R};
-    FillDisc(Renderer, RoundToWhole(Disc.X), RoundToWhole(Disc.Y), Disc.MaxRadius * t, color);
+    Color color = Disc.Color;
+    color.A = static_cast<std::uint8_t>(TruncateToInt(static_cast<float>(color.A) * (1.0F - t)));
+    FillDisc(Renderer, RoundToWhole(Disc.X), RoundToWhole(Disc.Y), Disc.MaxRadius * t, Packed(color));
 }
 
 void DrawExplosions(SDL_Renderer *Renderer, const GameState &State) {
@@ -140,15 +139,6 @@ void DrawPlayer(SDL_Renderer *Renderer, const GameState &State) {
 
 } // namespace
 
-void DrawBullet(SDL_Renderer *Renderer, float X, float Y, int SnapStep, bool FliesUp,
-    std::uint32_t OuterColor, std::uint32_t InnerColor) {
-    const auto s = static_cast<float>(std::max(SnapStep, 1));
-    const float left = SnapToStep(X, SnapStep) - s;
-    const float top = SnapToStep(Y, SnapStep) - (FliesUp ? 5.0F * s : s);
-    FillRect(Renderer, left, top, 3.0F * s, 6.0F * s, OuterColor);
-    FillRect(Renderer, left + s, top + s, s, 4.0F * s, InnerColor);
-}
-
 void DrawEntities(SDL_Renderer *Renderer, const GameState &State) {
     DrawItems(Renderer, State);
     DrawObstacles(Renderer, State);
@@ -156,4 +146,13 @@ void DrawEntities(SDL_Renderer *Renderer, const GameState &State) {
     DrawEnemies(Renderer, State);
     DrawExplosions(Renderer, State);
     DrawPlayer(Renderer, State);
+}
+
+void DrawBullet(SDL_Renderer *Renderer, float X, float Y, int SnapStep, bool FliesUp,
+    std::uint32_t OuterColor, std::uint32_t InnerColor) {
+    const auto s = static_cast<float>(std::max(SnapStep, 1));
+    const float left = SnapToStep(X, SnapStep) - s;
+    const float top = SnapToStep(Y, SnapStep) - (FliesUp ? 5.0F * s : s);
+    FillRect(Renderer, left, top, 3.0F * s, 6.0F * s, OuterColor);
+    FillRect(Renderer, left + s, top + s, s, 4.0F * s, InnerColor);
 }

@@ -36,7 +36,7 @@ constexpr float RowsDrop = 250.0F;
 constexpr float RowHeight = 32.0F;
 
 constexpr std::string_view Footer = "\u00A9 2026 Orrin";
-constexpr float FooterDrop = 280.0F; ///< and the height of the list besides
+constexpr float FooterDrop = 280.0F; ///< the height of the list not counted
 constexpr std::uint32_t FooterColor = 0xFF8C8C8C;
 
 /// In the order of MainMenuRow.

@@ -26,6 +26,7 @@ constexpr std::array SectionNames{
     TextKey::OptionsSectionGraphics,
     TextKey::OptionsSectionAudio,
 };
+static_assert(SectionNames.size() == static_cast<std::size_t>(OptionsPageAudio) + 1);
 
 /// In the order of OptionsMainRow.
 constexpr std::array MainRowLabels{

@@ -29,13 +29,6 @@ Columns PlaceColumns(std::span<const OptionsRow> Rows) {
 
 } // namespace
 
-void DrawMenuRow(SDL_Renderer *Renderer, std::string_view Label, std::string_view Value, float Y,
-    bool Selected, float LabelX, float ValueX) {
-    DrawMarkedLabel(Renderer, Label, LabelX, Y, Selected, OptionsRowStyle);
-    DrawText(Renderer, Value, ValueX, Y, OptionsRowStyle.Scale,
-        Selected ? SelectedColor : OptionsRowStyle.UnselectedColor);
-}
-
 void DrawOptionsRows(SDL_Renderer *Renderer, std::span<const OptionsRow> Rows, std::int32_t Selection) {
     const Columns columns = PlaceColumns(Rows);
     for (std::size_t i = 0; i < Rows.size(); ++i) {
@@ -44,6 +37,13 @@ void DrawOptionsRows(SDL_Renderer *Renderer, std::span<const OptionsRow> Rows, s
         DrawMenuRow(
             Renderer, GetText(Rows[i].Label), Rows[i].Value, y, selected, columns.LabelX, columns.ValueX);
     }
+}
+
+void DrawMenuRow(SDL_Renderer *Renderer, std::string_view Label, std::string_view Value, float Y,
+    bool Selected, float LabelX, float ValueX) {
+    DrawMarkedLabel(Renderer, Label, LabelX, Y, Selected, OptionsRowStyle);
+    DrawText(Renderer, Value, ValueX, Y, OptionsRowStyle.Scale,
+        Selected ? SelectedColor : OptionsRowStyle.UnselectedColor);
 }
 
 void DrawValueHints(SDL_Renderer *Renderer, std::string_view DeviceLine, float FirstY, float SecondY) {

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 namespace {
 
@@ -53,6 +54,7 @@ constexpr float RightShrubShift = 33.6F;
 
 // The bridge's rails and their lighter posts.
 constexpr float RailWidth = 7.0F;
+constexpr float RailInset = RailWidth; ///< from the road's edge
 constexpr std::uint32_t RailColor = 0xFF908780;
 constexpr int PostPeriod = 28;
 constexpr int PostLength = 4;
@@ -101,8 +103,8 @@ void DrawShrub(SDL_Renderer *Renderer, SpriteId Shrub, float X, float Y, float Y
 
 /// Fills the same stretch of both rails.
 void FillRails(SDL_Renderer *Renderer, float Top, float Height, std::uint32_t PackedColor) {
-    FillRect(Renderer, RoadLeft() + RailWidth, Top, RailWidth, Height, PackedColor);
-    FillRect(Renderer, RoadRight() - 2.0F * RailWidth, Top, RailWidth, Height, PackedColor);
+    FillRect(Renderer, RoadLeft() + RailInset, Top, RailWidth, Height, PackedColor);
+    FillRect(Renderer, RoadRight() - (RailInset + RailWidth), Top, RailWidth, Height, PackedColor);
 }
 
 void DrawRails(SDL_Renderer *Renderer, float RoadScroll, float Y0, float Y1) {
@@ -135,23 +137,43 @@ void DrawCenterDashes(SDL_Renderer *Renderer, float RoadScroll) {
     }
 }
 
-void DrawOneBand(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme) {
-    DrawGround(Renderer, State, Theme, 0.0F, LogicalHeightF, State.WaterFlowDirection);
-    DrawRoadside(Renderer, Theme, State.RoadScroll, 0.0F, LogicalHeightF);
-    DrawRoad(Renderer, State, Theme, 0.0F, LogicalHeightF);
-}
+/// A part of the screen with one scenery.
+struct Band {
+    std::int32_t Theme;
+    float Y0;
+    float Y1;
+    std::int32_t FlowDirection;
+};
 
-void DrawTwoBands(SDL_Renderer *Renderer, const GameState &State, std::int32_t OldTheme,
-    std::int32_t NewTheme, float Seam) {
-    DrawGround(Renderer, State, NewTheme, 0.0F, Seam, State.WaterFlowDirection);
-    DrawGround(Renderer, State, OldTheme, Seam, LogicalHeightF, State.PreviousWaterFlowDirection);
-    DrawRoadside(Renderer, NewTheme, State.RoadScroll, 0.0F, Seam);
-    DrawRoadside(Renderer, OldTheme, State.RoadScroll, Seam, LogicalHeightF);
-    DrawRoad(Renderer, State, NewTheme, 0.0F, Seam);
-    DrawRoad(Renderer, State, OldTheme, Seam, LogicalHeightF);
+/// Draws layer by layer, not band by band: shrubs stand across the edge of two bands.
+void DrawBands(SDL_Renderer *Renderer, const GameState &State, std::initializer_list<Band> Bands) {
+    for (const Band &band : Bands) {
+        DrawGround(Renderer, State, band.Theme, band.Y0, band.Y1, band.FlowDirection);
+    }
+    for (const Band &band : Bands) {
+        DrawRoadside(Renderer, band.Theme, State.RoadScroll, band.Y0, band.Y1);
+    }
+    for (const Band &band : Bands) {
+        DrawRoad(Renderer, State, band.Theme, band.Y0, band.Y1);
+    }
 }
 
 } // namespace
+
+void DrawScenery(SDL_Renderer *Renderer, const GameState &State) {
+    const std::int32_t oldTheme = StageThemeOf(State.PreviousStage);
+    const std::int32_t newTheme = StageThemeOf(State.Stage);
+    const float seam = std::clamp(State.StageTransition, 0.0F, 1.0F) * LogicalHeightF;
+    if (oldTheme != newTheme && seam < LogicalHeightF) {
+        DrawBands(Renderer, State,
+            {{newTheme, 0.0F, seam, State.WaterFlowDirection},
+                {oldTheme, seam, LogicalHeightF, State.PreviousWaterFlowDirection}});
+    } else {
+        DrawBands(Renderer, State, {{newTheme, 0.0F, LogicalHeightF, State.WaterFlowDirection}});
+    }
+    DrawEdgeLines(Renderer);
+    DrawCenterDashes(Renderer, State.RoadScroll);
+}
 
 void DrawGround(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme, float Y0, float Y1,
     std::int32_t FlowDirection) {
@@ -190,17 +212,4 @@ void DrawRoad(SDL_Renderer *Renderer, const GameState &State, std::int32_t Theme
     if (theme.IsWater) {
         DrawRails(Renderer, State.RoadScroll, Y0, Y1);
     }
-}
-
-void DrawScenery(SDL_Renderer *Renderer, const GameState &State) {
-    const std::int32_t oldTheme = StageThemeOf(State.PreviousStage);
-    const std::int32_t newTheme = StageThemeOf(State.Stage);
-    const float seam = std::clamp(State.StageTransition, 0.0F, 1.0F) * LogicalHeightF;
-    if (oldTheme != newTheme && seam < LogicalHeightF) {
-        DrawTwoBands(Renderer, State, oldTheme, newTheme, seam);
-    } else {
-        DrawOneBand(Renderer, State, newTheme);
-    }
-    DrawEdgeLines(Renderer);
-    DrawCenterDashes(Renderer, State.RoadScroll);
 }

@@ -27,4 +27,4 @@ enum SpriteId : std::int32_t {
     SpriteRoadsideShrubBright = 20,
 };
 
-inline constexpr std::int32_t SpriteCount = 21;
+inline constexpr std::int32_t SpriteCount = SpriteRoadsideShrubBright + 1;

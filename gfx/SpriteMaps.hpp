@@ -2,6 +2,7 @@
 
 #include "gfx/SpriteId.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -23,6 +24,20 @@ constexpr std::uint32_t SymbolColor(const SpriteMap &Map, char Symbol) {
         return 0;
     }
     return Map.Legend[static_cast<std::size_t>(index)];
+}
+
+/// Calls Visit(Start, Length, Symbol) for each run of one symbol in a row, from the left, but for the
+/// transparent ones.
+template <typename Visitor> void ForEachRun(std::string_view Row, Visitor Visit) {
+    std::size_t start = 0;
+    while (start < Row.size()) {
+        const char symbol = Row[start];
+        const std::size_t end = std::min(Row.find_first_not_of(symbol, start), Row.size());
+        if (symbol != TransparentSymbol) {
+            Visit(start, end - start, symbol);
+        }
+        start = end;
+    }
 }
 
 /// The picture of a sprite; Id is one of the enumeration.

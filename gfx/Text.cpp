@@ -11,7 +11,8 @@ namespace {
 constexpr std::uint32_t Space = 0x20;
 constexpr std::uint32_t CopyrightSign = 0xA9;
 
-/// In squares. The copyright sign fills its whole cell and would touch its neighbour.
+/// In squares.
+/// NOT-BUGS: © is wider than every other character
 int AdvanceOf(std::uint32_t CodePoint) {
     return CodePoint == CopyrightSign ? 8 : 7;
 }

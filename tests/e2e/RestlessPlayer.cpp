@@ -70,7 +70,8 @@ void RestlessPlayer::Tap(const std::vector<Key> &Keys) {
     for (const Key key : Keys) {
         Game.Person().TapKey(key, Held);
     }
-    // Past the last key, and long enough for the next picture to show it.
+    // The keys are through by now. The game may be far behind them, most of all where they changed the
+    // window, and the next look decides by what they came to.
     std::this_thread::sleep_for(Held * (static_cast<int>(Keys.size()) + 4));
 }
 

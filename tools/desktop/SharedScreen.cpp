@@ -14,20 +14,27 @@ namespace {
 constexpr std::uint32_t Colours = 0xFFFFFFU;
 constexpr int RowsBetweenLooks = 16;
 
+[[noreturn]] void Fail(const char *Reason) {
+    throw std::runtime_error(std::string("The display's screen cannot be looked into: ") + Reason);
+}
+
 } // namespace
 
 SharedScreen::SharedScreen(const VirtualDisplay &Display) : Size(Display.Size()) {
     const int id = Display.SharedMemory().value_or(-1);
-    shmid_ds facts{};
     void *const memory = shmat(id, nullptr, SHM_RDONLY);
-    if (reinterpret_cast<std::intptr_t>(memory) == -1 || shmctl(id, IPC_STAT, &facts) != 0) {
-        throw std::runtime_error(
-            std::string("The display's screen cannot be looked into: ") + std::strerror(errno));
+    if (reinterpret_cast<std::intptr_t>(memory) == -1) {
+        Fail(std::strerror(errno));
+    }
+    const auto count = static_cast<std::size_t>(Size.Width) * static_cast<std::size_t>(Size.Height);
+    shmid_ds facts{};
+    if (shmctl(id, IPC_STAT, &facts) != 0 || facts.shm_segsz < count * sizeof(std::uint32_t)) {
+        shmdt(memory);
+        Fail("its memory does not tell its size, or is too small");
     }
     shmctl(id, IPC_RMID, nullptr); // it goes with the last who uses it; the server would leave it behind
     Memory = memory;
     // The pixels stand at the end, behind a header of the server's.
-    const auto count = static_cast<std::size_t>(Size.Width) * static_cast<std::size_t>(Size.Height);
     Pixels = static_cast<const std::uint32_t *>(memory) + facts.shm_segsz / sizeof(std::uint32_t) - count;
 }
 

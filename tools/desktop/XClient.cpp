@@ -5,6 +5,7 @@
 #include <X11/Xutil.h>
 #include <X11/extensions/XShm.h>
 #include <X11/extensions/XTest.h>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>

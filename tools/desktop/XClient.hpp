@@ -40,7 +40,8 @@ public:
     // Real key movements, as from a keyboard: they reach the window that has the focus.
     void PressKey(Key Pressed);
     void ReleaseKey(Key Released);
-    // Presses the key and has the X server release it Held later, however late we run ourselves.
+    // Presses the key and has the X server release it Held later, however late we run ourselves. Comes back
+    // only then: meanwhile the server takes nothing else of this connection, neither keys nor a look.
     void TapKey(Key Tapped, std::chrono::milliseconds Held);
 
     // Whether a window manager looks after this display.

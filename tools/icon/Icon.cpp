@@ -3,6 +3,7 @@
 // kestrel-volley.ico.
 
 #include "gfx/Atlas.hpp"
+#include "gfx/PackedColor.hpp"
 #include "gfx/SpriteMaps.hpp"
 #include "tools/support/Files.hpp"
 
@@ -44,26 +45,18 @@ bool SavePicture(int Size, const std::filesystem::path &File) {
 
 // A colour of the car, all of which are opaque, as a drawing names it.
 std::string NameOf(std::uint32_t PackedColor) {
-    const std::uint32_t red = PackedColor & 0xFFU;
-    const std::uint32_t green = PackedColor >> 8U & 0xFFU;
-    const std::uint32_t blue = PackedColor >> 16U & 0xFFU;
+    const Color color = Unpacked(PackedColor);
     std::ostringstream name;
-    name << '#' << std::hex << std::setfill('0') << std::setw(6) << (red << 16U | green << 8U | blue);
+    name << '#' << std::hex << std::setfill('0') << std::setw(6) << (color.R << 16 | color.G << 8 | color.B);
     return name.str();
 }
 
 // A rectangle for each run of one colour in a row.
 void DrawRow(std::ostream &Drawing, std::string_view Row, std::size_t Y) {
-    std::size_t start = 0;
-    while (start < Row.size()) {
-        const std::size_t end = std::min(Row.find_first_not_of(Row[start], start), Row.size());
-        if (Row[start] != TransparentSymbol) {
-            Drawing << "<rect x=\"" << start << R"(" y=")" << Y << R"(" width=")" << end - start
-                    << R"(" height="1" fill=")" << NameOf(SymbolColor(MapOf(SpritePlayer), Row[start]))
-                    << "\"/>\n";
-        }
-        start = end;
-    }
+    ForEachRun(Row, [&](std::size_t Start, std::size_t Length, char Symbol) {
+        Drawing << "<rect x=\"" << Start << R"(" y=")" << Y << R"(" width=")" << Length
+                << R"(" height="1" fill=")" << NameOf(SymbolColor(MapOf(SpritePlayer), Symbol)) << "\"/>\n";
+    });
 }
 
 std::string DrawCar() {

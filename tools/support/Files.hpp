@@ -35,7 +35,9 @@ inline std::string ReadBytes(const std::filesystem::path &Path) {
 /// Puts a file in place of what was there, and makes the folders that it lies in. Throws std::runtime_error
 /// if it cannot be written.
 inline void WriteBytes(const std::filesystem::path &Path, std::string_view Bytes) {
-    std::filesystem::create_directories(Path.parent_path());
+    if (Path.has_parent_path()) {
+        std::filesystem::create_directories(Path.parent_path());
+    }
     std::ofstream file(Path, std::ios::binary);
     file.write(Bytes.data(), static_cast<std::streamsize>(Bytes.size()));
     file.close();

@@ -1,12 +1,15 @@
 // Plays the real game on a virtual display with real key presses and films it from shortly before the second
-// stage on: `film <game program> <folder for the pictures>` leaves a numbered picture for each moment.
+// stage on: `film <game program> <folder for the pictures>` leaves a numbered picture for each moment, in
+// place of those that an earlier film left there.
 
 #include "tools/desktop/GameSession.hpp"
 #include "tools/desktop/MenuSight.hpp"
 #include "tools/desktop/ScreenshotFile.hpp"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -21,7 +24,7 @@ namespace {
 using namespace std::chrono_literals;
 using Milliseconds = std::chrono::milliseconds;
 
-constexpr Milliseconds FrameTime = 80ms;
+constexpr Milliseconds FrameTime = 80ms; // told to img2webp as well: see the Makefile
 constexpr Milliseconds FilmStart = 22s;
 constexpr Milliseconds FilmEnd = 31s;
 
@@ -44,11 +47,20 @@ constexpr std::array Round{
     Move{Key::Left, 3600ms, 160ms},
 };
 
+constexpr bool FitsRound(const Move &Made) {
+    return Made.At % FrameTime == 0ms && Made.Held % FrameTime == 0ms && Made.At + Made.Held < RoundTime;
+}
+static_assert(RoundTime % FrameTime == 0ms && std::ranges::all_of(Round, FitsRound),
+    "each key moves at the time of a picture, and is up again within the round");
+
+// A key that is held and let go by one call would keep the pictures waiting.
 void MoveKeys(XClient &Person, Milliseconds Time) {
     const Milliseconds now = Time % RoundTime;
     for (const Move &move : Round) {
         if (now == move.At) {
-            Person.TapKey(move.Pressed, move.Held);
+            Person.PressKey(move.Pressed);
+        } else if (now == move.At + move.Held) {
+            Person.ReleaseKey(move.Pressed);
         }
     }
 }
@@ -81,10 +93,10 @@ std::vector<Screenshot> Film(XClient &Person) {
     const auto start = std::chrono::steady_clock::now();
     for (Milliseconds time{}; time < FilmEnd; time += FrameTime) {
         std::this_thread::sleep_until(start + time);
-        MoveKeys(Person, time);
         if (time >= FilmStart) {
             pictures.push_back(Person.Look());
         }
+        MoveKeys(Person, time);
     }
     return pictures;
 }
@@ -104,20 +116,35 @@ bool StartRun(GameSession &Session) {
     return Session.WaitForPicture(isPlaying).has_value();
 }
 
+// Names sort as the pictures follow one another.
+std::filesystem::path PictureIn(const std::filesystem::path &Folder, std::size_t Place) {
+    return Folder / (std::to_string(1001 + Place) + ".png");
+}
+
+void SavePictures(const std::vector<Screenshot> &Pictures, const std::filesystem::path &Folder) {
+    std::filesystem::create_directories(Folder);
+    std::size_t place = 0;
+    for (const Screenshot &picture : Pictures) {
+        SaveScreenshot(Halved(picture), PictureIn(Folder, place++));
+    }
+    // The rest of a longer film.
+    while (std::filesystem::remove(PictureIn(Folder, place))) {
+        ++place;
+    }
+}
+
 bool RunFilm(const std::filesystem::path &Program, const std::filesystem::path &Folder) {
     GameSession session(Program);
     if (!StartRun(session)) {
         std::printf("The game showed no run. It says:\n%s", session.Program().Output().c_str());
         return false;
     }
-    const std::vector<Screenshot> pictures = Film(session.Person());
-    std::filesystem::remove_all(Folder);
-    std::filesystem::create_directories(Folder);
-    int number = 1000; // so that names sort as the pictures follow one another
-    for (const Screenshot &picture : pictures) {
-        SaveScreenshot(Halved(picture), Folder / (std::to_string(++number) + ".png"));
+    SavePictures(Film(session.Person()), Folder);
+    if (session.Close() != 0) {
+        std::printf("The game did not end as it should. It says:\n%s", session.Program().Output().c_str());
+        return false;
     }
-    return session.Close() == 0;
+    return true;
 }
 
 } // namespace
