@@ -61,9 +61,14 @@ function(kestrel_tests name)
     if(NOT tests_SHARDS)
         set(tests_SHARDS 1)
     endif()
+    set(command ${name}_tests)
+    if(CMAKE_CROSSCOMPILING_EMULATOR) # there words tell what has passed (below), so a bad result becomes some as well
+        set(command sh -c [["$0" "$@" || echo "[  FAILED  ] with the result $?"]]
+            ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}_tests>)
+    endif()
     foreach(shard RANGE 1 ${tests_SHARDS})
         math(EXPR index "${shard} - 1")
-        add_test(NAME ${name}.${shard}of${tests_SHARDS} COMMAND ${name}_tests --gtest_brief=1)
+        add_test(NAME ${name}.${shard}of${tests_SHARDS} COMMAND ${command} --gtest_brief=1)
         set_tests_properties(${name}.${shard}of${tests_SHARDS} PROPERTIES
             LABELS "${tests_LABEL}" TIMEOUT 600 PROCESSORS ${jobs_of_a_core}
             ENVIRONMENT "GTEST_TOTAL_SHARDS=${tests_SHARDS};GTEST_SHARD_INDEX=${index}")

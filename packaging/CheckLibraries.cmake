@@ -10,22 +10,21 @@ execute_process(COMMAND readelf --wide --dynamic --version-info "${PROGRAM}"
 string(REGEX REPLACE "[][]" "" said "${said}")
 string(REGEX MATCHALL "Shared library: [^\n]+" linked "${said}")
 list(TRANSFORM linked REPLACE ".*: " "")
-string(REGEX MATCHALL "Name: GLIBC_[0-9.]+" symbols "${said}")
-list(TRANSFORM symbols REPLACE ".*_" "")
+string(REGEX MATCHALL "Name: GLIBC_[A-Z0-9_.]+" symbols "${said}")
+list(TRANSFORM symbols REPLACE "Name: GLIBC_" "")
 list(SORT symbols COMPARE NATURAL ORDER DESCENDING)
 list(GET symbols 0 glibc)
 
-# SDL tells in notes what it loads while it runs.
-file(STRINGS "${PROGRAM}" notes REGEX "\"soname\":")
-string(REGEX MATCHALL "\"[^\",]+\\.so[^\",]*" loaded "${notes}")
-list(TRANSFORM loaded REPLACE "\"" "")
+# What it loads while it runs, by the names that stand in it: SDL tells of most in notes, but not of all.
+file(STRINGS "${PROGRAM}" loaded REGEX "^lib[A-Za-z0-9_.+-]+\\.so(\\.[0-9]+)*$")
 list(REMOVE_DUPLICATES loaded)
+list(REMOVE_ITEM loaded ${linked})
 
 Check(linked ${linked})
 Check(loaded ${loaded})
 message(STATUS "newest symbols of glibc: ${glibc}")
 ReadAllowed(glibc newest)
-if(glibc VERSION_GREATER newest)
+if(glibc VERSION_GREATER newest OR NOT glibc MATCHES "^[0-9]") # a word, as PRIVATE, comes before all versions
     Refuse("glibc ${glibc}")
 endif()
 StopIfRefused(linked loaded)

@@ -30,7 +30,8 @@ foreach(library SDL3 SDL3_mixer)
     string(REGEX REPLACE "^Copyright *(\\(C\\))? *" "" holders "${holders}")
     ReadParagraph(${folder}/LICENSE.txt licence)
     ReadParagraph(${folder}/NOTICES.txt notices)
-    string(APPEND paragraphs "\nFiles: ${library}/*\nCopyright: ${holders}, and those whom the notices below name\n"
+    string(APPEND paragraphs "\nFiles: ${library}/*\nComment: This library is inside the program.\n"
+        "Copyright: ${holders}, and those whom the notices below name\n"
         "License: ${library}\n ${licence}\n .\n ${notices}\n")
 endforeach()
 ReadParagraph(${PROJECT_SOURCE_DIR}/LICENSE own)
@@ -50,4 +51,6 @@ AddCompilersLibrary(GCC libstdc++.a)
 if(MINGW)
     AddCompilersLibrary(MinGW-w64 libmingwex.a)
 endif()
+# The licences that the texts above name without having them inside.
 configure_file(/usr/share/common-licenses/GPL-3 ${licences}/GPL-3.txt COPYONLY)
+configure_file(/usr/share/common-licenses/Apache-2.0 ${licences}/Apache-2.0.txt COPYONLY)

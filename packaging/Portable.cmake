@@ -5,7 +5,8 @@ target_link_options(portable PRIVATE -static-libstdc++ -static-libgcc)
 set_target_properties(portable PROPERTIES OUTPUT_NAME kestrel-volley RUNTIME_OUTPUT_DIRECTORY portable)
 
 # Its read-me names the glibc that the program was found to need.
-add_custom_command(OUTPUT README.txt DEPENDS portable CheckLibraries.cmake libraries README.txt.in VERBATIM
+add_custom_command(OUTPUT README.txt VERBATIM
+    DEPENDS portable CheckLibraries.cmake Allowed.cmake libraries README.txt.in
     COMMAND ${CMAKE_COMMAND} -DPROGRAM=$<TARGET_FILE:portable> -DREADME=${CMAKE_CURRENT_BINARY_DIR}/README.txt
         -DVERSION=${PROJECT_VERSION} -P ${CMAKE_CURRENT_SOURCE_DIR}/CheckLibraries.cmake)
 add_custom_target(readme ALL DEPENDS README.txt)

@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdio>
 #include <filesystem>
+#include <set>
 #include <string>
 #include <thread>
 
@@ -76,6 +77,15 @@ std::optional<Screenshot> PauseARunWorthKeeping(PlayedGame &Game, const Prepared
     return isBusy && isPaused ? Game.WaitForPicture(PauseMenu(Resume)) : std::nullopt;
 }
 
+// The names of all that lies in the folder of the game's files.
+std::set<std::string> StoredNames(const PreparedHome &Home) {
+    std::set<std::string> names;
+    for (const auto &entry : std::filesystem::directory_iterator(StoredPath(Home, SaveFile).parent_path())) {
+        names.insert(entry.path().filename().string());
+    }
+    return names;
+}
+
 Sight HighScoreIs(std::int64_t Score) {
     std::array<char, 32> digits{};
     std::snprintf(digits.data(), digits.size(), "%08lld", static_cast<long long>(Score));
@@ -88,7 +98,7 @@ Sight HighScoreIs(std::int64_t Score) {
 
 } // namespace
 
-TEST(Memory, TheFirstStartLeavesBothFiles) {
+TEST(Memory, TheFirstStartLeavesBothFilesAndNoOther) {
     const PreparedHome home;
     OpenedGame game({960, 720}, {}, &home);
     EXPECT_EQ(StoredOption(home, "Graphics", "AspectMode"), "classic4x3");
@@ -101,6 +111,7 @@ TEST(Memory, TheFirstStartLeavesBothFiles) {
     EXPECT_EQ(StoresRun(home), std::optional(false));
     EXPECT_EQ(game.Close(), std::optional(0));
     EXPECT_EQ(game.Program().Output(), "");
+    EXPECT_EQ(StoredNames(home), (std::set<std::string>{OptionsFile, SaveFile}));
 }
 
 TEST(Memory, ContinueGameResumesTheRunAsItStoodToThePixel) {
