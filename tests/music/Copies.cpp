@@ -12,11 +12,34 @@ constexpr std::size_t WindowFrames = 4096;
 constexpr std::size_t StepsOfABar = 16;
 constexpr int LowestKey = 40;
 constexpr std::size_t Semitones = 61;
-constexpr double Floor = 1e-5; // of the strongest
-constexpr double Near = 0.7;
+constexpr std::size_t MelBands = 20;
+constexpr double LowestOfMel = 40.0;     // Hz
+constexpr double HighestOfMel = 16000.0; // Hz
+constexpr double FloorDecibels = 50.0;   // below the strongest
+constexpr double NearNotes = 0.7;
+constexpr double NearTexture = 0.991;
 
 using Spectrum = std::vector<std::complex<double>>;
 using Figures = std::vector<double>;
+
+/// The bands that a spectrum is gathered in.
+struct Bands {
+    std::size_t Count;
+    int (*BandOf)(double Frequency); ///< outside 0 to Count - 1 for a frequency that is left out
+};
+
+int SemitoneOf(double Frequency) {
+    return static_cast<int>(std::lround(69.0 + 12.0 * std::log2(Frequency / 440.0))) - LowestKey;
+}
+
+double Mel(double Frequency) {
+    return std::log10(1.0 + Frequency / 700.0);
+}
+
+int MelBandOf(double Frequency) {
+    return static_cast<int>(std::floor(static_cast<double>(MelBands) * (Mel(Frequency) - Mel(LowestOfMel)) /
+                                       (Mel(HighestOfMel) - Mel(LowestOfMel))));
+}
 
 /// The Fourier transform of 2^n samples: of the even ones, and of the odd ones turned.
 Spectrum Transform(const Spectrum &Samples) {
@@ -42,8 +65,8 @@ Spectrum Transform(const Spectrum &Samples) {
     return result;
 }
 
-/// The power in each semitone of a window that begins at that frame; behind the end the piece begins again.
-Figures Powers(const Piece &Piece, std::size_t From) {
+/// The power in each band of a window that begins at that frame; behind the end the piece begins again.
+Figures Powers(const Piece &Piece, std::size_t From, const Bands &Bands) {
     Spectrum window(WindowFrames);
     for (std::size_t i = 0; i < WindowFrames; ++i) {
         const std::size_t at = 2 * ((From + i) % FrameCount(Piece));
@@ -52,67 +75,79 @@ Figures Powers(const Piece &Piece, std::size_t From) {
         window[i] = shape * static_cast<double>(Piece.Samples[at] + Piece.Samples[at + 1]);
     }
     const Spectrum spectrum = Transform(window);
-    Figures powers(Semitones);
+    Figures powers(Bands.Count);
     for (std::size_t i = 1; i < WindowFrames / 2; ++i) {
-        const double frequency = static_cast<double>(i) * Piece.Rate / WindowFrames;
-        const auto key = static_cast<int>(std::lround(69.0 + 12.0 * std::log2(frequency / 440.0)));
-        if (key >= LowestKey && key < LowestKey + static_cast<int>(Semitones)) {
-            powers[static_cast<std::size_t>(key - LowestKey)] += std::norm(spectrum[i]);
+        const int band = Bands.BandOf(static_cast<double>(i) * Piece.Rate / WindowFrames);
+        if (band >= 0 && band < static_cast<int>(Bands.Count)) {
+            powers[static_cast<std::size_t>(band)] += std::norm(spectrum[i]);
         }
     }
     return powers;
 }
 
-/// All steps of all bars one behind the other.
-Figures PowersOfAllSteps(const Piece &Piece, std::size_t Steps) {
+/// All steps of all bars one behind the other, in decibels above the floor.
+Figures LevelsOfAllSteps(const Piece &Piece, std::size_t Steps, const Bands &Bands) {
     Figures figures;
     for (std::size_t step = 0; step < Steps; ++step) {
-        const Figures powers = Powers(Piece, step * FrameCount(Piece) / Steps);
+        const Figures powers = Powers(Piece, step * FrameCount(Piece) / Steps, Bands);
         figures.insert(figures.end(), powers.begin(), powers.end());
+    }
+    const double strongest = *std::ranges::max_element(figures);
+    const double floor = std::pow(10.0, -FloorDecibels / 10.0);
+    for (double &figure : figures) {
+        figure = 10.0 * std::log10(figure / strongest + floor) + FloorDecibels;
     }
     return figures;
 }
 
-/// In decibels, less each semitone's mean.
-void Flatten(Figures &Powers) {
-    const double floor = Floor * *std::ranges::max_element(Powers);
-    for (double &power : Powers) {
-        power = 10.0 * std::log10(power + floor);
-    }
-    const std::size_t steps = Powers.size() / Semitones;
-    for (std::size_t semitone = 0; semitone < Semitones; ++semitone) {
+/// Takes each band's mean away.
+void Flatten(Figures &Levels, std::size_t Bands) {
+    const std::size_t steps = Levels.size() / Bands;
+    for (std::size_t band = 0; band < Bands; ++band) {
         double sum = 0.0;
         for (std::size_t step = 0; step < steps; ++step) {
-            sum += Powers[step * Semitones + semitone];
+            sum += Levels[step * Bands + band];
         }
         for (std::size_t step = 0; step < steps; ++step) {
-            Powers[step * Semitones + semitone] -= sum / static_cast<double>(steps);
+            Levels[step * Bands + band] -= sum / static_cast<double>(steps);
         }
     }
 }
 
-double Product(const Figures &Bars, std::size_t One, std::size_t Other) {
-    constexpr std::size_t length = StepsOfABar * Semitones;
-    const auto begin = Bars.begin();
-    const auto one = begin + static_cast<std::ptrdiff_t>(One * length);
-    return std::inner_product(one, one + static_cast<std::ptrdiff_t>(length),
-        begin + static_cast<std::ptrdiff_t>(Other * length), 0.0);
+/// Of the figures of two bars, each of that length.
+double Product(const Figures &Levels, std::size_t Length, std::size_t One, std::size_t Other) {
+    const auto one = Levels.begin() + static_cast<std::ptrdiff_t>(One * Length);
+    return std::inner_product(one, one + static_cast<std::ptrdiff_t>(Length),
+        Levels.begin() + static_cast<std::ptrdiff_t>(Other * Length), 0.0);
+}
+
+/// The share of bars whose figures have a cosine of more than Near with those of another one.
+double ShareOfLikeBars(const Figures &Levels, std::size_t Bars, double Near) {
+    const std::size_t length = Levels.size() / Bars;
+    int copies = 0;
+    for (std::size_t one = 0; one < Bars; ++one) {
+        bool copied = false;
+        for (std::size_t other = 0; other < Bars; ++other) {
+            const double scale =
+                std::sqrt(Product(Levels, length, one, one) * Product(Levels, length, other, other));
+            copied = copied || (other != one && Product(Levels, length, one, other) > Near * scale);
+        }
+        copies += copied ? 1 : 0;
+    }
+    return static_cast<double>(copies) / static_cast<double>(Bars);
 }
 
 } // namespace
 
 double NearCopies(const Piece &Piece, int Bars) {
     const auto bars = static_cast<std::size_t>(Bars);
-    Figures figures = PowersOfAllSteps(Piece, bars * StepsOfABar);
-    Flatten(figures);
-    int copies = 0;
-    for (std::size_t one = 0; one < bars; ++one) {
-        bool copied = false;
-        for (std::size_t other = 0; other < bars; ++other) {
-            const double length = std::sqrt(Product(figures, one, one) * Product(figures, other, other));
-            copied = copied || (other != one && Product(figures, one, other) > Near * length);
-        }
-        copies += copied ? 1 : 0;
-    }
-    return static_cast<double>(copies) / Bars;
+    Figures figures = LevelsOfAllSteps(Piece, bars * StepsOfABar, {Semitones, SemitoneOf});
+    Flatten(figures, Semitones);
+    return ShareOfLikeBars(figures, bars, NearNotes);
+}
+
+double SameTextures(const Piece &Piece, int Bars) {
+    const auto bars = static_cast<std::size_t>(Bars);
+    const Figures figures = LevelsOfAllSteps(Piece, bars * StepsOfABar, {MelBands, MelBandOf});
+    return ShareOfLikeBars(figures, bars, NearTexture);
 }

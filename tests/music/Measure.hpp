@@ -23,6 +23,9 @@ double SideUnderMiddle(const Piece &Piece);
 /// The same below 120 Hz alone.
 double SideUnderMiddleBelow120(const Piece &Piece);
 
+/// Root mean square of what both sides share below 120 Hz in dB of full scale.
+double LevelBelow120(const Piece &Piece);
+
 /// How much of the piece is lost where both sides come from one loudspeaker, in dB.
 double MonoLoss(const Piece &Piece);
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace {
 
@@ -13,6 +12,7 @@ constexpr std::size_t Around = 8820;    // frames: 200 ms
 constexpr std::size_t Window = 441;     // frames: 10 ms
 constexpr std::size_t Millisecond = 44; // frames
 constexpr std::size_t CutFrames = 132;  // frames: 3 ms
+constexpr std::size_t NearCut = 13230;  // frames: 300 ms
 constexpr double Quieter = 8.0;         // dB
 constexpr std::size_t Channels = 2;
 
@@ -46,17 +46,15 @@ double MeanStep(const Piece &Piece, std::size_t First, std::size_t Last) {
     return sum / static_cast<double>(Last - First);
 }
 
-void AddSteps(std::vector<double> &Steps, const Piece &Piece) {
-    for (std::size_t at = 1; at + CutFrames <= FrameCount(Piece); at += CutFrames) {
-        Steps.push_back(MeanStep(Piece, at, at + CutFrames));
+/// The median of the mean steps of all stretches as long as a cut, from one frame up to another.
+double MedianStep(const Piece &Piece, std::size_t First, std::size_t Last) {
+    std::vector<double> steps;
+    for (std::size_t at = First; at + CutFrames <= Last; at += CutFrames) {
+        steps.push_back(MeanStep(Piece, at, at + CutFrames));
     }
-}
-
-/// What the given share of the steps does not exceed.
-double Usual(std::vector<double> Steps, double Share) {
-    const auto rank = static_cast<std::ptrdiff_t>(Share * static_cast<double>(Steps.size() - 1));
-    std::nth_element(Steps.begin(), Steps.begin() + rank, Steps.end());
-    return Steps[static_cast<std::size_t>(rank)];
+    const auto middle = steps.begin() + static_cast<std::ptrdiff_t>(steps.size() / 2);
+    std::nth_element(steps.begin(), middle, steps.end());
+    return *middle;
 }
 
 } // namespace
@@ -73,23 +71,19 @@ double Hole(const Seam &Seam, std::size_t Late) {
     return static_cast<double>(longest * Millisecond) / heard.Rate * 1000.0;
 }
 
-double CutSharpness(const Seam &Seam, std::size_t Late, double Share) {
-    std::vector<double> steps;
-    AddSteps(steps, Seam.Before);
-    AddSteps(steps, Seam.After);
+double CutSharpness(const Seam &Seam, std::size_t Late) {
+    const Piece heard = Heard(Seam, Late);
     const std::size_t cut = Seam.Bar + Late;
-    const double sharp = MeanStep(Heard(Seam, Late), cut - CutFrames / 2, cut + CutFrames / 2);
-    return 10.0 * std::log10(sharp / Usual(std::move(steps), Share));
+    const double sharp = MeanStep(heard, cut - CutFrames / 2, cut + CutFrames / 2);
+    return 10.0 * std::log10(sharp / MedianStep(heard, cut - NearCut, cut + NearCut));
 }
 
-double StartSharpness(const Piece &Piece, std::size_t Frames, double Share) {
-    std::vector<double> steps;
-    AddSteps(steps, Piece);
+double StartSharpness(const Piece &Piece, std::size_t Frames) {
     double sharpest = 0.0;
     for (std::size_t at = 1; at + CutFrames <= Frames; at += Millisecond) {
         sharpest = std::max(sharpest, MeanStep(Piece, at, at + CutFrames));
     }
-    return 10.0 * std::log10(sharpest / Usual(std::move(steps), Share));
+    return 10.0 * std::log10(sharpest / MedianStep(Piece, 1, FrameCount(Piece)));
 }
 
 std::vector<double> LevelsAround(const Seam &Seam, int Bars) {

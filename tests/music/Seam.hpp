@@ -15,12 +15,12 @@ struct Seam {
 double Hole(const Seam &Seam, std::size_t Late);
 
 /// How sharp the cut is when the other file takes over that many frames late: the mean square of the steps
-/// from frame to frame in the 3 ms around it, in dB above what the given share of all such stretches of both
-/// files do not exceed.
-double CutSharpness(const Seam &Seam, std::size_t Late, double Share);
+/// from frame to frame in the 3 ms around it, in dB above the median of such stretches in the 300 ms before
+/// and behind.
+double CutSharpness(const Seam &Seam, std::size_t Late);
 
-/// The same for the sharpest 3 ms in the first frames of a piece, against that piece.
-double StartSharpness(const Piece &Piece, std::size_t Frames, double Share);
+/// The same for the sharpest 3 ms in the first frames of a piece, above the median of that piece.
+double StartSharpness(const Piece &Piece, std::size_t Frames);
 
 /// The levels in dB of 400 ms around each bar line, from Bars before the seam to Bars behind it; the seam is
 /// the middle one.

@@ -5,13 +5,15 @@
 ;              another step, "." is a rest; "|" and line ends are for the eye only. "!" behind a note makes it loud, ","
 ;              makes it soft; "~" before it lets its pitch slide over from the note before
 ;   Figure     the same, but a second text gives one chord for each "every" beats, and the line picks its notes by
-;              number: "0 . 1 2" with the chord "e2+b2" plays e2, a rest, b2, and e3, an octave above the first;
-;              notes between the beats are a little softer
+;              number: "0! . 1, 2" with the chord "e2+b2" plays e2, a rest, b2, and e3, an octave above the first;
+;              notes between the beats are a little softer, and "!" and "," tell as in a Line
 ;   Beat       drums: "X.x.o..." with X loud, x normal, o soft and . for nothing; 1 to 9 are finer steps up to X
 ;
-; All of them take the name of an instrument, the beat at which they start, and the length of a step in beats.
+; All of them take the name of an instrument, the beat at which they start, and the length of a step in beats. None
+; may last beyond the end of its file: the other file would begin with what is too much.
 
 giBeat init 0.5 ; seconds; the Conductor sets it
+giFileBeats init 4 ; the length of a file; the Conductor sets it, too
 ; A file's first beat comes this much into it. A change of music is noticed a moment after the old file has begun again,
 ; and in this moment the old first beat must not sound. What the file before it held lasts until then.
 giUpbeat = 0.05
@@ -26,6 +28,15 @@ opcode PlayerOf, i, S
         exitnow 1
     endif
     xout iNumber
+endop
+
+; Stops everything if what an instrument plays up to that beat is more than the file holds.
+opcode EndInside, 0, Si
+    Sinstrument, iEnd xin
+    if iEnd > giFileBeats + 0.001 then
+        prints "%s plays up to beat %g, behind the file's end.\n", Sinstrument, iEnd
+        exitnow 1
+    endif
 endop
 
 ; The word of a text at or behind a position, and the position behind it. At the end of the text the word is empty.
@@ -55,21 +66,37 @@ opcode NextNote, ii, Si
     xout iKey + 12 * (strchar(Sword, iAt + 1) - 47), iAt + 3
 endop
 
-; Plays all notes of a word, and gives the last of them. Before is the note that a slide comes from.
-opcode Sound, i, iSiiii
-    iInstrument, Sword, iBeat, iBeats, iVelocity, iBefore xin
+; A word without its mark, and what the mark does to the velocity.
+opcode Unmarked, Si, S
+    Sword xin
     iEnd strlen Sword
     iMark strchar Sword, iEnd - 1
+    iAccent = 1
     if iMark == 33 || iMark == 44 then ; "!" or ","
-        iVelocity *= (iMark == 33 ? 1.22 : 0.68)
+        iAccent = (iMark == 33 ? 1.22 : 0.68)
         iEnd -= 1
     endif
+    Snote strsub Sword, 0, iEnd
+    xout Snote, iAccent
+endop
+
+; Plays all notes of a word, and gives the last of them. Before is the note that a slide comes from; at the start of a
+; Line there is none.
+opcode Sound, i, iSiiii
+    iInstrument, Smarked, iBeat, iBeats, iVelocity, iBefore xin
+    Sword, iAccent Unmarked Smarked
+    iEnd strlen Sword
     iSlides = (strchar(Sword, 0) == 126 ? 1 : 0)
+    if iSlides == 1 && iBefore < 0 then
+        prints "There is no note that %s can slide from.\n", Sword
+        exitnow 1
+    endif
     iAt = iSlides
     while iAt < iEnd do
         iKey, iAt NextNote Sword, iAt
         iFrom = (iSlides == 1 ? iBefore : iKey)
-        schedule iInstrument, giUpbeat + iBeat * giBeat, iBeats * giBeat, cpsmidinn(iKey), iVelocity, cpsmidinn(iFrom)
+        schedule iInstrument, giUpbeat + iBeat * giBeat, iBeats * giBeat, cpsmidinn(iKey), \
+            iVelocity * iAccent, cpsmidinn(iFrom)
     od
     xout iKey
 endop
@@ -79,7 +106,7 @@ opcode Line, 0, SiiiS
     iInstrument PlayerOf Sinstrument
     iAt = 0
     iSince = iBeat
-    iBefore = 60
+    iBefore = -1
     Sheld = "."
     Sword = "."
     while strlen(Sword) > 0 do
@@ -93,6 +120,7 @@ opcode Line, 0, SiiiS
         endif
         iBeat += iStep
     od
+    EndInside Sinstrument, iBeat - iStep
 endop
 
 ; The MIDI number of a chord's note; numbers beyond its last note go on an octave higher.
@@ -120,12 +148,13 @@ opcode Figure, 0, SiiiiSS
     while strlen(Schord) > 0 do
         iChordEnd += iEvery
         while iNow < iChordEnd - 0.001 do
-            Snote, iNoteAt NextWord Spattern, iNoteAt
-            if strlen(Snote) == 0 then ; the pattern begins again
-                Snote, iNoteAt NextWord Spattern, 0
+            Smarked, iNoteAt NextWord Spattern, iNoteAt
+            if strlen(Smarked) == 0 then ; the pattern begins again
+                Smarked, iNoteAt NextWord Spattern, 0
             endif
-            if strcmp(Snote, ".") != 0 then
-                iAccent = (abs(iNow - round(iNow)) < 0.01 ? 1 : 0.78)
+            if strcmp(Smarked, ".") != 0 then
+                Snote, iAccent Unmarked Smarked
+                iAccent *= (abs(iNow - round(iNow)) < 0.01 ? 1 : 0.78)
                 iPitch = cpsmidinn(NoteOfChord(Schord, strtod(Snote)))
                 schedule iInstrument, giUpbeat + (iBeat + iNow) * giBeat, iStep * giBeat, iPitch, \
                     iVelocity * iAccent, iPitch
@@ -134,6 +163,7 @@ opcode Figure, 0, SiiiiSS
         od
         Schord, iChordAt NextWord Schords, iChordAt
     od
+    EndInside Sinstrument, iBeat + iChordEnd
 endop
 
 opcode Beat, 0, SiiiS
@@ -154,4 +184,5 @@ opcode Beat, 0, SiiiS
         endif
         iAt += 1
     od
+    EndInside Sdrum, iBeat
 endop

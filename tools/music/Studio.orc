@@ -19,7 +19,8 @@ giEcho init 0.75 ; beats from an echo to the next
 ; each is what rings on from the end of the other.
 instr Conductor
     iFile = p3 / 3
-    giBeat = iFile / (p4 * p5)
+    giFileBeats = p4 * p5
+    giBeat = iFile / giFileBeats
     schedule "Second", 0, iFile
     schedule "First", iFile, iFile
     schedule "Second", 2 * iFile, iFile
