@@ -27,16 +27,17 @@ bool IsOfAPowerUp(const std::string &Name) {
     return Name == "Invincibility" || Name == "DualWeapon";
 }
 
-/// A piece that begins with a tone of its own in each bar.
+/// A piece with a tone of its own in each bar, an octave above the one before. Each bar begins and ends with
+/// an eighth of silence, so that a window that looks into the next bar finds nothing there.
 Piece Scale(int Bars, bool RepeatsTheFirst) {
     Piece piece{Rate, 2, {}};
     constexpr std::size_t frames = 44100;
     for (int bar = 0; bar < Bars; ++bar) {
-        const int key = RepeatsTheFirst && bar == Bars - 1 ? 0 : bar;
-        const double frequency = 220.0 * std::pow(2.0, key); // an octave higher each
+        const double frequency = 220.0 * std::pow(2.0, RepeatsTheFirst && bar == Bars - 1 ? 0 : bar);
         for (std::size_t frame = 0; frame < frames; ++frame) {
+            const double amplitude = frame >= frames / 8 && frame < frames / 8 * 7 ? 0.5 : 0.0;
             const double phase = 2.0 * std::numbers::pi * frequency * static_cast<double>(frame) / Rate;
-            piece.Samples.insert(piece.Samples.end(), 2, static_cast<float>(0.5 * std::sin(phase)));
+            piece.Samples.insert(piece.Samples.end(), 2, static_cast<float>(amplitude * std::sin(phase)));
         }
     }
     return piece;

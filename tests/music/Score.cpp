@@ -4,9 +4,11 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <map>
 #include <regex>
 #include <sstream>
+#include <utility>
 
 namespace {
 

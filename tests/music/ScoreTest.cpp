@@ -6,9 +6,11 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace {
 

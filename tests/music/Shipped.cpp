@@ -63,6 +63,6 @@ Piece InTurn(const Mode &Mode) {
 }
 
 void Show(const std::string &Name, const std::string &What, double Figure, const std::string &Dimension) {
-    std::cout << "  " << std::left << std::setw(18) << Name << What << ' ' << Figure << ' ' << Dimension
+    std::cout << "  " << std::left << std::setw(30) << Name << What << ' ' << Figure << ' ' << Dimension
               << '\n';
 }

@@ -50,13 +50,13 @@ endin
 instr Second
     ; Bars 1 and 2, F sharp minor: a moment of air, the kick away.
     ;   F#m9 Dmaj7  Bm9 C#7
-    Line "Reed", 0, 0.5, 0.58, "a5! - g#5 a5 ~c#6 - a5 . | f#5, - b5! - ~c#6 b5 g#5 ."
+    Line "Reed", 0, 0.5, 0.55, "a5! - g#5 a5 ~c#6 - a5 . | f#5, - b5! - ~c#6 b5 g#5 ."
     Line "Bell", 0, 0.5, 0.4, ". . . . . . e6 a6 | . . . . . . f6 g#6"
-    Figure "Pluck", 0, 0.25, 0.42, 2, "f#4+a4+c#5+g#5 d4+f#4+a4+c#5 d4+f#4+b4+c#5 c#4+f4+g#4+b4", {{
+    Figure "Pluck", 0, 0.25, 0.37, 2, "f#4+a4+c#5+g#5 d4+f#4+a4+c#5 d4+f#4+b4+c#5 c#4+f4+g#4+b4", {{
         0! . 2, . 1 . 3! .  2 1, . 0 . 1, 2 .  0! 1, 2 3 . 4! 3, 2  1 2, 3! 4 5! 4, 3 2 }}
-    Line "Bass", 0, 0.5, 0.66, "f#1! - - f#2, d2 - - d#2, | b1! - - f#1, c#2 - c#2, e2"
+    Line "Bass", 0, 0.5, 0.58, "f#1! - - f#2, d2 - - d#2, | b1! - - f#1, c#2 - c#2, e2"
     Beat "Clap", 0, 0.25, 0.55, "........X....... ........X.....5."
-    Beat "Hat", 0, 0.25, 0.5, "9.5.7.5.9.5.7.5. 9.5.7.5.9.577.77"
+    Beat "Hat", 0, 0.25, 0.44, "9.5.7.5.9.5.7.5. 9.5.7.5.9.577.77"
     Beat "Crash", 0, 0.5, 0.4, "x"
 
     ; Bars 3 and 4, back to A major: everything, the hook over a walking bass.
