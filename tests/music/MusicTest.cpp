@@ -15,7 +15,8 @@ namespace {
 constexpr int Rate = 44100;
 constexpr std::size_t Unit = 286650; // frames: 6.5 seconds; a stage lasts four of them
 
-/// What two weapons may have below 120 Hz, in dB of full scale: 3 dB less than the music that they had first.
+/// What two weapons may have below 120 Hz, in dB of full scale: 3 dB less than the first version of their
+/// music had.
 constexpr double MostOfTwoWeapons = -26.4;
 
 /// How many units each file of a mode is long. Loops of a run end where its stages change, or power-ups
@@ -27,13 +28,15 @@ bool IsOfAPowerUp(const std::string &Name) {
     return Name == "Invincibility" || Name == "DualWeapon";
 }
 
-/// A piece with a tone of its own in each bar, an octave above the one before. Each bar begins and ends with
-/// an eighth of silence, so that a window that looks into the next bar finds nothing there.
-Piece Scale(int Bars, bool RepeatsTheFirst) {
+/// A piece with a tone of its own in each bar, that many octaves above the one before; the last may repeat
+/// the first. Each bar begins and ends with an eighth of silence, so that a window that looks into the next
+/// bar finds nothing there.
+Piece Scale(int Bars, double Octaves, bool RepeatsTheFirst) {
     Piece piece{Rate, 2, {}};
     constexpr std::size_t frames = 44100;
     for (int bar = 0; bar < Bars; ++bar) {
-        const double frequency = 220.0 * std::pow(2.0, RepeatsTheFirst && bar == Bars - 1 ? 0 : bar);
+        const double frequency =
+            220.0 * std::pow(2.0, RepeatsTheFirst && bar == Bars - 1 ? 0.0 : Octaves * bar);
         for (std::size_t frame = 0; frame < frames; ++frame) {
             const double amplitude = frame >= frames / 8 && frame < frames / 8 * 7 ? 0.5 : 0.0;
             const double phase = 2.0 * std::numbers::pi * frequency * static_cast<double>(frame) / Rate;
@@ -203,10 +206,12 @@ TEST(MusicMeasures, WhatIsBelow120HertzIsToldFromWhatIsAbove) {
 }
 
 TEST(MusicMeasures, ARepeatedBarIsSeen) {
-    EXPECT_EQ(NearCopies(Scale(4, false), 4), 0.0);
-    EXPECT_EQ(NearCopies(Scale(4, true), 4), 0.5); // the first and the last
-    EXPECT_EQ(SameTextures(Scale(4, false), 4), 0.0);
-    EXPECT_EQ(SameTextures(Scale(4, true), 4), 0.5);
+    constexpr double wholeTone = 1.0 / 6.0;
+    constexpr double octave = 1.0;
+    EXPECT_EQ(NearCopies(Scale(4, wholeTone, false), 4), 0.0);
+    EXPECT_EQ(NearCopies(Scale(4, wholeTone, true), 4), 0.5); // the first and the last
+    EXPECT_EQ(SameTextures(Scale(4, octave, false), 4), 0.0);
+    EXPECT_EQ(SameTextures(Scale(4, octave, true), 4), 0.5);
 }
 
 TEST(MusicMeasures, ALoopThatIsCutInTheWrongPlaceIsSeen) {

@@ -116,10 +116,10 @@ void PlayBeat(Passage &Passage, const Texts &Words, double Step) {
 
 /// All calls in a stretch of a score, in their order.
 std::vector<Passage> PassagesOf(const std::string &Text) {
-    static const std::string text = R"re((?:"([^"]*)"|\{\{([^}]*)\}\}))re";
+    static const std::string quoted = R"re((?:"([^"]*)"|\{\{([^}]*)\}\}))re";
     static const std::regex call(
-        R"re((Line|Figure|Beat) "(\w+)", ([0-9.]+), ([0-9./]+), [0-9.]+, (?:([0-9.]+), )?)re" + text +
-        R"re((?:,\s+)re" + text + ")?");
+        R"re((Line|Figure|Beat) "(\w+)", ([0-9.]+), ([0-9./]+), [0-9.]+, (?:([0-9.]+), )?)re" + quoted +
+        R"re((?:,\s+)re" + quoted + ")?");
     std::vector<Passage> passages;
     for (std::sregex_iterator found(Text.begin(), Text.end(), call), end; found != end; ++found) {
         const std::smatch &match = *found;

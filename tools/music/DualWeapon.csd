@@ -65,7 +65,7 @@ instr Second
         f1! - f2 f1 eb2! - eb2 -  ab1! - - g1 - - f1 - eb2 e2
         g1! - g2 - a1! - - bb1 - - a1 - - a2 a1! - c#2 - }}
     Line "Brass", 9, 0.5, 0.38, {{
-        a4+c5+f5! . g4+bb4+eb5 . ab4+c5+eb5! . . . .
+        ab4+c5+f5! . g4+bb4+eb5 . ab4+c5+eb5! . . . .
         bb4+d5+g5! . a4+c#5+g5! . . . . a4+c#5+e5! . }}
     Figure "Pluck", 9, 0.25, 0.4, 4.5, "f4+ab4+c5+eb5", "0! 1, 2 3 2! 1, 0 1 2! 3, 4 3 2, 3 4 5! 6 7!"
     Figure "Pluck", 13.5, 0.25, 0.4, 1.5, "g4+bb4+d5 g4+a4+c#5+e5 g4+a4+c#5+e5", "3 2 1 0 1 2  3 4 3 2 1 2  3 4 5 6 7 8"

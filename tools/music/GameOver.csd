@@ -51,14 +51,14 @@ instr First
 endin
 
 instr Second
-    ; Bars 1 to 4, E flat major: a memory. Bells and a piano in high fourths, no beat but for a tap at their end.
+    ; Bars 1 to 4, E flat major: a memory. Bells and a piano in high fourths, no beat but for two taps at their end.
     ;   Ebmaj7  Bb/D  Cm7  Abmaj7
     Line "Bell", 0, 0.5, 0.5, "bb5, - eb6! - f6 g6 | bb6! - - f6, . . | g6 - eb6, - c6 . | eb6 - - - . ."
     Figure "Piano", 0, 0.5, 0.46, 3, {{
         eb3+bb3+d4+g4 d3+bb3+d4+f4
         c3+g3+bb3+eb4 ab2+eb3+g3+c4 }}, "0! . 1, 2 . 3  0! . 2, 1 3 .  0! 1, . 2 3, .  0 . 1, 2 3! 4"
     Line "SoftBass", 0, 0.5, 0.62, "eb2 - - - - - | d2 - - - - - | c2 - - - g1, - | ab1 - - - - bb1,"
-    Beat "Rim", 9, 0.25, 0.24, "........5.6."
+    Beat "Rim", 9, 0.25, 0.4, "........5.6."
     Line "Pad", 0, 3, 0.5, "g3+bb3+d4 f3+bb3+d4 g3+bb3+eb4 g3+c4+eb4"
 
     ; Bars 5 to 8, back to C minor: the flute asks, higher each time, and drums come in from far.

@@ -59,7 +59,7 @@ instr First
     Beat "Crash", 32, 0.5, 0.75, "X"
 
     ; Bars 13 to 16, E minor: a climb over a rising and falling bass, and a half cadence that the other file takes up.
-    ;   Cmaj7 D   Bm7 Em7   Am9 Bm7   C D B7
+    ;   Cmaj7 D   Bm7 Em7   Am9 Bm7   C C/D B7
     Line "Lead", 48, 0.5, 0.86, {{
         e5, g5 - b5! - ~a5 - f#5 | ~f#5 - d5, . . g5 - b5 | ~c6! - b5 a5 - . . b5 | ~c6 - ~d6 - ~d#6! - - - }}
     Line "Lead", 56, 0.5, 0.5, ". . . . . . f#5, g5 | g5 - a5 - ~b5 - a5 -"
@@ -118,7 +118,7 @@ instr Second
     Beat "Hat", 16, 0.25, 0.55, "..5...5...5...5. ..5...5...5...5. 5.5.5.5.5.5.5.5. 7.5.7.5.7.5.7..."
 
     ; Bars 9 to 12, G minor: the climax, the hook a minor third higher for a solo guitar, with the lead above it.
-    ;   Gm9 Bb/F   Ebmaj7 F   Gm7 Bb/D   Cm9 F9
+    ;   Gm Bb/F   Eb F   Gm7 Bb/D   Cm9 F9
     Line "Solo", 32, 0.5, 0.8, {{
         g5! - - a5 ~bb5 - . d5, | bb5! - a5 g5, - f5 . . | d5, - g5! - a5 ~bb5 - c6 | ~d6! - - c6, . ~eb6 - . }}
     Line "Lead", 32, 0.5, 0.56, {{
@@ -130,7 +130,7 @@ instr Second
         g2! - g2, g2 f2! - f2, f2 | eb2! - - eb2 f2! - f2 a2
         g2! - - f2 bb1! - - d2, | c3! - c3, . f2! - f2 a2, }}
     Line "Bass", 32, 0.5, 0.88, {{
-        g2! g1 g2 g1 f2! . f2 f#2 | eb2! . eb2 bb1 f2! f1 - a1
+        g2! g1 g2 g1 f2! . f2 f1 | eb2! . eb2 bb1 f2! f1 - a1
         g2! g1 . f2 d2! d2 bb1 d2 | c2! c3 c2 . f1! - c2 a1 }}
     Figure "Pluck", 32, 0.25, 0.44, 2, {{
         g4+bb4+d5 f4+bb4+d5 eb4+g4+bb4 f4+a4+c5
@@ -144,7 +144,7 @@ instr Second
     Beat "Crash", 32, 0.5, 0.9, "X"
 
     ; Bars 13 to 16, from G minor to G major and home to E minor.
-    ;   Bbmaj7 Ebmaj7   Cm7 D7   Gmaj7 Am7   F#m7b5 B7
+    ;   Bb Ebmaj7   Cm7 D7   Gmaj7 Am7   F#m7b5 B7
     Line "Solo", 48, 0.5, 0.78, {{
         d6! - - bb5 ~g5 - . bb5, | ~c6 - eb6! - ~d6 - . a5, | ~b5! - - d6 - - c6, b5 | ~a5 - - - . . b4, d#5 }}
     Line "Lead", 56, 0.5, 0.6, "f#5! - - b5 a5 - e5 - | c5 - e5 - . . . ."

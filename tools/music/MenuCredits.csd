@@ -23,7 +23,7 @@ instr First
     Line "Pad", 0, 4, 0.5, "a3+e4+f#4 a3+d4+f#4 b3+d4+f#4 a3+b3+e4"
     Line "Pad", 16, 2, 0.58, "a3+e4+f#4 - a3+c#4+e4 a3+b3+f#4 g3+b3+f#4 - g3+b3+d4 g3+c#4+e4"
     Beat "Shaker", 8, 0.5, 0.7, "3.5.3.5. 3.5.3.57 3.5.3.5. 3.5.3.57 3.5.3.5. 3.5.3.57"
-    Beat "Rim", 12, 0.25, 0.24, "..........4..5.7"
+    Beat "Rim", 12, 0.25, 0.38, "..........4..5.7"
     Beat "Snare", 28, 0.25, 0.26, "..........2.2345"
     Beat "HighTom", 28, 0.25, 0.3, "........5..5...."
     Beat "LowTom", 28, 0.25, 0.36, "............5.7."
@@ -92,7 +92,7 @@ instr Second
         f1 - - - c2, - - - | d2 - - - a1, - - - | bb1 - - - - f2, - - | c2 - - - g1, - - g#1,
         a1 - - - - e2, - - | d2 - - - f#1, - a1, - | g1 - - - d2, - - - | c2 - - - e2, - c2, e1 }}
     Line "Pad", 0, 4, 0.72, "a3+c4+g4 a3+c4+f4 a3+d4+f4 bb3+d4+e4 g3+c4+e4 a3+c4+eb4 a3+bb3+f4 bb3+e4+g4"
-    Beat "Snare", 12, 0.25, 0.2, "..........3..4.5"
+    Beat "Snare", 12, 0.25, 0.4, "..........3..4.5"
     Beat "Snare", 28, 0.25, 0.26, "........2..2.345"
     Beat "HighTom", 28, 0.25, 0.36, "........6..6...."
     Beat "LowTom", 28, 0.25, 0.4, "............7.8."
@@ -119,7 +119,8 @@ instr Second
     Beat "Snare", 44, 0.25, 0.34, "....2...2.3.3456"
     Beat "Shaker", 32, 0.25, 0.7, "3.1.5.1.3.1.5.1. 3.1.5.1.3.1.5.35 3.3.5.3.3.3.5.3. 3.3.5.5........."
 
-    ; Bars 13 to 20, D major: the verse returns, with a counter-line of the reed, a kit and the pads wide open.
+    ; Bars 13 to 20, D major: the verse returns, with a counter-line of the reed, a kit and the pads wide open,
+    ; from bar 17 on with a voice.
     ;   Dadd9  Bm7  G  A9 | D/F#  G G#dim7  D/A Bm7  Em9 A13
     Line "Flute", 48, 0.5, 0.78, {{
         d5! - - e5 ~f#5 - a5 . | ~b5! - a5 f#5 e5 d5, - . | b4 - d5 - ~g5 - f#5 - | ~e5 - - - . . a4, b4
@@ -130,6 +131,7 @@ instr Second
     Line "Bell", 48, 0.5, 0.34, {{
         . . . . . . . d6 | . . . . . . . f#6 | . . . . . . . a6, | . . . . . e6 b5 .
         . . . . . . . . | . . . . . . . f6 | . . . . . . . a6 | . . . b5 d6 f#6 . . }}
+    Line "Voice", 64, 0.5, 0.3, ". . . . a4 - - - | . . . . b4 - - - | a4 - - - - - . . | . . . . . . . ."
     Figure "Piano", 48, 0.25, 0.46, 2, {{
         d3+a3+e4+f#4 a3+d4+e4 b2+f#3+a3+d4 f#3+a3+d4
         g2+d3+g3+b3 d3+g3+b3 a2+e3+b3+c#4 e3+g3+b3 }}, {{

@@ -75,7 +75,8 @@ instr First
 endin
 
 instr Second
-    ; Bars 1 to 4, A flat lydian: open sea. Drums away but for a touch of the rim, the flute alone over long chords and drops of bells.
+    ; Bars 1 to 4, A flat lydian: open sea. Of the drums a shaker is left, and a touch of the rim; the flute is alone
+    ; over long chords and drops of bells.
     ;   Abmaj7  Bb/Ab  Gm7  Cm9
     Line "Flute", 0, 1/3, 0.64, {{
         g5! - -  - - -  ~eb5 - -  c5 - .   | ~d5 - -  - - f5  bb5 - -  - . .
