@@ -77,7 +77,7 @@ void SetIcon(const Program &Game) {
     }
 }
 
-/// A first launch leaves a whole file to edit, whatever becomes of the start. It is tried once.
+/// A first launch leaves a whole file to edit. It is tried once.
 void WriteFirstOptions(const Program &Game) {
     if (!Game.Writers.SaveOptions(Game.State)) {
         SDL_Log("Failed to create default options config: %s", OptionsFileName);

@@ -10,10 +10,11 @@
 //   reads the events and acts on presses         app/Events, app/KeyHandler, input/, options/
 //   writes the options where that is due         app/Saving, store/
 //   lets the run go on by one step               sim/Step
-//   writes the run where that is due             app/Saving, store/
+//   writes the save state where that is due      app/Saving, store/
 //   asks for the music and plays the sounds      audio/Transport, audio/SfxVoices
 //   draws the screen that is shown               gfx/
-// ShutDown saves and takes all down. All that happens stands in one record, state/GameState.hpp.
+// ShutDown saves and takes all down. The game stands in one record, state/GameState.hpp; the mixer and the
+// devices have their own.
 int main(int /*ArgumentCount*/, char ** /*Arguments*/) {
     UseParentConsole();
     Program program;

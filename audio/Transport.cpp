@@ -112,9 +112,9 @@ void FollowWanted(MusicRuntime &Runtime, std::string_view Wanted, Screen Previou
 }
 
 /// Whether the playing pattern has come to the end of its loop: its position has fallen back. Since it loops
-/// without end, the mixer reports no loops only for a track that has stopped, as after an error in its file;
-/// that is at its end by its length or, without a position, if it does not play. Position is in sample
-/// frames, negative if there is none.
+/// without end, the mixer reports no loops only for a track that never began or has stopped, as after an
+/// error in its file; that is at its end by its length or, without a position, if it does not play. Position
+/// is in sample frames, negative if there is none.
 bool IsAtLoopBoundary(const MusicPlayer &Player, std::int64_t Position) {
     const bool loops = MIX_GetTrackLoops(Player.Track) != 0;
     if (Position >= 0) {

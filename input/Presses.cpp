@@ -34,8 +34,8 @@ std::int32_t BackKey(const BindingTable &Bindings, std::int32_t Button) {
     return acts ? NoKey : ScancodeEscape;
 }
 
-/// The first rule that fits wins. Whatever is bound to them, START pauses or confirms, BACK goes back, and
-/// the directional pad moves.
+/// The first rule that fits wins. Whatever is bound to them, START pauses in play, and the directional pad
+/// moves. Elsewhere START also confirms unless it heals, and BACK goes back unless it is bound otherwise.
 std::int32_t GamepadButtonKey(const GameState &State, std::int32_t Button) {
     const BindingTable &bindings = State.GamepadBindings;
     const bool isBack = IsBound(bindings, PadAction::Back, Button) || Button == SDL_GAMEPAD_BUTTON_BACK;

@@ -101,7 +101,7 @@ void BeginGraphicsEdit(GameState &State, SDL_Window *Window) {
         current.Width, current.Height, State.AspectMode, State.RefreshRate, State.Fullscreen, State.VSync};
     State.GraphicsSnapshotValid = true;
     RebuildDisplayLists(State, Window);
-    SelectSnapshotMode(State); // which the lists have left as it was: this and the revert end alike
+    SelectSnapshotMode(State); // changes nothing here: this and the revert end alike
 }
 
 bool GraphicsEditDirty(const GameState &State) {

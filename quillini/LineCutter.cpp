@@ -152,7 +152,7 @@ void TakeNext(LineCutter &Cutter) {
 CutText CutLines(std::string_view Text) {
     LineCutter cutter;
     cutter.Text = Text;
-    cutter.Cut.Text.reserve(Text.size() + 1); // only a last line without a line feed grows, by that
+    cutter.Cut.Text.reserve(Text.size() + 1); // only a last line that nothing ended grows
     while (cutter.Index < Text.size()) {
         TakeNext(cutter);
     }

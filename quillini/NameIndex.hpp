@@ -21,7 +21,7 @@ public:
     template <class Item>
     typename std::vector<Item>::iterator FindOrAwait(
         std::vector<Item> &List, std::string Item::*Name, std::string_view Wanted) {
-        if (List.empty()) { // a list that gets no second item takes no room here
+        if (List.empty()) { // takes no room while a list has nothing to find
             return List.end();
         }
         NoteNewItems(List, Name);

@@ -13,14 +13,15 @@
 ///
 /// A line is blank, a comment behind ";" or "#", the tag of a section, "[Name]", or a key, "=" or ":", and a
 /// value. "key[] = v" appends to the array key, "key[3] = v" sets its element 3. A value without quotes holds
-/// no blanks, brackets or comment characters; between "..." or '...' all stands as it is but the quote and
-/// the backslash, which take a backslash before them. A comment may follow a tag or a value. "\x" and four
-/// hexadecimal digits are a UTF-16 unit, wherever they stand.
+/// no blanks, brackets or comment characters; between "..." or '...' all stands as it is, but a backslash
+/// before that quote or another backslash, which is taken away. A comment may follow a tag or a value. "\x"
+/// and four hexadecimal digits are a UTF-16 unit, unless the backslash belongs to one before it.
 ///
 /// Text in memory is meant as UTF-8, and so are paths: reading takes other bytes as they are, writing refuses
-/// them (EscapeIniText). Lookups compare exact bytes and walk the lists from the front: documents are small.
-/// Only ReadIniFile has an index of names while it reads, so that its time grows with the length of a file
-/// alone. References and iterators into a list live until a section or an entry is added to it.
+/// those that have not the form of UTF-8 (EscapeIniText). Lookups compare exact bytes and walk the lists from
+/// the front: documents are small. Only ReadIniFile has an index of names while it reads, so that its time
+/// grows with the length of a file alone. References and iterators into a list live until a section or an
+/// entry is added to it.
 namespace quillINI {
 
 /// The section of everything that stands before the first section tag.

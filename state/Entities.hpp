@@ -9,8 +9,8 @@
 // The moving things of a run. Positions are centres in logical pixels, speeds logical pixels a second, times
 // seconds. Where a record has a Lane, that says where the thing is, and X follows from it.
 //
-// What an Enemy, an Obstacle and an Item begin with counts only for a saved one that lacks a key: all that
-// enters the road gets its size, speed, health and points where it is spawned.
+// What an Enemy, an Obstacle and an Item begin with counts, but for HitFlash, only for a saved one that lacks
+// a key: all that enters the road gets its size, speed, health and points where it is spawned.
 
 /// How long a thing flashes that was shot, in seconds.
 inline constexpr float HitFlashSeconds = 0.12F;

@@ -9,7 +9,7 @@
 double RestShare(const ScorePart &Part, double From, double To);
 
 /// The least share of rest in the stretches that follow each other through a part. A stretch is as many whole
-/// bars as make eight beats.
+/// bars as make at least eight beats.
 double LeastRestShare(const Score &Score, const ScorePart &Part);
 
 /// For how many beats the tune goes on without a rest, at most.
