@@ -46,6 +46,18 @@ Piece Scale(int Bars, double Octaves, bool RepeatsTheFirst) {
     return piece;
 }
 
+/// Expects that a measure finds its share of bars to be at most a sixth in each file.
+void ExpectAtMostOneBarInSix(const std::string &What, double (*ShareOfBars)(const Piece &Piece, int Bars)) {
+    for (const auto &[name, mode] : Modes()) {
+        const double first = ShareOfBars(mode.First, mode.Written.Bars);
+        const double second = ShareOfBars(mode.Second, mode.Written.Bars);
+        Show(name, What, 100.0 * first, "% in the first file");
+        Show(name, What, 100.0 * second, "% in the second");
+        EXPECT_LE(first, 1.0 / 6.0) << name;
+        EXPECT_LE(second, 1.0 / 6.0) << name;
+    }
+}
+
 /// Half a second of a tone of 441 Hz on both channels, cut off after the given number of frames.
 Piece Tone(std::size_t Frames, float Amplitude) {
     Piece piece{Rate, 2, {}};
@@ -119,25 +131,11 @@ TEST(Music, PeaksStayThreeDecibelsBelowFullScale) {
 }
 
 TEST(Music, AtMostOneBarInSixIsANearCopyOfAnotherInItsFile) {
-    for (const auto &[name, mode] : Modes()) {
-        const double first = NearCopies(mode.First, mode.Written.Bars);
-        const double second = NearCopies(mode.Second, mode.Written.Bars);
-        Show(name, "bars with a near-copy", 100.0 * first, "% in the first file");
-        Show(name, "bars with a near-copy", 100.0 * second, "% in the second");
-        EXPECT_LE(first, 1.0 / 6.0) << name;
-        EXPECT_LE(second, 1.0 / 6.0) << name;
-    }
+    ExpectAtMostOneBarInSix("bars with a near-copy", NearCopies);
 }
 
 TEST(Music, AtMostOneBarInSixHasTheTextureOfAnotherInItsFile) {
-    for (const auto &[name, mode] : Modes()) {
-        const double first = SameTextures(mode.First, mode.Written.Bars);
-        const double second = SameTextures(mode.Second, mode.Written.Bars);
-        Show(name, "bars with another's texture", 100.0 * first, "% in the first file");
-        Show(name, "bars with another's texture", 100.0 * second, "% in the second");
-        EXPECT_LE(first, 1.0 / 6.0) << name;
-        EXPECT_LE(second, 1.0 / 6.0) << name;
-    }
+    ExpectAtMostOneBarInSix("bars with another's texture", SameTextures);
 }
 
 TEST(Music, StandsInTheMiddle) {

@@ -17,6 +17,10 @@ double Overlap(const ScoreNote &Note, double From, double To) {
     return std::max(0.0, std::min(Note.Start + Note.Length, To) - std::max(Note.Start, From));
 }
 
+bool BeginsWithin(const ScoreNote &Note, double From, double To) {
+    return Note.Start >= From - Rounding && Note.Start < To - Rounding;
+}
+
 /// The starts and lengths of a bar's notes in 48ths of a beat.
 using Rhythm = std::set<std::pair<long, long>>;
 
@@ -24,8 +28,7 @@ Rhythm RhythmOf(const ScorePart &Part, const std::set<std::string> &Players, dou
     Rhythm rhythm;
     for (const Passage &passage : Part.Passages) {
         for (const ScoreNote &note : passage.Notes) {
-            if (Players.contains(passage.Player) && note.Start >= From - Rounding &&
-                note.Start < To - Rounding) {
+            if (Players.contains(passage.Player) && BeginsWithin(note, From, To)) {
                 rhythm.emplace(std::lround((note.Start - From) * 48.0), std::lround(note.Length * 48.0));
             }
         }
@@ -114,7 +117,7 @@ std::set<std::string> PlayersOf(const ScorePart &Part, double From, double To) {
     std::set<std::string> players;
     for (const Passage &passage : Part.Passages) {
         if (std::ranges::any_of(passage.Notes, [From, To](const ScoreNote &Note) {
-                return Note.Start >= From - Rounding && Note.Start < To - Rounding && !Note.Keys.empty();
+                return BeginsWithin(Note, From, To) && !Note.Keys.empty();
             })) {
             players.insert(passage.Player);
         }
