@@ -22,10 +22,12 @@
 
 #include <algorithm>
 #include <cfloat>
+#include <limits>
 
 // Each operation on floats has to round to a float, or the same run comes out differently than elsewhere: the
 // old floating-point unit of 32-bit x86 keeps more digits in between. cmake/Compile.cmake chooses the newer.
 static_assert(FLT_EVAL_METHOD == 0, "floats must be evaluated as floats, on 32-bit x86 by SSE2");
+static_assert(std::numeric_limits<float>::is_iec559, "floats must round as IEEE 754 says");
 
 namespace {
 

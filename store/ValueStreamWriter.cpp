@@ -1,6 +1,9 @@
 #include "store/ValueStream.hpp"
 
 #include <bit>
+#include <limits>
+
+static_assert(std::numeric_limits<double>::is_iec559, "the stream's doubles are written by their bits");
 
 bool ValueStreamWriter::Open(const std::string &NewPath) {
     Path = NewPath;

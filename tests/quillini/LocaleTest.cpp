@@ -1,5 +1,6 @@
 #include "tests/quillini/IniTest.hpp"
 
+#include <bit>
 #include <clocale>
 #include <cstdlib>
 #include <filesystem>
@@ -67,9 +68,12 @@ public:
 #ifdef _WIN32
         EXPECT_NE(std::setlocale(LC_ALL, "German_Germany"), nullptr);
 #else
-        // It is compiled for the test: few machines have one with a comma ready.
+        // It is compiled for the test: few machines have one with a comma ready. An emulated program asks the
+        // tool of the machine that emulates it, which has its numbers in another order.
         const std::filesystem::path place = Made.Path();
-        EXPECT_EQ(std::system(("localedef -i de_DE -f UTF-8 '" + place.string() + "'").c_str()), 0);
+        const std::string order = std::endian::native == std::endian::big ? "big" : "little";
+        const std::string command = "localedef --" + order + "-endian -i de_DE -f UTF-8 '";
+        EXPECT_EQ(std::system((command + place.string() + "'").c_str()), 0);
         setenv("LOCPATH", place.parent_path().c_str(), 1);
         EXPECT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
 #endif

@@ -3,13 +3,15 @@
 #include "state/GameState.hpp"
 
 #include <bit>
+#include <cstddef>
 #include <cstdint>
-#include <sstream>
+#include <random>
 #include <string_view>
 #include <type_traits>
 
 // A checksum of the whole run: every field of the record and every entry of its lists, floats by their bits,
-// and the generator's state. FNV-1a, 64 bits.
+// and the generator by what it will draw, for each standard library writes its state in an order of its own.
+// FNV-1a, 64 bits.
 
 class RecordHash {
 public:
@@ -106,8 +108,9 @@ inline std::uint64_t HashOfRun(const GameState &State) {
     for (std::size_t i = 0; i < State.PendingSounds.Count; ++i) {
         hash.Add(State.PendingSounds.Ids[i]);
     }
-    std::ostringstream generator;
-    generator << State.Rng;
-    hash.AddText(generator.str());
+    std::mt19937 generator = State.Rng;
+    for (std::size_t i = 0; i < std::mt19937::state_size; ++i) {
+        hash.Add(generator());
+    }
     return hash.Value();
 }

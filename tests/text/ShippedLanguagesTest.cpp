@@ -1,5 +1,7 @@
 #include "quillini/quillini.hpp"
 #include "state/GameState.hpp"
+#include "tests/sim/RecordHash.hpp"
+#include "tests/support/Figure.hpp"
 #include "tests/support/Sdl.hpp"
 #include "tests/support/watch/ProgramFolder.hpp"
 #include "text/Languages.hpp"
@@ -153,6 +155,26 @@ TEST(ShippedLanguages, LoadWithoutAWord) {
         EXPECT_EQ(Localization.Texts.size(), TextTable.size()) << Codes[i];
         EXPECT_EQ(folder.FilesRead().back(), Files[i]);
     }
+    Localization = old;
+}
+
+TEST(ShippedLanguages, AreReadAlikeOnEveryMachine) {
+    const LocalizationTable old = std::exchange(Localization, {});
+    SdlWatch watch;
+    const ProgramFolder folder(watch, ShippedData());
+    RecordHash hash;
+    for (const std::string &code : Codes) {
+        GameState state;
+        state.Language = code;
+        LoadLanguage(state);
+        for (const TextRow &row : TextTable) {
+            hash.AddText(GetText(row.Id));
+            hash.AddText("\n");
+        }
+    }
+    TellFigure("languages", hash.Value());
+    // Changes only when a shipped text changes.
+    EXPECT_EQ(hash.Value(), 0x7EB866C03908A353U);
     Localization = old;
 }
 
