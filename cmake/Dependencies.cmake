@@ -1,8 +1,8 @@
 # Finds what the game is built on. scripts/setup writes build/Dependencies.cmake, which names the folders of the
 # libraries that it built itself; without that file only what the system has installed is looked at. For another system
-# there is build/Dependencies<its name>.cmake, and nothing beyond those folders is looked at.
+# there is build/Dependencies<its toolchain file's name>.cmake, and nothing beyond those folders is looked at.
 if(CMAKE_CROSSCOMPILING)
-    set(other_system ${CMAKE_SYSTEM_NAME})
+    cmake_path(GET CMAKE_TOOLCHAIN_FILE STEM other_system)
 endif()
 include(${CMAKE_SOURCE_DIR}/build/Dependencies${other_system}.cmake OPTIONAL)
 if(CMAKE_CROSSCOMPILING)
@@ -21,7 +21,10 @@ endif()
 # Stops the configuration with the one thing there is to do about a missing dependency.
 function(StopWithoutDependency Name Command)
     if(CMAKE_CROSSCOMPILING)
-        string(TOLOWER ${CMAKE_SYSTEM_NAME} Command)
+        set(Command everywhere)
+    endif()
+    if(WIN32)
+        set(Command windows)
     endif()
     message(FATAL_ERROR "${Name} was not found. Run scripts/setup ${Command}, which fetches what is missing, "
         "and configure again.")
@@ -49,17 +52,18 @@ if(TARGET SDL3::Headers)
 endif()
 
 # Real key presses: the tour and the end-to-end tests send them to a window through the XTest extension.
-if(UNIX AND NOT APPLE AND (KESTREL_BUILD_TOOLS OR KESTREL_BUILD_TESTS))
+if(UNIX AND NOT APPLE AND NOT CMAKE_CROSSCOMPILING AND (KESTREL_BUILD_TOOLS OR KESTREL_BUILD_TESTS))
     find_package(X11 QUIET)
     if(NOT TARGET X11::X11 OR NOT TARGET X11::Xtst)
         StopWithoutDependency("X11 with its XTest extension (libx11-dev, libxtst-dev)" test)
     endif()
 endif()
 
-# Nobody has GoogleTest compiled for another system: its sources are those of the distribution.
-if(KESTREL_BUILD_TESTS AND CMAKE_CROSSCOMPILING)
+# Nobody has GoogleTest compiled for another system or another standard library: its sources are those of the
+# distribution.
+if(KESTREL_BUILD_TESTS AND (CMAKE_CROSSCOMPILING OR CMAKE_CXX_FLAGS MATCHES "-stdlib="))
     if(NOT EXISTS /usr/src/googletest/CMakeLists.txt)
-        StopWithoutDependency("GoogleTest" windows)
+        StopWithoutDependency("GoogleTest" everywhere)
     endif()
     add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
 elseif(KESTREL_BUILD_TESTS)
@@ -67,6 +71,9 @@ elseif(KESTREL_BUILD_TESTS)
     if(NOT TARGET GTest::gtest)
         StopWithoutDependency("GoogleTest" test)
     endif()
+endif()
+
+if(KESTREL_BUILD_TESTS AND NOT CMAKE_CROSSCOMPILING)
     find_library(VORBISFILE_LIBRARY vorbisfile)
     find_library(EBUR128_LIBRARY ebur128)
     find_path(VORBISFILE_FOLDER vorbis/vorbisfile.h)
