@@ -1,7 +1,7 @@
 # The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
 .POSIX:
-.PHONY: help check run test bench fuzz faults storms kills soak music film package test-package test-windows install \
-	clean format
+.PHONY: help check run test bench fuzz faults storms kills soak music film package test-package test-windows everywhere \
+	install clean format
 
 PREFIX = /usr/local
 FUZZ_SECONDS = 600
@@ -9,6 +9,7 @@ EVENTS = 10000000
 COUNT = 2000
 SECONDS = 3600
 MAIN_BRANCH = main
+MACHINES =
 # A job is a quarter of a core: most tests in the window wait most of the time (cmake/Tests.cmake).
 CTEST = ctest -j $$(( $$(getconf _NPROCESSORS_ONLN) * 4 ))
 # What measures the game wants a core for itself.
@@ -29,6 +30,7 @@ help:
 	@echo 'make package  make the packages that players install, in build/packages'
 	@echo 'make test-package  make them twice, compare them, and play what is in those for Linux'
 	@echo 'make test-windows  test the game for Windows under wine: its rooms, and its package, the only one it leaves'
+	@echo 'make everywhere  test the rooms as other compilers, processors and Windows have them, or on MACHINES alone'
 	@echo 'make install  install the game below PREFIX ($(PREFIX)); DESTDIR is honoured'
 	@echo 'make format   lay out the code as .clang-format has it'
 	@echo 'make clean    remove build/ (libraries built for this user stay in the cache)'
@@ -130,6 +132,10 @@ test-windows:
 	cmake --preset release
 	cmake --build --preset release --target e2e_tests
 	@tests/windows/test
+
+everywhere:
+	@scripts/setup everywhere
+	@tests/everywhere/test $(MACHINES)
 
 # The set-up is left alone where it has been done: "sudo make install" shall not build the libraries again for root.
 install:
