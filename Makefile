@@ -1,7 +1,7 @@
 # The short commands. Everything real is in CMakePresets.json, and scripts/setup brings what the machine lacks.
 .POSIX:
-.PHONY: help check run test bench fuzz faults storms kills soak music film package test-package test-windows everywhere \
-	install clean format
+.PHONY: help check run test coverage analyze everywhere bench fuzz faults storms kills soak music film package \
+	test-package test-windows install clean format
 
 PREFIX = /usr/local
 FUZZ_SECONDS = 600
@@ -19,6 +19,8 @@ help:
 	@echo 'make check    the daily loop: build the game, run all tests outside the window, lint what is new on this branch'
 	@echo 'make run      set up what is missing, build the game and play it (without a display: a short tour of it)'
 	@echo 'make test     set up what is missing and run everything: the game in its window, its rooms under sanitizers'
+	@echo 'make coverage  run the tests of the rooms and tell which lines and branches they reach, and which lines not'
+	@echo 'make analyze  let every checker look: cppcheck, GCC, clang-tidy, valgrind, ThreadSanitizer'
 	@echo 'make bench    measure drawing, stepping, saving and reading, and the start, memory and pace of the real program'
 	@echo 'make fuzz     feed damaged files to each fuzz target for FUZZ_SECONDS ($(FUZZ_SECONDS))'
 	@echo 'make faults   let one library call fail in each session of the game: every rare one, 22 of those of each frame'
@@ -64,6 +66,23 @@ test:
 	$(CTEST) --preset sanitizers
 	$(CTEST) --preset game
 	$(CTEST_ALONE) --preset measured
+
+# Profiles add up, so those of an earlier run go.
+coverage:
+	@scripts/setup coverage
+	cmake --preset coverage
+	cmake --build --preset coverage --target rooms_tests
+	rm -rf build/coverage/profiles
+	$(CTEST) --preset coverage
+	@tests/coverage/report build/coverage
+
+analyze:
+	@scripts/setup analyze
+	cmake --preset release
+	cmake --build --preset release --target quillini_tests state_tests sim_tests store_tests text_tests e2e_tests
+	cmake --preset threads
+	cmake --build --preset threads --target kestrel-volley audio_tests app_tests
+	@tests/analyze/run
 
 bench:
 	@scripts/setup test
