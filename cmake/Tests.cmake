@@ -68,7 +68,9 @@ function(kestrel_tests name)
         set(tests_SHARDS 1)
     endif()
     set(command ${name}_tests)
+    set(timeout 600)
     if(CMAKE_CROSSCOMPILING_EMULATOR) # there words tell what has passed (below), so a bad result becomes some as well
+        set(timeout 3600)
         set(command sh -c [["$0" "$@" || echo "[  FAILED  ] with the result $?"]]
             ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}_tests>)
     endif()
@@ -76,7 +78,7 @@ function(kestrel_tests name)
         math(EXPR index "${shard} - 1")
         add_test(NAME ${name}.${shard}of${tests_SHARDS} COMMAND ${command} --gtest_brief=1)
         set_tests_properties(${name}.${shard}of${tests_SHARDS} PROPERTIES
-            LABELS "${tests_LABEL}" TIMEOUT 600 PROCESSORS ${jobs_of_a_core}
+            LABELS "${tests_LABEL}" TIMEOUT ${timeout} PROCESSORS ${jobs_of_a_core}
             ENVIRONMENT "GTEST_TOTAL_SHARDS=${tests_SHARDS};GTEST_SHARD_INDEX=${index}")
         if(WIN32 AND CMAKE_CROSSCOMPILING) # wine gives the result 0 where another thread than the first has crashed
             set_tests_properties(${name}.${shard}of${tests_SHARDS} PROPERTIES
