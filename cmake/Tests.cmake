@@ -68,9 +68,12 @@ function(kestrel_tests name)
         set(tests_SHARDS 1)
     endif()
     set(command ${name}_tests)
-    set(timeout 600)
-    if(CMAKE_CROSSCOMPILING_EMULATOR) # there words tell what has passed (below), so a bad result becomes some as well
+    if(CMAKE_CROSSCOMPILING_EMULATOR)
         set(timeout 3600)
+    else()
+        set(timeout 600)
+    endif()
+    if(WIN32 AND CMAKE_CROSSCOMPILING) # there words tell what has passed (below), so a bad result becomes some as well
         set(command sh -c [["$0" "$@" || echo "[  FAILED  ] with the result $?"]]
             ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}_tests>)
     endif()
