@@ -77,12 +77,14 @@ function(kestrel_tests name)
         set(command sh -c [["$0" "$@" || echo "[  FAILED  ] with the result $?"]]
             ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}_tests>)
     endif()
+    # Where a program that counts what it reaches leaves that (preset coverage): a file for all of its shards.
+    set(counted LLVM_PROFILE_FILE=${PROJECT_BINARY_DIR}/profiles/${name}-%m.profraw)
     foreach(shard RANGE 1 ${tests_SHARDS})
         math(EXPR index "${shard} - 1")
         add_test(NAME ${name}.${shard}of${tests_SHARDS} COMMAND ${command} --gtest_brief=1)
         set_tests_properties(${name}.${shard}of${tests_SHARDS} PROPERTIES
             LABELS "${tests_LABEL}" TIMEOUT ${timeout} PROCESSORS ${jobs_of_a_core}
-            ENVIRONMENT "GTEST_TOTAL_SHARDS=${tests_SHARDS};GTEST_SHARD_INDEX=${index}")
+            ENVIRONMENT "GTEST_TOTAL_SHARDS=${tests_SHARDS};GTEST_SHARD_INDEX=${index};${counted}")
         if(WIN32 AND CMAKE_CROSSCOMPILING) # wine gives the result 0 where another thread than the first has crashed
             set_tests_properties(${name}.${shard}of${tests_SHARDS} PROPERTIES
                 PASS_REGULAR_EXPRESSION "\\[  PASSED  \\]" FAIL_REGULAR_EXPRESSION "\\[  FAILED  \\];Unhandled")

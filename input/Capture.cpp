@@ -25,18 +25,12 @@ BindingTable &JoystickTable(GameState &State) {
 }
 
 void ClearRow(GameState &State) {
-    switch (State.CaptureKind) {
-    case CaptureKindKeyboard:
+    if (State.CaptureKind == CaptureKindKeyboard) {
         ClearKeyboardBinding(KeyboardTable(State), State.CaptureKeyboardRow);
-        break;
-    case CaptureKindGamepad:
+    } else if (State.CaptureKind == CaptureKindGamepad) {
         ClearGamepadBinding(GamepadTable(State), State.CaptureGamepadRow);
-        break;
-    case CaptureKindJoystick:
+    } else {
         ClearJoystickBinding(JoystickTable(State), State.CaptureJoystickRow);
-        break;
-    case CaptureKindNone:
-        break;
     }
 }
 

@@ -55,7 +55,7 @@ ValueToken ValueStreamReader::NextToken() {
     if (TakeNumber(tag) && tag <= static_cast<std::uint8_t>(LastTag)) {
         token.Tag = static_cast<ValueTag>(tag);
     }
-    if (token.Tag == ValueTag::None || !ReadValue(token)) {
+    if (!ReadValue(token)) {
         Position = start; // so that every later read fails in the same place
         return {};
     }

@@ -1,5 +1,6 @@
 #include "gfx/Atlas.hpp"
 
+#include "gfx/SpriteMaps.hpp"
 #include "tests/gfx/Art.hpp"
 #include "tests/gfx/GfxTest.hpp"
 
@@ -152,6 +153,15 @@ TEST_F(Atlas, PaintsNothingForAnIdThatIsNoSprite) {
         PaintSprite(Renderer(), static_cast<SpriteId>(id), 20.0F, 20.0F);
     }
     EXPECT_EQ(Shown().BoundsOfAllBut(Backdrop).w, 0);
+}
+
+TEST_F(Atlas, TakesASymbolWithoutAColourForTransparent) {
+    SpriteMap map;
+    map.Legend[9] = 0xFF112233;
+    EXPECT_EQ(SymbolColor(map, 'J'), 0xFF112233U);
+    EXPECT_EQ(SymbolColor(map, 'A'), 0U);
+    EXPECT_EQ(SymbolColor(map, '@'), 0U); // before 'A'
+    EXPECT_EQ(SymbolColor(map, 'K'), 0U);
 }
 
 TEST_F(Atlas, IsEmptyOnceItIsDestroyed) {

@@ -93,6 +93,8 @@ TEST_F(Tiled, DrawsNothingWithoutWidthHeightOrScale) {
     EXPECT_TRUE(DrawsNothing(10.0F, -5.0F, 2.0F));
     EXPECT_TRUE(DrawsNothing(10.0F, 10.0F, 0.0F));
     EXPECT_TRUE(DrawsNothing(10.0F, 10.0F, -2.0F));
+    EXPECT_TRUE(DrawsNothing(0.000001F, 10.0F, 2.0F)); // 100 and this are 100 in single precision
+    EXPECT_TRUE(DrawsNothing(10.0F, 0.000001F, 2.0F));
     EXPECT_FALSE(DrawsNothing(10.0F, 10.0F, 2.0F));
 }
 
