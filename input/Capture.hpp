@@ -27,9 +27,10 @@ void BeginCapture(GameState &State, std::int32_t Row);
 /// Ends a capture, if one runs, and changes no binding.
 void EndCapture(GameState &State);
 
-/// What a key means to a running capture: Escape ends it, Delete and Backspace unbind the row, any other key
-/// is bound if the capture waits for a key, and does nothing if it waits for a button. What binds or unbinds
-/// ends the capture. The table is the pending one while the page is in edit, otherwise the applied one.
+/// What a key means to a running capture: Escape ends it, Delete and Backspace unbind the row with the sound
+/// of confirming, any other key is bound if the capture waits for a key, and does nothing if it waits for a
+/// button. What binds or unbinds ends the capture. The table is the pending one while the page is in edit,
+/// otherwise the applied one.
 void HandleCaptureKey(GameState &State, std::int32_t Scancode);
 
 /// Binds the button of a press on the open gamepad or joystick if a capture waits for one of that kind, and

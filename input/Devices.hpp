@@ -3,9 +3,9 @@
 #include <SDL3/SDL.h>
 
 /// The one gamepad and the one joystick that the game listens to; a joystick is a device that SDL does not
-/// know as a gamepad. A device that is open is to be closed by the owner, with CloseInputDevices. One that is
-/// not is null, with an id of 0. A latch is set from a stick's menu press to one side until it is back near
-/// the centre or presses to the other side (AxisToMenuKey).
+/// know as a gamepad. Where none is open the pointer is null and the id 0; what is open the owner closes with
+/// CloseInputDevices. A latch is set from a stick's menu press to one side until it is back near the centre
+/// or presses to the other side (AxisToMenuKey).
 struct InputDevices {
     SDL_Gamepad *Gamepad = nullptr;
     SDL_JoystickID GamepadId = 0;

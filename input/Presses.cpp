@@ -15,6 +15,11 @@ static_assert(ScancodeReturn == SDL_SCANCODE_RETURN && ScancodeEscape == SDL_SCA
                   ScancodeBackspace == SDL_SCANCODE_BACKSPACE && LastScancode == SDL_SCANCODE_COUNT - 1 &&
                   LastGamepadButton == SDL_GAMEPAD_BUTTON_MISC6,
     "the keys and buttons are SDL's");
+static_assert(DefaultKeyboardBindings == BindingTable{SDL_SCANCODE_LEFT, SDL_SCANCODE_RIGHT,
+                                             SDL_SCANCODE_LCTRL, SDL_SCANCODE_X, SDL_SCANCODE_SPACE});
+static_assert(DefaultGamepadBindings == BindingTable{SDL_GAMEPAD_BUTTON_SOUTH, SDL_GAMEPAD_BUTTON_WEST,
+                                            SDL_GAMEPAD_BUTTON_NORTH, SDL_GAMEPAD_BUTTON_SOUTH,
+                                            SDL_GAMEPAD_BUTTON_EAST});
 static_assert(UnboundKey == NoKey, "a button that heals gives no key where the keyboard's row is unbound");
 
 /// What a button gives that is bound to healing: in play the keyboard's key for it, otherwise nothing.

@@ -16,5 +16,6 @@ std::int32_t AxisToMenuKey(std::int16_t Value, bool &NegativeLatch, bool &Positi
     std::int32_t NegativeScancode, std::int32_t PositiveScancode);
 
 /// What a press on the open gamepad or joystick means, as a scancode of the keyboard; NoKey if it means
-/// nothing on this screen, and for every other event. A stick's motion changes the latches of its device.
+/// nothing on this screen, and for every other event. Off ScreenPlaying a stick's motion changes the latches
+/// of its device.
 std::int32_t TranslatePress(const GameState &State, InputDevices &Devices, const SDL_Event &Event);

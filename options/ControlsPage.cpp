@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::int32_t DeviceCount = 3;
 
-/// Shows the next device's table, also where no such device is open.
+/// Shows another device's table, also where no such device is open.
 void CycleDevice(GameState &State, std::int32_t Direction) {
     State.PendingControlsDevice =
         static_cast<enum ControlsDevice>(StepRound(State.PendingControlsDevice, Direction, DeviceCount));
@@ -59,7 +59,7 @@ void Activate(GameState &State) {
     case ControlsRow::Back:
         Leave(State);
         break;
-    default:
+    default: // a row of the table
         BeginCapture(State, selection - static_cast<std::int32_t>(ControlsRow::FirstBinding));
         break;
     }

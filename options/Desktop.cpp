@@ -39,7 +39,7 @@ void UseDesktopSize(GameState &State) {
         return;
     }
     State.AspectMode = RatioMatches(mode->w, mode->h, 4, 3) ? AspectClassic4x3 : AspectWidescreen;
-    State.Resolutions.assign(1, Resolution{mode->w, mode->h});
+    State.Resolutions = {Resolution{mode->w, mode->h}};
     State.ResolutionIndex = 0;
     ComputeLogicalWidth(State.AspectMode, mode->w, mode->h);
 }

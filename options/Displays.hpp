@@ -8,7 +8,7 @@ struct GameState;
 SDL_DisplayID FirstDisplay();
 
 /// Refills DisplayModes, Resolutions and RefreshRates from the display of the window, or the first one where
-/// Window is null. Resolutions are the sizes that fit the aspect mode, or the built-in ones where none fits.
-/// ResolutionIndex then points to the size that was current before, or else is DefaultResolutionIndex, at
-/// most the last. A RefreshRate that is not offered there becomes automatic (0).
+/// that is unknown or Window is null. Resolutions are the sizes that fit the aspect mode, or the built-in
+/// ones where none fits. ResolutionIndex then points to the size that was current before, or else is
+/// DefaultResolutionIndex, at most the last. A RefreshRate that is not offered there becomes automatic (0).
 void RebuildDisplayLists(GameState &State, SDL_Window *Window);

@@ -32,7 +32,7 @@ void StepRefreshRate(GameState &State, std::int32_t Direction) {
     State.RefreshRate = rates[static_cast<std::size_t>(next)];
 }
 
-/// The snapshot's resolution and rate, in lists that have just been rebuilt.
+/// Selects the snapshot's resolution and rate, as far as the lists, which have just been rebuilt, have them.
 void SelectSnapshotMode(GameState &State) {
     const GraphicsSnapshot &snapshot = State.GraphicsSnapshot;
     State.ResolutionIndex =

@@ -39,7 +39,7 @@ struct Temper {
     std::int32_t ShotDamage;
 };
 
-// Drawn on top, in seconds.
+// The most that a draw adds to the least seconds.
 constexpr float ThinkSpread = 0.32F;
 constexpr float ReloadSpread = 0.55F;
 
@@ -83,8 +83,8 @@ std::int32_t DrawLaneStep(GameState &State, std::int32_t Lane) {
     return 0;
 }
 
-/// Whether another enemy stands in a lane beside this one.
-bool IsLaneBlocked(const Turn &Turn, const Enemy &Enemy, std::int32_t Lane) {
+/// Whether another enemy stands beside this one, in the given lane.
+bool IsEnemyBeside(const Turn &Turn, const Enemy &Enemy, std::int32_t Lane) {
     for (std::size_t j = 0; j < Turn.Others.size(); ++j) {
         const Snapshot &other = Turn.Others[j];
         if (j != Turn.Index && other.Lane == Lane &&
@@ -95,8 +95,8 @@ bool IsLaneBlocked(const Turn &Turn, const Enemy &Enemy, std::int32_t Lane) {
     return false;
 }
 
-/// Whether an obstacle will stand in a lane beside this enemy when it has moved on in this step.
-bool IsLaneObstructed(const Turn &Turn, const Enemy &Enemy, std::int32_t Lane) {
+/// Whether an obstacle will stand beside this enemy, in the given lane, at the end of this step.
+bool IsObstacleBeside(const Turn &Turn, const Enemy &Enemy, std::int32_t Lane) {
     const float x = LaneCenterX(Lane);
     return std::ranges::any_of(Turn.State.Obstacles, [&](const Obstacle &Obstacle) {
         return CircleHitsRect(x, Enemy.Y, Enemy.Radius, Obstacle.X, PredictedY(Turn.State, Obstacle, Turn.dt),
@@ -106,8 +106,8 @@ bool IsLaneObstructed(const Turn &Turn, const Enemy &Enemy, std::int32_t Lane) {
 
 void Decide(const Turn &Turn, Enemy &Enemy) {
     const std::int32_t target = ClampLane(Enemy.Lane + DrawLaneStep(Turn.State, Enemy.Lane));
-    if (target != Enemy.Lane && !IsLaneBlocked(Turn, Enemy, target) &&
-        !IsLaneObstructed(Turn, Enemy, target)) {
+    if (target != Enemy.Lane && !IsEnemyBeside(Turn, Enemy, target) &&
+        !IsObstacleBeside(Turn, Enemy, target)) {
         Enemy.Lane = target;
     }
     Enemy.AiTimer = RandomFloat(Turn.State, 0.0F, 1.0F) * ThinkSpread + TemperOf(Enemy).LeastThinkSeconds;

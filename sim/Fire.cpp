@@ -10,7 +10,8 @@ namespace {
 constexpr float SalvoCost = 3.0F;
 constexpr float DualSalvoCost = 4.5F;
 constexpr float FireSeconds = 0.1F;
-constexpr float RefillPauseSeconds = 0.24F; ///< longer than FireSeconds: no refill between held shots
+constexpr float RefillPauseSeconds = 0.24F;
+static_assert(RefillPauseSeconds > FireSeconds, "no refill between the salvos of a held gun");
 constexpr float RefillPerSecond = 26.0F;
 constexpr float MuzzleDistance = 14.0F;
 constexpr float DualMuzzleOffset = 6.0F;

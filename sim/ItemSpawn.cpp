@@ -25,7 +25,7 @@ ItemType DrawType(GameState &State) {
     const bool kitsFull = State.FirstAidKits >= MaxFirstAidKits;
     const bool bombsFull = State.Bombs >= MaxBombs;
     const float health = static_cast<float>(State.Player.Hp) / static_cast<float>(State.Player.MaxHp);
-    // Each bound is the one before it and the weight of its type.
+    // Each bound is the one before it plus the weight of its type.
     const float firstAid = (1.0F - health) * 0.95F + (kitsFull ? 0.03F : 0.35F);
     const float bomb = firstAid + (bombsFull ? 0.05F : 0.7F);
     const float invincibility = bomb + (State.InvincibilityPowerTimer > 0.0F ? 0.08F : 0.3F);

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr float OuterLaneDistance = 30.0F; ///< of a lane's centre from the road's edge
+constexpr float OuterLaneDistance = 30.0F; ///< of the outermost centres from the road's edges
 constexpr float LaneDistance = (RoadWidth - 2.0F * OuterLaneDistance) / static_cast<float>(LaneCount - 1);
 
 template <typename Thing> void SnapThings(std::vector<Thing> &Things) {

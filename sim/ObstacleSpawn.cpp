@@ -27,9 +27,10 @@ constexpr std::array<ObstacleKind, 3> ObstacleKinds{{
     {ObstacleTypeLog, 0.82F, 34.0F, 18.0F, 2, 120},
     {ObstacleTypeRock, 1.0F, 26.0F, 24.0F, 3, 150},
 }};
+static_assert(ObstacleKinds.back().ChanceUpTo == 1.0F, "every draw finds a kind");
 
 const ObstacleKind &DrawKind(GameState &State) {
-    const float r = RandomFloat(State, 0.0F, 1.0F); // below 1, so a kind is found
+    const float r = RandomFloat(State, 0.0F, 1.0F);
     return *std::ranges::find_if(ObstacleKinds, [r](const ObstacleKind &Kind) {
         return r < Kind.ChanceUpTo;
     });

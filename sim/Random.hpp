@@ -15,7 +15,7 @@ float RandomFloat(GameState &State, float A, float B);
 /// A uniform draw in 0 to N - 1; N is at least 1.
 std::uint32_t RandomIndex(GameState &State, std::uint32_t N);
 
-/// The nine lanes in a random order, from four draws.
+/// The nine lanes in a random order, by four calls of RandomIndex.
 LaneOrder ShuffledLanes(GameState &State);
 
 /// -1 or +1.

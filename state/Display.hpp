@@ -3,7 +3,7 @@
 #include <compare>
 #include <cstdint>
 
-/// Which shapes are offered: all those of ResolutionAllowed from 3:2 to 32:9, or 4:3 alone.
+/// Which shapes are offered: the wide ones from 3:2 to 32:9 that ResolutionAllowed names, or 4:3 alone.
 enum AspectMode : std::int32_t {
     AspectWidescreen = 0,
     AspectClassic4x3 = 1,

@@ -6,11 +6,12 @@
 
 #include <cstdint>
 
-// The moving things of a run. Positions are centres in logical pixels, speeds logical pixels a second, times
-// seconds. Where a record has a Lane, that says where the thing is, and X follows from it.
+// The moving things of a run. Positions are centres in logical pixels, times seconds, speeds logical pixels a
+// second; those of an Enemy, an Obstacle and an Item hold at a road speed scale of 1. Where a record has a
+// Lane, that says where the thing is, and X follows from it.
 //
-// What an Enemy, an Obstacle and an Item begin with counts, but for HitFlash, only for a saved one that lacks
-// a key: all that enters the road gets its size, speed, health and points where it is spawned.
+// The initial values of an Enemy, an Obstacle and an Item stand in for keys that a saved one lacks. What
+// enters the road gets its own where it is spawned, all but HitFlash.
 
 /// How long a thing flashes that was shot, in seconds.
 inline constexpr float HitFlashSeconds = 0.12F;
@@ -74,7 +75,7 @@ struct Enemy {
     std::int32_t Lane = MiddleLane;
     std::int32_t Hp = 1;
     std::int32_t Score = 200; ///< points before stage scaling
-    struct Color Color;
+    struct Color Color;       ///< not drawn: how an enemy looks goes by its Hp
 
     bool operator==(const Enemy &) const = default;
 };

@@ -36,8 +36,8 @@ struct GameState {
     float GameTime = 0.0F;                       ///< time driven in this run
     float RoadScroll = 0.0F;                     ///< distance scrolled; grows without wrapping
     float CurrentScrollSpeed = FirstStageSpeed;  ///< pixels a second, smoothed
-    float StageTransition = 1.0F;                ///< share of the screen scrolled since the last stage change
-    float SpawnTimer = 0.0F; ///< until the next enemy, in seconds scaled by the road speed
+    float StageTransition = 1.0F; ///< screen heights scrolled since the last stage change, at most 1
+    float SpawnTimer = 0.0F;      ///< until the next enemy, in seconds scaled by the road speed
     float ObstacleSpawnTimer = FirstObstacleSeconds; ///< the same until the next obstacle
     float ItemSpawnTimer = FirstItemSeconds;         ///< and until the next item
     float ReadyBanner = 0.0F;                        ///< READY is shown while above 0

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-// The keys that move menus, as SDL scancodes. They are fixed: rebinding does not touch them.
+// The keys of the menus, as SDL scancodes. They are fixed: rebinding does not touch them.
 
 inline constexpr std::int32_t ScancodeA = 4;
 inline constexpr std::int32_t ScancodeD = 7;

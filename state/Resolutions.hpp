@@ -14,11 +14,12 @@ bool RatioMatches(std::int32_t Width, std::int32_t Height, std::int32_t RatioWid
 /// Whether the shape is 64:27, 43:18, 21:9 or 12:5.
 bool IsUltrawide(std::int32_t Width, std::int32_t Height);
 
-/// Whether the Graphics page offers this size in this aspect mode.
+/// Whether a size has a shape of the aspect mode: 4:3, or one of 16:9, 16:10, 3:2, 32:9 and the ultrawide
+/// ones.
 bool ResolutionAllowed(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height);
 
 /// Sets the global LogicalWidth, rather than return a value, by the aspect mode and the shape of a
-/// resolution.
+/// resolution. What is on the road is not moved along.
 void ComputeLogicalWidth(enum AspectMode AspectMode, std::int32_t Width, std::int32_t Height);
 
 /// The sizes offered where no size of a display fits the aspect mode, smallest first.
