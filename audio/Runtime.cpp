@@ -51,7 +51,7 @@ bool CreateMusicTrack(const GameState &State, MusicRuntime &Runtime) {
 }
 
 void CreateSfx(const GameState &State, MusicRuntime &Runtime) {
-    // What an earlier start on the same record may have left must not leak.
+    // A record that is new or was shut down has none; those of any other must not leak.
     DestroySfxTracks(Runtime);
     DestroySfxAudio(Runtime);
     CreateSfxAudio(Runtime);

@@ -142,11 +142,11 @@ template <typename Screen> void PlayBack(benchmark::State &Bench, const Picture 
     }
 }
 
-using Bench = void (*)(benchmark::State &Bench, const Picture &Drawn);
+using BenchFunction = void (*)(benchmark::State &Bench, const Picture &Drawn);
 
 /// The time of all threads counts: OpenGL draws on several. A target is near what is measured, so each is
 /// measured some times over.
-void Register(const std::string &Name, Bench Run, const Picture &Drawn) {
+void Register(const std::string &Name, BenchFunction Run, const Picture &Drawn) {
     benchmark::RegisterBenchmark(Name.c_str(), Run, Drawn)
         ->MeasureProcessCPUTime()
         ->MinTime(0.1)

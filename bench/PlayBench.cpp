@@ -17,7 +17,7 @@
 namespace {
 
 constexpr std::chrono::seconds MenuTime{5};
-constexpr std::chrono::seconds Settling{2}; // after the start, and after a screen has changed
+constexpr std::chrono::seconds Settling{2}; // after a screen has changed
 
 /// A key that is pressed, what it leads to, and the name of what is measured there; null for nothing.
 struct Step {
@@ -140,7 +140,6 @@ double SizeOfMusic() {
 
 void MeasurePlay(const DrawingWay &Way, std::chrono::seconds PlayTime, Measurements &Results) {
     std::printf("Playing for %d seconds (%s) ...\n", static_cast<int>(PlayTime.count()), Way.Name);
-    std::fflush(stdout);
     MeasureGame(Way, PlayTime, Results);
     MeasureBareProgram(Way, Results);
     Results["Music"] = {SizeOfMusic(), "MiB"};

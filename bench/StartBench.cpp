@@ -33,9 +33,9 @@ struct WatchedDisplay {
 };
 
 /// Waits until the program's picture has gone with its window.
-void WaitForEmptyScreen(const WatchedDisplay &Desk) {
-    const bool isEmpty = WaitUntil([&Desk] {
-        return !Desk.Screen.ShowsAnything();
+void WaitForEmptyScreen(const WatchedDisplay &Watched) {
+    const bool isEmpty = WaitUntil([&Watched] {
+        return !Watched.Screen.ShowsAnything();
     });
     if (!isEmpty) {
         throw std::runtime_error("The screen does not become empty again");
@@ -45,18 +45,18 @@ void WaitForEmptyScreen(const WatchedDisplay &Desk) {
 
 /// Launches a program and kills it when it has shown its first picture. The time between, in milliseconds.
 double TimeToFirstPicture(const std::filesystem::path &Program, const PreparedHome &Home,
-    const DrawingWay &Way, const WatchedDisplay &Desk) {
+    const DrawingWay &Way, const WatchedDisplay &Watched) {
     using std::chrono::steady_clock;
-    const Environment variables = SessionEnvironment(Home.Path(), Desk.Display.Name(), Way.Settings);
+    const Environment variables = SessionEnvironment(Home.Path(), Watched.Display.Name(), Way.Settings);
     const steady_clock::time_point launch = steady_clock::now();
     ChildProcess program(Program, {}, variables);
     WaitUntil(
         [&] {
-            return Desk.Screen.ShowsAnything() || !program.IsRunning();
+            return Watched.Screen.ShowsAnything() || !program.IsRunning();
         },
         PatientDeadline, Glance);
     const std::chrono::duration<double, std::milli> time = steady_clock::now() - launch;
-    if (!Desk.Screen.ShowsAnything()) {
+    if (!Watched.Screen.ShowsAnything()) {
         throw std::runtime_error(Program.string() + " shows nothing. It says:\n" + program.Output());
     }
     program.Send(SIGKILL);
@@ -75,10 +75,10 @@ public:
         RunOnce(Program, *Home, DrawnBy);
     }
 
-    void StartOnce(const WatchedDisplay &Desk) {
+    void StartOnce(const WatchedDisplay &Watched) {
         const PreparedHome fresh;
-        Times.push_back(TimeToFirstPicture(Program, Home ? *Home : fresh, DrawnBy, Desk));
-        WaitForEmptyScreen(Desk);
+        Times.push_back(TimeToFirstPicture(Program, Home ? *Home : fresh, DrawnBy, Watched));
+        WaitForEmptyScreen(Watched);
     }
 
     Measurement Result() {
@@ -95,10 +95,10 @@ private:
 };
 
 void MeasureInTurn(const std::string &Name, StartSeries &Game, StartSeries &Bare, int Count,
-    const WatchedDisplay &Desk, Measurements &Results) {
+    const WatchedDisplay &Watched, Measurements &Results) {
     for (int i = 0; i < Count; ++i) {
-        Game.StartOnce(Desk);
-        Bare.StartOnce(Desk);
+        Game.StartOnce(Watched);
+        Bare.StartOnce(Watched);
     }
     Results[Name + "/Game"] = Game.Result();
     Results[Name + "/Bare"] = Bare.Result();

@@ -51,8 +51,8 @@ std::optional<double> ResultOf(const Row &Asked, const Measurements &Results) {
     return std::nullopt;
 }
 
-std::string ResultText(const Row &Told, double Result) {
-    switch (Told.By) {
+std::string ResultText(const Row &Asked, double Result) {
+    switch (Asked.By) {
     case Judgement::Part:
         return Fixed(Result * 100.0, 0) + " % of it";
     case Judgement::Ratio:
@@ -69,26 +69,27 @@ bool HasTarget(Judgement By) {
 }
 
 /// A row's target in the words of its result; empty if it has none.
-std::string TargetText(const Row &Told) {
-    switch (Told.By) {
+std::string TargetText(const Row &Asked) {
+    switch (Asked.By) {
     case Judgement::Value:
-        return Fixed(Told.Most, 0) + " %";
+        return Fixed(Asked.Most, 0) + " %";
     case Judgement::Ratio:
-        return Fixed(Told.Most, 2);
+        return Fixed(Asked.Most, 2);
     case Judgement::Excess:
-        return Fixed(Told.Most, 0) + " MiB";
+        return Fixed(Asked.Most, 0) + " MiB";
     default:
         return "";
     }
 }
 
-std::string RowText(const Row &Told, const Measurements &Results, std::optional<double> Result, bool IsKept) {
-    const std::optional<Measurement> ours = Find(Results, Told.Ours);
+std::string RowText(
+    const Row &Asked, const Measurements &Results, std::optional<double> Result, bool IsKept) {
+    const std::optional<Measurement> ours = Find(Results, Asked.Ours);
     const std::optional<Measurement> bare =
-        Told.By != Judgement::Part ? Find(Results, Told.Bare) : std::nullopt;
-    return std::string("| ") + Told.Words + " | " + (ours ? ValueText(*ours) : "not measured") + " | " +
-           (bare ? ValueText(*bare) : "") + " | " + (Result ? ResultText(Told, *Result) : "") + " | " +
-           TargetText(Told) + (IsKept ? "" : " **missed**") + " |\n";
+        Asked.By != Judgement::Part ? Find(Results, Asked.Bare) : std::nullopt;
+    return std::string("| ") + Asked.Words + " | " + (ours ? ValueText(*ours) : "not measured") + " | " +
+           (bare ? ValueText(*bare) : "") + " | " + (Result ? ResultText(Asked, *Result) : "") + " | " +
+           TargetText(Asked) + (IsKept ? "" : " **missed**") + " |\n";
 }
 
 bool IsLeftOut(const Row &Asked, bool IsMeasured, TableWish Wish) {

@@ -153,6 +153,7 @@ bool MeasureAll(const Wishes &Wanted) {
 } // namespace
 
 int main(int ArgumentCount, char **Arguments) {
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ); // each line at once, into a file or pipe as well
     RegisterDrawBenches();
     benchmark::Initialize(&ArgumentCount, Arguments);
     Wishes wishes;

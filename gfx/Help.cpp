@@ -68,7 +68,7 @@ float ItemStep() {
         wanted = std::max(wanted, (NameWidth(i - 1) + NameWidth(i)) * 0.5F + NameGap);
         widest = std::max(widest, NameWidth(i));
     }
-    const float margin = std::max(ItemSize * 0.5F, widest * 0.5F) + ScreenMargin;
+    const float margin = std::max(ItemSize, widest) * 0.5F + ScreenMargin;
     const float room = (static_cast<float>(LogicalWidth) - 2.0F * margin) / StepCount;
     return std::min(std::max(room, MinItemStep), wanted);
 }

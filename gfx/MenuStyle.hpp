@@ -12,12 +12,12 @@
 
 // What the screens around a run have in common. Colours are 0xAABBGGRR.
 
-inline constexpr std::uint32_t SelectedColor = 0xFFF5F5F5;   ///< the selected row and its marker, headings
-inline constexpr std::uint32_t UnselectedColor = 0xFFB4B4B4; ///< other rows of options and pause panel
-inline constexpr std::uint32_t NameColor = 0xFFB9B9B9;       ///< other rows of the main menu, names elsewhere
-inline constexpr std::uint32_t PageTitleColor = 0xFFF0F0F0;  ///< options and help
-inline constexpr std::uint32_t SectionColor = 0xFFFFAF69;    ///< section headings of the options
-inline constexpr std::uint32_t BodyColor = 0xFFDCDCDC;       ///< text of the help page
+inline constexpr std::uint32_t SelectedColor = 0xFFF5F5F5;  ///< the selected row and its marker, headings
+inline constexpr std::uint32_t RowColor = 0xFFB4B4B4;       ///< other rows of options and pause panel
+inline constexpr std::uint32_t NameColor = 0xFFB9B9B9;      ///< other rows of the main menu, names elsewhere
+inline constexpr std::uint32_t PageTitleColor = 0xFFF0F0F0; ///< options and help
+inline constexpr std::uint32_t SectionColor = 0xFFFFAF69;   ///< section headings of the options
+inline constexpr std::uint32_t BodyColor = 0xFFDCDCDC;      ///< text of the help page
 inline constexpr std::uint32_t HintColor = 0xFFE1E1E1;
 inline constexpr std::uint32_t PromptColor = 0xFFAAFF78; ///< what a binding capture waits for
 
@@ -42,9 +42,9 @@ struct RowStyle {
 
 // NOT-BUGS: The marker stands 28 pixels before a row of the main menu
 inline constexpr RowStyle MainMenuRowStyle{MenuScale, 36.0F, 28.0F, 4.0F, NameColor};
-inline constexpr RowStyle PauseRowStyle{MenuScale, 48.0F, 27.0F, 4.0F, UnselectedColor};
-inline constexpr RowStyle OptionsMainRowStyle{PageScale, 34.0F, 27.0F, 0.0F, UnselectedColor};
-inline constexpr RowStyle OptionsRowStyle{PageScale, 34.0F, 24.0F, 0.0F, UnselectedColor};
+inline constexpr RowStyle PauseRowStyle{MenuScale, 48.0F, 27.0F, 4.0F, RowColor};
+inline constexpr RowStyle OptionsMainRowStyle{PageScale, 34.0F, 27.0F, 0.0F, RowColor};
+inline constexpr RowStyle OptionsRowStyle{PageScale, 34.0F, 24.0F, 0.0F, RowColor};
 
 /// The x of the logical screen's middle.
 float ScreenCenterX();

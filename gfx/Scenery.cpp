@@ -73,8 +73,7 @@ int FirstMark(float RoadScroll, int Period) {
     return FloorModulo(RoadScroll, Period) - Period;
 }
 
-/// Y brought onto the screen.
-float OnScreen(float Y) {
+float ClampToScreen(float Y) {
     return std::clamp(Y, 0.0F, LogicalHeightF);
 }
 
@@ -108,8 +107,8 @@ void FillRails(SDL_Renderer *Renderer, float Top, float Height, std::uint32_t Pa
 }
 
 void DrawRails(SDL_Renderer *Renderer, float RoadScroll, float Y0, float Y1) {
-    const float y0 = OnScreen(Y0);
-    const float y1 = OnScreen(Y1);
+    const float y0 = ClampToScreen(Y0);
+    const float y1 = ClampToScreen(Y1);
     if (y0 >= y1) {
         return;
     }
@@ -195,8 +194,8 @@ void DrawRoadside(SDL_Renderer *Renderer, std::int32_t Theme, float RoadScroll, 
     if (!theme.HasShrubs) {
         return;
     }
-    const float y0 = OnScreen(Y0);
-    const float y1 = OnScreen(Y1);
+    const float y0 = ClampToScreen(Y0);
+    const float y1 = ClampToScreen(Y1);
     float y = std::fmod(RoadScroll, ShrubPeriod) - ShrubPeriod;
     while (y < LogicalHeightF + ShrubPeriod) {
         DrawShrub(Renderer, theme.Shrub, RoadLeft() - ShrubSize, y + LeftShrubShift, y0, y1);

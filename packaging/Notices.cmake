@@ -12,7 +12,7 @@ function(ReadParagraph File Result)
     string(STRIP "${text}" text)
     string(REPLACE "\n" "\n " text "${text}")
     string(REPLACE "\n \n" "\n .\n" text "${text}")
-    string(REPLACE "\n \n" "\n .\n" text "${text}")
+    string(REPLACE "\n \n" "\n .\n" text "${text}") # the first time misses every second of empty lines in a row
     set(${Result} "${text}" PARENT_SCOPE)
 endfunction()
 

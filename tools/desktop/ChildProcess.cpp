@@ -116,15 +116,15 @@ ChildProcess::ChildProcess(const std::filesystem::path &Program, const std::vect
     if (Id == 0) {
         BecomeProgram(program.c_str(), wordPointers.data(), settingPointers.data(), output, failure.Writer);
     }
+    int reason = errno; // fork's, if it failed
     close(failure.Writer);
-    int reason = 0;
     const bool failed = Id < 0 || read(failure.Reader, &reason, sizeof reason) > 0;
     close(failure.Reader);
     if (failed) {
         if (Id > 0) {
             waitpid(Id, nullptr, 0);
         }
-        throw std::runtime_error(program + " cannot be started: " + std::strerror(Id < 0 ? errno : reason));
+        throw std::runtime_error(program + " cannot be started: " + std::strerror(reason));
     }
 }
 

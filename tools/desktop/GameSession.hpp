@@ -16,9 +16,9 @@
 // Whether a window manager looks after the display. Without one a window stays as large as it was opened.
 enum class Desk { Bare, Managed };
 
-// The environment in which a session starts its program, in a home folder that exists: nothing of the
-// person's own, no sound, no controller, and SDL's own renderer. Settings come on top or replace these, or
-// take them away where they are empty.
+// The environment in which a session starts its program: nothing of the person's own, no sound, no
+// controller, and SDL's own renderer. Settings come on top or replace these, or take them away where they are
+// empty. Home exists; the folders for data, caches and the like are made in it.
 Environment SessionEnvironment(
     const std::filesystem::path &Home, const std::string &DisplayName, const Environment &Settings);
 

@@ -146,12 +146,7 @@ std::optional<Area> FindCreditsText(const Screenshot &Seen) {
         return std::nullopt;
     }
     const Area screen{0, 0, Seen.Width, Seen.Height};
-    const Area headings = BoundsOfColor(Seen, screen, SelectedColor);
-    const Area names = BoundsOfColor(Seen, screen, NameColor);
-    if (headings == Area{} || names == Area{}) {
-        const Area &only = headings == Area{} ? names : headings;
-        return only == Area{} ? std::nullopt : std::optional(only);
-    }
-    return Area{std::min(headings.Left, names.Left), std::min(headings.Top, names.Top),
-        std::max(headings.Right, names.Right), std::max(headings.Bottom, names.Bottom)};
+    const Area text =
+        Around(BoundsOfColor(Seen, screen, SelectedColor), BoundsOfColor(Seen, screen, NameColor));
+    return text == Area{} ? std::nullopt : std::optional(text);
 }

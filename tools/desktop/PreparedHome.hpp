@@ -10,7 +10,7 @@
 // an earlier one has left. It goes with everything in it when this record goes.
 class PreparedHome {
 public:
-    // Puts a file of the game's own folder, in which its options and its saved run lie, with just that text.
+    // Puts a file with just that text into the game's own folder, where its options and its saved run lie.
     // Throws std::runtime_error if that fails.
     void Put(const std::string &Name, const std::string &Text) const;
     // The text of a file of that folder; nothing if there is no such file.

@@ -34,7 +34,8 @@ constexpr Pixel TextColor{0xEB, 0xEB, 0xEB};
 constexpr int TextLeft = 24;
 constexpr int TextHeight = 24;
 constexpr int DigitAdvance = 21;
-constexpr int ScoreWidth = 8 * DigitAdvance;
+constexpr int ScoreDigits = 8;
+constexpr int ScoreWidth = ScoreDigits * DigitAdvance;
 constexpr int ScoreTop = 122;
 constexpr int HighScoreTop = 190;
 
@@ -62,8 +63,12 @@ int RoadCentre(const Screenshot &Seen) {
     return Seen.Width / 2;
 }
 
+int RoadLeft(const Screenshot &Seen) {
+    return RoadCentre(Seen) - RoadWidth / 2;
+}
+
 Area RoadArea(const Screenshot &Seen, int Top, int Bottom) {
-    return {RoadCentre(Seen) - RoadWidth / 2, Top, RoadCentre(Seen) + RoadWidth / 2, Bottom};
+    return {RoadLeft(Seen), Top, RoadLeft(Seen) + RoadWidth, Bottom};
 }
 
 int PanelLeft(const Screenshot &Seen) {
@@ -116,7 +121,7 @@ std::optional<int> LaneOfLowest(const Screenshot &Seen, std::initializer_list<Pi
     std::optional<int> lane;
     int lowest = 0;
     for (int i = 0; i < RoadLanes; ++i) {
-        const int x = RoadArea(Seen, 0, 0).Left + LaneOffsets[static_cast<std::size_t>(i)];
+        const int x = RoadLeft(Seen) + LaneOffsets[static_cast<std::size_t>(i)];
         for (const Pixel &color : Colors) {
             const Area thing = BoundsOfColor(Seen, {x - halfBody, 0, x + halfBody, CarBottom}, color);
             lane = thing.Bottom > lowest ? i : lane;
@@ -134,7 +139,7 @@ int IconsShown(const Screenshot &Seen, int Top, Pixel Color) {
     }));
 }
 
-// Which pixels of eight digits in the left column are lit.
+// Which pixels of a score's digits in the left column are lit.
 std::vector<bool> DigitsAt(const Screenshot &Seen, int Top) {
     std::vector<bool> lit;
     ForEachPixel(
@@ -173,7 +178,7 @@ std::optional<int> FindCarLane(const Screenshot &Seen) {
     if (!car) {
         return std::nullopt;
     }
-    const int offset = (car->Left + car->Right) / 2 - RoadArea(Seen, 0, 0).Left;
+    const int offset = (car->Left + car->Right) / 2 - RoadLeft(Seen);
     const auto *const lane = std::find_if(LaneOffsets.begin(), LaneOffsets.end(), [offset](int Centre) {
         return std::abs(offset - Centre) <= LaneTolerance;
     });
@@ -190,10 +195,11 @@ std::vector<Area> FindShots(const Screenshot &Seen) {
         const auto shot = std::find_if(shots.begin(), shots.end(), [&](const Area &Known) {
             return Touches(Known, X, Y);
         });
+        const Area dot{X, Y, X + 1, Y + 1};
         if (shot == shots.end()) {
-            shots.push_back({X, Y, X + 1, Y + 1});
+            shots.push_back(dot);
         } else {
-            *shot = {std::min(shot->Left, X), shot->Top, std::max(shot->Right, X + 1), Y + 1};
+            *shot = Around(*shot, dot);
         }
     });
     return shots;
@@ -258,13 +264,13 @@ bool ScoreEquals(const Screenshot &Seen, const Screenshot &Other) {
 
 bool ScoreIsZero(const Screenshot &Seen) {
     constexpr int scale = 3;
-    for (int digit = 0; digit < 8; ++digit) {
+    for (int digit = 0; digit < ScoreDigits; ++digit) {
         const int left = TextLeft + digit * DigitAdvance;
         for (int row = 0; row < GlyphRows; ++row) {
             for (int column = 0; column < GlyphColumns; ++column) {
                 const bool lit = PixelAt(Seen, left + column * scale, ScoreTop + row * scale) == TextColor;
-                if (lit !=
-                    ((ZeroRows[static_cast<std::size_t>(row)] >> (GlyphColumns - 1 - column) & 1) != 0)) {
+                const int squares = ZeroRows[static_cast<std::size_t>(row)];
+                if (lit != ((squares >> (GlyphColumns - 1 - column) & 1) != 0)) {
                     return false;
                 }
             }

@@ -10,7 +10,8 @@
 
 inline constexpr int RoadLanes = 9;
 
-// Where the road's outer edges are, found by the two edge lines that run down the whole screen.
+// The road's outer edges, Right the first column outside, found by the two edge lines that run down the whole
+// screen; nothing where these are not seen.
 struct RoadPlace {
     int Left = 0;
     int Right = 0;

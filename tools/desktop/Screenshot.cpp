@@ -2,14 +2,13 @@
 
 #include <algorithm>
 
-namespace {
-
 Area Around(const Area &One, const Area &Other) {
+    if (One == Area{} || Other == Area{}) {
+        return One == Area{} ? Other : One;
+    }
     return {std::min(One.Left, Other.Left), std::min(One.Top, Other.Top), std::max(One.Right, Other.Right),
         std::max(One.Bottom, Other.Bottom)};
 }
-
-} // namespace
 
 Area Overlap(const Screenshot &Seen, Area Wanted) {
     return {std::max(Wanted.Left, 0), std::max(Wanted.Top, 0), std::min(Wanted.Right, Seen.Width),
@@ -27,9 +26,8 @@ Area BoundsOfColor(const Screenshot &Seen, Area Inside, Pixel Color) {
             continue;
         }
         const auto last = std::find(row.rbegin(), row.rend(), Packed(Color));
-        const Area found{area.Left + static_cast<int>(first - row.begin()), y,
-            area.Left + static_cast<int>(row.rend() - last), y + 1};
-        bounds = bounds == Area{} ? found : Around(bounds, found);
+        bounds = Around(bounds, {area.Left + static_cast<int>(first - row.begin()), y,
+                                    area.Left + static_cast<int>(row.rend() - last), y + 1});
     }
     return bounds;
 }

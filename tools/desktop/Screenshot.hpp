@@ -53,6 +53,9 @@ inline std::span<const std::uint32_t> RowOf(const Screenshot &Seen, int Y, int L
         .subspan(row + static_cast<std::size_t>(Left), static_cast<std::size_t>(Right - Left));
 }
 
+// The smallest area around both; one that is all 0 does not count.
+Area Around(const Area &One, const Area &Other);
+
 // The part of Wanted that lies on the picture; without any pixel if they do not meet.
 Area Overlap(const Screenshot &Seen, Area Wanted);
 

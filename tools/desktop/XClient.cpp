@@ -130,7 +130,7 @@ Screenshot ToScreenshot(const XImage &Image) {
 // several times as much.
 class SharedImage {
 public:
-    // For a screen of that size, which may not outlive the connection.
+    // For a screen of that size. To be destroyed before the connection.
     SharedImage(Display *Owner, int Width, int Height);
     ~SharedImage();
     SharedImage(const SharedImage &) = delete;
@@ -216,9 +216,9 @@ struct XClient::Connection {
 XClient::XClient(const std::string &DisplayName) {
     XInitThreads(); // each thread may have a display of its own
     XSetErrorHandler(IgnoreError);
-    Server = std::make_unique<Connection>(DisplayName);
+    Link = std::make_unique<Connection>(DisplayName);
     int ignored = 0;
-    if (XTestQueryExtension(Server->Server, &ignored, &ignored, &ignored, &ignored) == False) {
+    if (XTestQueryExtension(Link->Server, &ignored, &ignored, &ignored, &ignored) == False) {
         throw std::runtime_error(
             "The X display " + DisplayName + " has no XTEST extension to press keys with");
     }
@@ -227,7 +227,7 @@ XClient::XClient(const std::string &DisplayName) {
 XClient::~XClient() = default;
 
 std::optional<DesktopWindow> XClient::FindWindow(const std::string &TitlePrefix) {
-    return FindBelow(Server->Server, XDefaultRootWindow(Server->Server), TitlePrefix);
+    return FindBelow(Link->Server, XDefaultRootWindow(Link->Server), TitlePrefix);
 }
 
 std::optional<DesktopWindow> XClient::WaitForWindow(
@@ -245,7 +245,7 @@ bool XClient::GiveFocus(const DesktopWindow &Target, std::chrono::milliseconds D
     const auto hasFocus = [&] {
         Window focused = None;
         int revert = 0;
-        XGetInputFocus(Server->Server, &focused, &revert);
+        XGetInputFocus(Link->Server, &focused, &revert);
         return focused == Target.Id;
     };
     return WaitUntil(
@@ -253,7 +253,7 @@ bool XClient::GiveFocus(const DesktopWindow &Target, std::chrono::milliseconds D
             if (hasFocus()) {
                 return true;
             }
-            XSetInputFocus(Server->Server, Target.Id, RevertToParent, CurrentTime);
+            XSetInputFocus(Link->Server, Target.Id, RevertToParent, CurrentTime);
             return hasFocus();
         },
         Deadline);
@@ -263,32 +263,32 @@ void XClient::RequestClose(const DesktopWindow &Target) {
     XEvent event{};
     event.xclient.type = ClientMessage;
     event.xclient.window = Target.Id;
-    event.xclient.message_type = XInternAtom(Server->Server, "WM_PROTOCOLS", False);
+    event.xclient.message_type = XInternAtom(Link->Server, "WM_PROTOCOLS", False);
     event.xclient.format = 32;
-    event.xclient.data.l[0] = static_cast<long>(XInternAtom(Server->Server, "WM_DELETE_WINDOW", False));
+    event.xclient.data.l[0] = static_cast<long>(XInternAtom(Link->Server, "WM_DELETE_WINDOW", False));
     event.xclient.data.l[1] = CurrentTime;
-    XSendEvent(Server->Server, Target.Id, False, NoEventMask, &event);
-    XSync(Server->Server, False);
+    XSendEvent(Link->Server, Target.Id, False, NoEventMask, &event);
+    XSync(Link->Server, False);
 }
 
 void XClient::PressKey(Key Pressed) {
-    Server->MoveKey(Pressed, True, RestMilliseconds);
-    XSync(Server->Server, False);
+    Link->MoveKey(Pressed, True, RestMilliseconds);
+    XSync(Link->Server, False);
 }
 
 void XClient::ReleaseKey(Key Released) {
-    Server->MoveKey(Released, False, 0);
-    XSync(Server->Server, False);
+    Link->MoveKey(Released, False, 0);
+    XSync(Link->Server, False);
 }
 
 void XClient::TapKey(Key Tapped, std::chrono::milliseconds Held) {
-    Server->MoveKey(Tapped, True, RestMilliseconds);
-    Server->MoveKey(Tapped, False, static_cast<unsigned long>(Held.count()));
-    XSync(Server->Server, False);
+    Link->MoveKey(Tapped, True, RestMilliseconds);
+    Link->MoveKey(Tapped, False, static_cast<unsigned long>(Held.count()));
+    XSync(Link->Server, False);
 }
 
 bool XClient::HasWindowManager() {
-    Display *server = Server->Server;
+    Display *server = Link->Server;
     Atom type = None;
     int format = 0;
     unsigned long length = 0;
@@ -303,18 +303,18 @@ bool XClient::HasWindowManager() {
 
 bool XClient::KeysRepeat() {
     XKeyboardState keyboard{};
-    XGetKeyboardControl(Server->Server, &keyboard);
+    XGetKeyboardControl(Link->Server, &keyboard);
     return keyboard.global_auto_repeat == AutoRepeatModeOn;
 }
 
 Screenshot XClient::Look() {
-    Display *server = Server->Server;
+    Display *server = Link->Server;
     XWindowAttributes screen{};
     XGetWindowAttributes(server, XDefaultRootWindow(server), &screen);
-    if (Server->Shared == nullptr || !Server->Shared->HasSize(screen.width, screen.height)) {
-        Server->Shared = std::make_unique<SharedImage>(server, screen.width, screen.height);
+    if (Link->Shared == nullptr || !Link->Shared->HasSize(screen.width, screen.height)) {
+        Link->Shared = std::make_unique<SharedImage>(server, screen.width, screen.height);
     }
-    const XImage *seen = Server->Shared->Read();
+    const XImage *seen = Link->Shared->Read();
     std::unique_ptr<XImage, DestroyImage> sent;
     if (seen == nullptr) {
         sent.reset(

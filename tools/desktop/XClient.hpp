@@ -21,7 +21,8 @@ struct DesktopWindow {
 // The hands and eyes of a person before an X display: keys, windows, and what the screen shows.
 class XClient {
 public:
-    // Throws std::runtime_error if the display cannot be reached or knows no test keys.
+    // Throws std::runtime_error if the display cannot be reached or knows no test keys. From then on no
+    // failed request to an X server ends the process, whoever made it.
     explicit XClient(const std::string &DisplayName);
     ~XClient();
     XClient(const XClient &) = delete;
@@ -37,7 +38,8 @@ public:
     // Asks the window to close, as its close button would. Whether it does is its own affair.
     void RequestClose(const DesktopWindow &Target);
 
-    // Real key movements, as from a keyboard: they reach the window that has the focus.
+    // Real key movements, as from a keyboard: they reach the window that has the focus. They throw
+    // std::runtime_error if the display's keyboard lacks the key.
     void PressKey(Key Pressed);
     void ReleaseKey(Key Released);
     // Presses the key and has the X server release it Held later, however late we run ourselves. Comes back
@@ -50,10 +52,10 @@ public:
     // Whether the keyboard sends a key that is held again and again.
     bool KeysRepeat();
 
-    // What the whole screen shows now.
+    // What the whole screen shows now. Throws std::runtime_error if it cannot be read with 24 bits a pixel.
     Screenshot Look();
 
 private:
     struct Connection;
-    std::unique_ptr<Connection> Server;
+    std::unique_ptr<Connection> Link;
 };

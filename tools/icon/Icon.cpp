@@ -38,7 +38,7 @@ bool PaintCar(SDL_Surface *Picture) {
 
 bool SavePicture(int Size, const std::filesystem::path &File) {
     SDL_Surface *picture = SDL_CreateSurface(Size, Size, SDL_PIXELFORMAT_RGBA32);
-    const bool saved = picture != nullptr && PaintCar(picture) && SDL_SavePNG(picture, File.c_str());
+    const bool saved = picture != nullptr && PaintCar(picture) && SDL_SavePNG(picture, File.string().c_str());
     SDL_DestroySurface(picture);
     return saved;
 }

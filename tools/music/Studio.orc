@@ -62,7 +62,7 @@ opcode Bend, a, a
     xout aUnder + aSign * 0.18 * tanh(aOver / 0.18)
 endop
 
-; Takes out what differs between the sides below 120 Hz, and leaves a share of it above.
+; Leaves a share of what differs between the sides, but not in the bass: two filters at 150 Hz leave little below 120.
 opcode Narrow, aa, aai
     aLeft, aRight, iWidth xin
     aMiddle = (aLeft + aRight) * 0.5
@@ -75,6 +75,7 @@ instr Desk
     iLevel = p4
     iRoom = p5
     iPush = p6
+    iWidth = p7
     aEchoLeft, aEchoRight Echo gaEchoLeft, gaEchoRight
     aRoomLeft, aRoomRight reverbsc gaRoomLeft + aEchoLeft * 0.2, gaRoomRight + aEchoRight * 0.2, 0.78, 7500, sr, 0
     aRoomLeft buthp aRoomLeft, 240
@@ -82,7 +83,7 @@ instr Desk
     aGap = 1 - iPush * limit(gaPush, 0, 1)
     aLeft = (gaLeft + aEchoLeft) * aGap + gaDrumLeft + aRoomLeft * iRoom
     aRight = (gaRight + aEchoRight) * aGap + gaDrumRight + aRoomRight * iRoom
-    aLeft, aRight Narrow aLeft, aRight, p7
+    aLeft, aRight Narrow aLeft, aRight, iWidth
     aLeft Equalise aLeft
     aRight Equalise aRight
     gaMasterLeft Bend aLeft * iLevel

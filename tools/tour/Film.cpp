@@ -3,8 +3,8 @@
 // place of those that an earlier film left there.
 
 #include "tools/desktop/GameSession.hpp"
-#include "tools/desktop/MenuSight.hpp"
 #include "tools/desktop/ScreenshotFile.hpp"
+#include "tools/desktop/Sights.hpp"
 
 #include <algorithm>
 #include <array>
@@ -103,17 +103,11 @@ std::vector<Screenshot> Film(XClient &Person) {
 
 bool StartRun(GameSession &Session) {
     constexpr Milliseconds held = 60ms;
-    const auto isMenu = [](const Screenshot &Seen) {
-        return FindScreen(Seen) == SeenScreen::MainMenu;
-    };
-    const auto isPlaying = [](const Screenshot &Seen) {
-        return FindScreen(Seen) == SeenScreen::Playing;
-    };
-    if (!Session.WaitForWindow() || !Session.WaitForPicture(isMenu)) {
+    if (!Session.WaitForWindow() || !Session.WaitForPicture(ScreenIs(SeenScreen::MainMenu))) {
         return false;
     }
     Session.Person().TapKey(Key::Return, held);
-    return Session.WaitForPicture(isPlaying).has_value();
+    return Session.WaitForPicture(ScreenIs(SeenScreen::Playing)).has_value();
 }
 
 // Names sort as the pictures follow one another.
