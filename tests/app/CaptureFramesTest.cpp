@@ -35,7 +35,7 @@ protected:
     }
 
     void OpenControls() {
-        EnterOptions(State);
+        EnterOptions(State, ScreenMainMenu);
         State.OptionsPage = OptionsPageControls;
         BeginControlsEdit(State);
         State.PendingKeyboard = PendingKeys;

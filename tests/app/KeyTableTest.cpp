@@ -83,8 +83,7 @@ KeyMoment MainMenuWithoutARun() {
 /// On the row BACK.
 KeyMoment OptionsMainPage() {
     KeyMoment moment{"OptionsMainPage", BusyGame(ScreenOptions), {}};
-    EnterOptions(moment.Before);
-    moment.Before.OptionsReturnScreen = ScreenPaused;
+    EnterOptions(moment.Before, ScreenPaused);
     moment.Before.OptionsMainSelection = 3;
     Add(moment.Table, UpKeys, Move(&GameState::OptionsMainSelection, 2));
     Add(moment.Table, DownKeys, Move(&GameState::OptionsMainSelection, 0));
@@ -98,7 +97,7 @@ KeyMoment OptionsMainPage() {
 /// On the page of the controls with its edit begun, and on the row of the third binding.
 KeyMoment ControlsPage() {
     KeyMoment moment{"ControlsPage", BusyGame(ScreenOptions), {}};
-    EnterOptions(moment.Before);
+    EnterOptions(moment.Before, ScreenMainMenu);
     moment.Before.OptionsPage = OptionsPageControls;
     BeginControlsEdit(moment.Before);
     moment.Before.PendingControlsDevice = ControlsDeviceGamepad;
@@ -185,7 +184,7 @@ KeyMoment CapturingAKey() {
 /// On the row VSYNC, with the edit begun.
 KeyMoment GraphicsPage() {
     KeyMoment moment{"GraphicsPage", BusyGame(ScreenOptions), {}};
-    EnterOptions(moment.Before);
+    EnterOptions(moment.Before, ScreenMainMenu);
     moment.Before.OptionsPage = OptionsPageGraphics;
     BeginGraphicsEdit(moment.Before, nullptr);
     moment.Before.GraphicsSelection = 4;
@@ -211,7 +210,7 @@ KeyMoment GraphicsPage() {
 /// On the row MUSIC VOLUME, with the edit begun.
 KeyMoment AudioPage() {
     KeyMoment moment{"AudioPage", BusyGame(ScreenOptions), {}};
-    EnterOptions(moment.Before);
+    EnterOptions(moment.Before, ScreenMainMenu);
     moment.Before.OptionsPage = OptionsPageAudio;
     BeginAudioEdit(moment.Before);
     moment.Before.AudioSelection = 1;

@@ -10,8 +10,7 @@ constexpr std::int32_t BackRow = 3;
 class OptionsKeys : public KeyTest {
 protected:
     OptionsKeys() : KeyTest(ScreenOptions) {
-        EnterOptions(State);
-        State.OptionsReturnScreen = ScreenPaused;
+        EnterOptions(State, ScreenPaused);
     }
 
     void ExpectRows(const Scancodes &Keys, const std::vector<std::int32_t> &Next) {
@@ -208,8 +207,9 @@ TEST_F(OptionsKeys, TheMainPageKeepsItsRowUntilTheNextVisit) {
 
 TEST_F(OptionsKeys, EnteringForgetsPageCaptureAndEdits) {
     State = BusyGame(ScreenPaused);
-    EnterOptions(State);
+    EnterOptions(State, ScreenPaused);
     EXPECT_EQ(State.Screen, ScreenOptions);
+    EXPECT_EQ(State.OptionsReturnScreen, ScreenPaused);
     EXPECT_EQ(State.OptionsPage, OptionsPageMain);
     EXPECT_FALSE(State.CaptureActive);
     EXPECT_EQ(State.CaptureKind, 0);
