@@ -1,13 +1,8 @@
-#include "app/Events.hpp"
 #include "app/OptionsKeys.hpp"
 #include "options/ControlsPage.hpp"
 #include "sim/NewRun.hpp"
-#include "tests/app/ProgramTest.hpp"
-#include "tests/app/PushEvents.hpp"
+#include "tests/app/DeviceTest.hpp"
 #include "tests/support/Sounds.hpp"
-#include "tests/support/VirtualDevice.hpp"
-
-#include <optional>
 
 namespace {
 
@@ -15,23 +10,12 @@ constexpr BindingTable PendingKeys{201, 202, 203, 204, 205};
 constexpr BindingTable PendingPad{21, 22, 23, 24, 25};
 constexpr BindingTable PendingStick{31, 32, 33, 34, 35};
 
-/// Captures of the Controls page with real devices, through SDL's own events. The applied bindings are the
-/// defaults; the pending ones are told above.
-class CaptureFrames : public RunningTest {
+/// Captures of the Controls page. The applied bindings are the defaults; the pending ones are told above.
+class CaptureFrames : public DeviceTest {
 protected:
     void SetUp() override {
-        RunningTest::SetUp();
-        if (HasRealDevices()) {
-            GTEST_SKIP() << "a real pad or joystick is plugged in";
-        }
-        ForgetEvents();
+        DeviceTest::SetUp();
         OpenControls();
-    }
-
-    void TearDown() override {
-        Stop(); // before the devices go
-        Pad.reset();
-        Stick.reset();
     }
 
     void OpenControls() {
@@ -43,28 +27,9 @@ protected:
         State.PendingJoystick = PendingStick;
     }
 
-    void PlugInPad() {
-        Pad.emplace(GamepadShape);
-        DrainEvents(Program);
-        ASSERT_EQ(Program.Devices.GamepadId, Pad->Id);
-    }
-
-    void PlugInStick() {
-        Stick.emplace(JoystickShape);
-        DrainEvents(Program);
-        ASSERT_EQ(Program.Devices.JoystickId, Stick->Id);
-    }
-
     void PlugInBoth() {
         PlugInPad();
         PlugInStick();
-    }
-
-    void Tap(VirtualDevice &Device, int Button) {
-        Device.SetButton(Button, true);
-        DrainEvents(Program);
-        Device.SetButton(Button, false);
-        DrainEvents(Program);
     }
 
     /// Moves an axis to its end and back.
@@ -121,9 +86,6 @@ protected:
     void ExpectCancelled() {
         ExpectEnded(PendingKeys, PendingPad, PendingStick, {SfxId::UiBack});
     }
-
-    std::optional<VirtualDevice> Pad;
-    std::optional<VirtualDevice> Stick;
 
 private:
     void ExpectTables(const BindingTable &Keys, const BindingTable &PadTable, const BindingTable &StickTable,

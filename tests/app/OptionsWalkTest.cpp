@@ -154,8 +154,7 @@ protected:
     }
 
     bool IsOnBack() {
-        return !State.CaptureActive &&
-               SelectionOf(State, State.OptionsPage) == BackRowOf(State.OptionsPage);
+        return !State.CaptureActive && SelectionOf(State, State.OptionsPage) == BackRowOf(State.OptionsPage);
     }
 
     /// Presses a drawn key, but never APPLY.
