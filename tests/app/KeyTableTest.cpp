@@ -144,7 +144,7 @@ KeyMoment CapturingAButton() {
         Add(moment.Table, keys, HearOnly(SfxId::UiMove));
     }
     Add(moment.Table, ActivateKeys, HearOnly(SfxId::UiConfirm));
-    Add(moment.Table, {EscapeKey}, EndCaptureWith({SfxId::UiBack}, [](GameState &) {}));
+    Add(moment.Table, {EscapeKey}, EndCaptureWith({SfxId::UiBack}, Nothing));
     Add(moment.Table, ClearKeys, EndCaptureWith({SfxId::UiConfirm}, [](GameState &Expected) {
         Expected.PendingJoystick[4] = -1;
     }));
@@ -236,7 +236,7 @@ KeyMoment AudioPage() {
 KeyMoment Help() {
     KeyMoment moment{"Help", BusyGame(ScreenHelp), {}};
     moment.Before.HelpReturnScreen = ScreenPaused;
-    Add(moment.Table, {40, 88, 41}, Go(SfxId::UiBack, ScreenPaused));
+    Add(moment.Table, LeaveKeys, Go(SfxId::UiBack, ScreenPaused));
     return moment;
 }
 
@@ -276,7 +276,7 @@ KeyMoment Paused() {
 
 KeyMoment Credits() {
     KeyMoment moment{"Credits", BusyGame(ScreenCredits), {}};
-    Add(moment.Table, {40, 88, 41}, Go(SfxId::UiBack, ScreenMainMenu));
+    Add(moment.Table, LeaveKeys, Go(SfxId::UiBack, ScreenMainMenu));
     return moment;
 }
 

@@ -12,6 +12,8 @@
 /// What a key does to the record, done to a copy by hand.
 using Change = std::function<void(GameState &Expected)>;
 
+inline const Change Nothing = [](GameState &) {};
+
 /// A game on a screen, in the middle of a run, in which no field stands at what a key would make it: a field
 /// that a key sets or resets by mistake is seen. A sound of the run is already waiting.
 GameState BusyGame(enum Screen Screen);

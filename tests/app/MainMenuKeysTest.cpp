@@ -189,7 +189,7 @@ TEST_F(MainMenuKeys, AnEscapeFromARowPastTheLastQuitsAsWell) {
 
 TEST_F(MainMenuKeys, WhatIsNoKeyDoesNotEvenPutTheRowRight) {
     State.MainMenuSelection = 6;
-    ExpectKeys({0, -1, 512}, [](GameState &) {});
+    ExpectKeys({0, -1, 512}, Nothing);
 }
 
 TEST_F(MainMenuKeys, TheRowIsNotRemappedWhenARunComesOrGoes) {

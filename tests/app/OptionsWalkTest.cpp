@@ -115,9 +115,7 @@ bool Activates(std::int32_t Key) {
 class OptionsWalk : public RunningTest {
 protected:
     OptionsWalk() : Random(20240607) {
-        Displays.OfWindow = 7;
-        Displays.Primary = 7;
-        Displays.Add(7, 1920, 1080).Modes = {Mode(2560, 1080, 60.0F), Mode(1920, 1080, 144.0F),
+        Displays.AddOnly(1920, 1080).Modes = {Mode(2560, 1080, 60.0F), Mode(1920, 1080, 144.0F),
             Mode(1920, 1080, 60.0F), Mode(1920, 1200, 75.0F), Mode(1600, 1200, 85.0F),
             Mode(1280, 720, 144.0F), Mode(1280, 720, 60.0F), Mode(1024, 768, 85.0F), Mode(1024, 768, 60.0F),
             Mode(640, 480, 60.0F), Mode(5120, 1440, 120.0F)};

@@ -12,8 +12,6 @@ protected:
     }
 };
 
-const Change Nothing = [](GameState &) {};
-
 const Change Pause = [](GameState &Expected) {
     Hear(Expected, SfxId::UiBack);
     Expected.Screen = ScreenPaused;

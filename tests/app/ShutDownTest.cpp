@@ -2,19 +2,12 @@
 #include "tests/app/ProgramTest.hpp"
 #include "tests/support/VirtualDevice.hpp"
 
-#include <algorithm>
-
 namespace {
 
 using Names = std::vector<std::string>;
 
 class ShuttingDown : public RunningTest {
 protected:
-    void SetUp() override {
-        RunningTest::SetUp();
-        State.SaveRequested = false;
-    }
-
     // The writers, to be noted among the calls.
     WatchedCall<void()> WriteOptions{"the options' writer"};
     WatchedCall<void()> WriteSave{"the save's writer"};
