@@ -2,6 +2,7 @@
 #include "options/ControlsPage.hpp"
 #include "sim/NewRun.hpp"
 #include "tests/app/DeviceTest.hpp"
+#include "tests/support/Keys.hpp"
 #include "tests/support/Sounds.hpp"
 
 namespace {
@@ -165,12 +166,12 @@ TEST_F(CaptureFrames, OfAKeyBindsWhatAGamepadsPressMeans) {
         std::int32_t Key;
         Sounds Heard;
     };
-    for (const Case &press : {Case{SDL_GAMEPAD_BUTTON_SOUTH, 40, {SfxId::UiConfirm}},
-             Case{SDL_GAMEPAD_BUTTON_START, 40, {SfxId::UiConfirm}},
-             Case{SDL_GAMEPAD_BUTTON_DPAD_UP, 82, {SfxId::UiMove}},
-             Case{SDL_GAMEPAD_BUTTON_DPAD_DOWN, 81, {SfxId::UiMove}},
-             Case{SDL_GAMEPAD_BUTTON_DPAD_LEFT, 80, {SfxId::UiMove}},
-             Case{SDL_GAMEPAD_BUTTON_DPAD_RIGHT, 79, {SfxId::UiMove}}}) {
+    for (const Case &press : {Case{SDL_GAMEPAD_BUTTON_SOUTH, EnterKey, {SfxId::UiConfirm}},
+             Case{SDL_GAMEPAD_BUTTON_START, EnterKey, {SfxId::UiConfirm}},
+             Case{SDL_GAMEPAD_BUTTON_DPAD_UP, UpKey, {SfxId::UiMove}},
+             Case{SDL_GAMEPAD_BUTTON_DPAD_DOWN, DownKey, {SfxId::UiMove}},
+             Case{SDL_GAMEPAD_BUTTON_DPAD_LEFT, LeftKey, {SfxId::UiMove}},
+             Case{SDL_GAMEPAD_BUTTON_DPAD_RIGHT, RightKey, {SfxId::UiMove}}}) {
         SCOPED_TRACE(press.Button);
         Capture(ControlsDeviceKeyboard);
         Tap(*Pad, press.Button);
@@ -178,20 +179,20 @@ TEST_F(CaptureFrames, OfAKeyBindsWhatAGamepadsPressMeans) {
     }
     Capture(ControlsDeviceKeyboard);
     Swing(*Pad, SDL_GAMEPAD_AXIS_LEFTX, -32768);
-    ExpectKeyBound(80, {SfxId::UiMove});
+    ExpectKeyBound(LeftKey, {SfxId::UiMove});
 }
 
 TEST_F(CaptureFrames, OfAKeyBindsWhatAJoysticksPressMeans) {
     PlugInStick();
     Capture(ControlsDeviceKeyboard);
     Tap(*Stick, 0);
-    ExpectKeyBound(40, {SfxId::UiConfirm});
+    ExpectKeyBound(EnterKey, {SfxId::UiConfirm});
     Capture(ControlsDeviceKeyboard);
     PointHat(SDL_HAT_DOWN);
-    ExpectKeyBound(81, {SfxId::UiMove});
+    ExpectKeyBound(DownKey, {SfxId::UiMove});
     Capture(ControlsDeviceKeyboard);
     Swing(*Stick, 1, -32768);
-    ExpectKeyBound(82, {SfxId::UiMove});
+    ExpectKeyBound(UpKey, {SfxId::UiMove});
 }
 
 TEST_F(CaptureFrames, OfAKeyGoesOnAtAPressThatMeansNothing) {

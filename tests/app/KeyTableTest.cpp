@@ -339,8 +339,9 @@ TEST_P(KeyTables, HaveNothingOutOfRange) {
 
 /// The keys that move menus are fixed, whatever is bound; only the key that heals is in the tables of play.
 TEST_P(KeyTables, DoNotDependOnTheOtherBindings) {
-    for (const BindingTable &bindings : {BindingTable{4, 7, 22, 26, SpaceBar},
-             BindingTable{40, 41, 81, 82, SpaceBar}, BindingTable{0, -1, 512, 0, SpaceBar}}) {
+    for (const BindingTable &bindings : {BindingTable{AKey, DKey, SKey, WKey, SpaceBar},
+             BindingTable{EnterKey, EscapeKey, DownKey, UpKey, SpaceBar},
+             BindingTable{0, -1, 512, 0, SpaceBar}}) {
         KeyMoment rebound = Moment;
         rebound.Before.KeyboardBindings = bindings;
         rebound.Before.GamepadBindings = bindings;
@@ -381,7 +382,7 @@ TEST_F(KeyDispatch, HandsOnTheFirstAndTheLastScancode) {
 }
 
 TEST_F(KeyDispatch, IsWhatHandlingDoesWithinTheRange) {
-    for (const std::int32_t scancode : {40, 41, 82, 5}) {
+    for (const std::int32_t scancode : {EnterKey, EscapeKey, UpKey, 5}) {
         GameState dispatched = State;
         GameState handled = State;
         DispatchKey(dispatched, nullptr, nullptr, scancode);

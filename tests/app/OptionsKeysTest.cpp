@@ -13,16 +13,6 @@ protected:
         EnterOptions(State, ScreenPaused);
     }
 
-    void ExpectRows(const Scancodes &Keys, const std::vector<std::int32_t> &Next) {
-        for (std::int32_t row = 0; row < 4; ++row) {
-            State.OptionsMainSelection = row;
-            ExpectKeys(Keys, [&Next, row](GameState &Expected) {
-                Hear(Expected, SfxId::UiMove);
-                Expected.OptionsMainSelection = Next.at(static_cast<std::size_t>(row));
-            });
-        }
-    }
-
     /// Expects each activating key to open a page from a row of the main page, and to begin its edit.
     void ExpectPage(std::int32_t Row, enum OptionsPage Page, const Change &BeginEdit) {
         State.OptionsMainSelection = Row;
@@ -40,7 +30,7 @@ protected:
             GameState pressed = State;
             pressed.PendingSounds.Count = 0;
             DispatchKey(pressed, nullptr, nullptr, key);
-            const bool unbinds = key == 76 || key == 42; // delete and backspace
+            const bool unbinds = key == DeleteKey || key == BackspaceKey;
             EXPECT_EQ(SoundsOf(pressed), unbinds ? OfUnbinding : SoundsOfKey(key)) << "scancode " << key;
         }
     }
@@ -48,20 +38,20 @@ protected:
 private:
     static Sounds SoundsOfKey(std::int32_t Scancode) {
         switch (Scancode) {
-        case 82: // up and W
-        case 26:
-        case 81: // down and S
-        case 22:
-        case 80: // left and A
-        case 4:
-        case 79: // right and D
-        case 7:
+        case UpKey:
+        case WKey:
+        case DownKey:
+        case SKey:
+        case LeftKey:
+        case AKey:
+        case RightKey:
+        case DKey:
             return {SfxId::UiMove};
-        case 40: // the two enter keys and the space bar
-        case 88:
-        case 44:
+        case EnterKey:
+        case KeypadEnterKey:
+        case SpaceBar:
             return {SfxId::UiConfirm};
-        case 41:
+        case EscapeKey:
             return {SfxId::UiBack};
         default:
             return {};
@@ -70,16 +60,16 @@ private:
 };
 
 TEST_F(OptionsKeys, UpGoesThroughTheFourRowsAndWraps) {
-    ExpectRows(UpKeys, {3, 0, 1, 2});
+    ExpectRows(&GameState::OptionsMainSelection, UpKeys, {3, 0, 1, 2});
 }
 
 TEST_F(OptionsKeys, DownGoesThroughTheFourRowsAndWraps) {
-    ExpectRows(DownKeys, {1, 2, 3, 0});
+    ExpectRows(&GameState::OptionsMainSelection, DownKeys, {1, 2, 3, 0});
 }
 
 TEST_F(OptionsKeys, LeftAndRightDoNothingOnTheMainPageButSound) {
-    ExpectRows(LeftKeys, {0, 1, 2, 3});
-    ExpectRows(RightKeys, {0, 1, 2, 3});
+    ExpectRows(&GameState::OptionsMainSelection, LeftKeys, {0, 1, 2, 3});
+    ExpectRows(&GameState::OptionsMainSelection, RightKeys, {0, 1, 2, 3});
 }
 
 TEST_F(OptionsKeys, TheFirstRowOpensControls) {

@@ -4,7 +4,7 @@
 
 namespace {
 
-using Names = std::vector<std::string>;
+using Lines = std::vector<std::string>;
 
 class ShuttingDown : public RunningTest {
 protected:
@@ -52,7 +52,7 @@ TEST_F(ShuttingDown, TriesAFailingWriteOnceAndGoesOn) {
     Watch.Forget();
     Stop();
     EXPECT_EQ(log.Lines,
-        (Names{"Failed to write options config: Config.ini", "Failed to write save state: SaveState.bin"}));
+        (Lines{"Failed to write options config: Config.ini", "Failed to write save state: SaveState.bin"}));
     EXPECT_EQ(Watch.Quit.Count(), 1);
 }
 
