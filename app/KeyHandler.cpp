@@ -27,7 +27,7 @@ void HandlePlayingKey(GameState &State, std::int32_t Scancode) {
 
 /// On a page of text Return and Escape both go back, with the sound of going back.
 /// NOT-BUGS: The space bar does not leave help and credits
-void HandleTextPageKey(GameState &State, std::int32_t Scancode, enum Screen ReturnScreen) {
+void HandleTextPageKey(GameState &State, std::int32_t Scancode, Screen ReturnScreen) {
     if (IsKeyEnter(Scancode) || IsKeyEscape(Scancode)) {
         PushSound(State, SfxId::UiBack);
         State.Screen = ReturnScreen;

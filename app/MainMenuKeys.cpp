@@ -19,8 +19,7 @@ void Activate(GameState &State, MainMenuRow Row) {
         StartNewRun(State);
         break;
     case MainMenuRow::Options:
-        State.OptionsReturnScreen = ScreenMainMenu;
-        EnterOptions(State);
+        EnterOptions(State, ScreenMainMenu);
         break;
     case MainMenuRow::Help:
         State.HelpReturnScreen = ScreenMainMenu;

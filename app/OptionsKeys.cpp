@@ -53,7 +53,8 @@ void HandleMainPageKey(GameState &State, SDL_Window *Window, std::int32_t Scanco
 
 } // namespace
 
-void EnterOptions(GameState &State) {
+void EnterOptions(GameState &State, Screen ReturnScreen) {
+    State.OptionsReturnScreen = ReturnScreen;
     State.Screen = ScreenOptions;
     State.OptionsPage = OptionsPageMain;
     EndCapture(State);

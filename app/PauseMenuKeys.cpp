@@ -13,8 +13,7 @@ void Activate(GameState &State, PauseRow Row) {
         State.Screen = ScreenPlaying;
         break;
     case PauseRow::Options:
-        State.OptionsReturnScreen = ScreenPaused;
-        EnterOptions(State);
+        EnterOptions(State, ScreenPaused);
         break;
     case PauseRow::Help:
         State.HelpReturnScreen = ScreenPaused;

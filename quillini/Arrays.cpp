@@ -1,14 +1,15 @@
 #include "quillini/Model.hpp"
-#include "quillini/Text.hpp"
 #include "quillini/quillini.hpp"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdint>
 #include <limits>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -16,12 +17,26 @@ namespace quillINI {
 
 namespace {
 
+/// The number of an element's key, an optional "-" and digits. Throws as AddIniArrayElement does.
+std::int32_t NumberOfKey(std::string_view Key) {
+    std::int32_t number = 0;
+    const char *const end = Key.data() + Key.size();
+    const auto read = std::from_chars(Key.data(), end, number);
+    if (read.ec == std::errc::invalid_argument || read.ptr != end) {
+        throw std::invalid_argument("An array's key is not a number!");
+    }
+    if (read.ec == std::errc::result_out_of_range) {
+        throw std::out_of_range("An array's key is out of range!");
+    }
+    return number;
+}
+
 std::int32_t NextIndexOf(const std::vector<IniEntry> &Elements, ElementNumbers &Known) {
     if (Elements.empty()) {
         return 0;
     }
     for (; Known.Count < Elements.size(); ++Known.Count) {
-        Known.Largest = std::max(Known.Largest, NumberFromText(Elements[Known.Count].Key));
+        Known.Largest = std::max(Known.Largest, NumberOfKey(Elements[Known.Count].Key));
     }
     if (Known.Largest == std::numeric_limits<std::int32_t>::max()) {
         throw std::out_of_range("No index is left behind the largest one!");

@@ -97,8 +97,8 @@ void StoreElement(ReadState &State, std::string_view Name, const ScannedValue &S
     const CurrentSection current = SectionToFill(State);
     IniEntry &array = ArrayToFill(current.Section, FindOrAwaitEntry(current, Name), Name, Index.has_value());
     const auto place = static_cast<std::size_t>(&array - current.Section.Entries.data());
-    // For a short array this is quickly made anew; for thousands of them it would take more room than they
-    // do.
+    // A short array's index is made anew for each element: those of thousands of arrays would take more room
+    // than the arrays do.
     ElementIndex temporary;
     ElementIndex &elements =
         array.Elements.size() < LongArray ? temporary : State.Elements[{current.Place, place}];

@@ -61,7 +61,7 @@ void ReadLines(ReadState &State, const CutText &Cut) {
         begin = end;
         if (!State.Error.empty()) {
             PrintSyntaxError(State.Error);
-            if (end != Cut.LineEnds.back()) {
+            if (end != Cut.LineEnds.back()) { // lines are left unread
                 return;
             }
         }

@@ -18,15 +18,15 @@ constexpr std::string_view TagNotClosed = "Section end tag was not found!\n";
 void ReadSectionTag(ReadState &State, std::string_view Rest) {
     State.Section.clear();
     bool closed = false;
-    // Ends the scan, with one error more if the tag is still open.
-    const auto endTag = [&State, &closed](std::string_view Error = {}) {
+    // Notes an error, if there is one, and another if the tag is still open.
+    const auto noteErrors = [&State, &closed](std::string_view Error = {}) {
         State.Error += Error;
         State.Error += closed ? "" : TagNotClosed;
     };
     for (std::size_t i = 0; i < Rest.size(); ++i) {
         switch (Rest[i]) {
         case '\n':
-            endTag();
+            noteErrors();
             return;
         case ' ': // a section's name holds no blanks
             break;
@@ -38,11 +38,11 @@ void ReadSectionTag(ReadState &State, std::string_view Rest) {
             if (closed) {
                 SetIniSectionComment(SectionToFill(State).Section, CommentText(Rest.substr(i + 1)));
             } else {
-                endTag(CommentInTag);
+                noteErrors(CommentInTag);
             }
             return;
         case '[':
-            endTag(TagInTag);
+            noteErrors(TagInTag);
             return;
         default: // NOT-BUGS: Stray text behind a section's "]" joins its name
             State.Section += Rest[i];

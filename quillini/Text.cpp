@@ -2,13 +2,10 @@
 #include "quillini/quillini.hpp"
 
 #include <algorithm>
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
-#include <stdexcept>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 namespace quillINI {
@@ -27,19 +24,6 @@ std::string_view CommentText(std::string_view Rest) {
         Rest.remove_suffix(1);
     }
     return Rest;
-}
-
-std::int32_t NumberFromText(std::string_view Text) {
-    std::int32_t number = 0;
-    const char *const end = Text.data() + Text.size();
-    const auto read = std::from_chars(Text.data(), end, number);
-    if (read.ec == std::errc::invalid_argument || read.ptr != end) {
-        throw std::invalid_argument("An array's key is not a number!");
-    }
-    if (read.ec == std::errc::result_out_of_range) {
-        throw std::out_of_range("An array's key is out of range!");
-    }
-    return number;
 }
 
 std::string EncodeCodePointUtf8(std::uint32_t CodePoint) {

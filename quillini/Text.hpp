@@ -8,13 +8,12 @@
 
 namespace quillINI {
 
-/// A length of UTF-8 sequence, in bytes: which code points take it, those below Limit that no shorter one
-/// holds, and how its first byte is known, by the bits Lead under Mask.
+/// The UTF-8 sequences of one length.
 struct SequenceForm {
-    std::uint32_t Limit;
-    std::uint8_t Mask;
-    std::uint8_t Lead;
-    std::size_t Length;
+    std::uint32_t Limit; ///< the first code point that is too large for them
+    std::uint8_t Mask;   ///< the bits of the first byte that tell the length
+    std::uint8_t Lead;   ///< what these bits are
+    std::size_t Length;  ///< bytes
 };
 
 inline constexpr auto SequenceForms = std::to_array<SequenceForm>({
@@ -30,10 +29,6 @@ std::string_view TrimBlanks(std::string_view Text);
 /// The text of a comment without one leading blank and without the line feed at its end. Rest is what stands
 /// behind the comment character.
 std::string_view CommentText(std::string_view Rest);
-
-/// The number of a text that is an optional "-" and digits. Throws std::invalid_argument for any other text,
-/// and std::out_of_range for a number beyond 32 bits.
-std::int32_t NumberFromText(std::string_view Text);
 
 /// The UTF-8 bytes of a code point, lone surrogates too; an empty text for 0 and above 0x10FFFF.
 std::string EncodeCodePointUtf8(std::uint32_t CodePoint);

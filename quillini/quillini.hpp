@@ -37,7 +37,8 @@ enum class IniEntryKind : std::uint8_t {
 /// One line of a section, or an array with all its elements.
 struct IniEntry {
     IniEntryKind Kind = IniEntryKind::EmptyLine;
-    /// Of a comment or blank line a reserved key, of an array's element its index as text.
+    /// Of a comment or blank line what it is found by and never written, a reserved key if it was read; of an
+    /// array's element its index as text.
     std::string Key;
     /// A value without its quotes and escapes, or the text of a comment, which a reader takes as it stands;
     /// empty for a blank line or an array.

@@ -185,6 +185,7 @@ void ClampRun(GameState &State) {
     });
 }
 
+/// Brings a run into the game. Its lists are moved out of Run.
 void TakeRun(GameState &State, GameState &Run) {
     for (const SaveField<GameState> &field : RunFields) {
         std::visit(

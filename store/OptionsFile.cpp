@@ -60,8 +60,8 @@ void ReadSwitches(const IniDocument &Document, const char *Section,
     }
 }
 
-/// Takes a rate that the display offers; where no display has told its modes, any rate. 0 and less leave what
-/// RebuildRefreshRates has left.
+/// Takes a rate that the display offers; where no display has told its modes, any rate above 0. Otherwise the
+/// one there was stays, or is 0 if the new list lacks it.
 void TakeRefreshRate(GameState &State, std::int32_t Rate) {
     const std::int32_t clamped = std::clamp(Rate, 0, MaxRefreshRate);
     RebuildRefreshRates(State);

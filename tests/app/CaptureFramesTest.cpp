@@ -1,13 +1,9 @@
-#include "app/Events.hpp"
 #include "app/OptionsKeys.hpp"
 #include "options/ControlsPage.hpp"
 #include "sim/NewRun.hpp"
-#include "tests/app/ProgramTest.hpp"
-#include "tests/app/PushEvents.hpp"
+#include "tests/app/DeviceTest.hpp"
+#include "tests/support/Keys.hpp"
 #include "tests/support/Sounds.hpp"
-#include "tests/support/VirtualDevice.hpp"
-
-#include <optional>
 
 namespace {
 
@@ -15,27 +11,16 @@ constexpr BindingTable PendingKeys{201, 202, 203, 204, 205};
 constexpr BindingTable PendingPad{21, 22, 23, 24, 25};
 constexpr BindingTable PendingStick{31, 32, 33, 34, 35};
 
-/// Captures of the Controls page with real devices, through SDL's own events. The applied bindings are the
-/// defaults; the pending ones are told above.
-class CaptureFrames : public RunningTest {
+/// Captures of the Controls page. The applied bindings are the defaults; the pending ones are told above.
+class CaptureFrames : public DeviceTest {
 protected:
     void SetUp() override {
-        RunningTest::SetUp();
-        if (HasRealDevices()) {
-            GTEST_SKIP() << "a real pad or joystick is plugged in";
-        }
-        ForgetEvents();
+        DeviceTest::SetUp();
         OpenControls();
     }
 
-    void TearDown() override {
-        Stop(); // before the devices go
-        Pad.reset();
-        Stick.reset();
-    }
-
     void OpenControls() {
-        EnterOptions(State);
+        EnterOptions(State, ScreenMainMenu);
         State.OptionsPage = OptionsPageControls;
         BeginControlsEdit(State);
         State.PendingKeyboard = PendingKeys;
@@ -43,28 +28,9 @@ protected:
         State.PendingJoystick = PendingStick;
     }
 
-    void PlugInPad() {
-        Pad.emplace(GamepadShape);
-        DrainEvents(Program);
-        ASSERT_EQ(Program.Devices.GamepadId, Pad->Id);
-    }
-
-    void PlugInStick() {
-        Stick.emplace(JoystickShape);
-        DrainEvents(Program);
-        ASSERT_EQ(Program.Devices.JoystickId, Stick->Id);
-    }
-
     void PlugInBoth() {
         PlugInPad();
         PlugInStick();
-    }
-
-    void Tap(VirtualDevice &Device, int Button) {
-        Device.SetButton(Button, true);
-        DrainEvents(Program);
-        Device.SetButton(Button, false);
-        DrainEvents(Program);
     }
 
     /// Moves an axis to its end and back.
@@ -121,9 +87,6 @@ protected:
     void ExpectCancelled() {
         ExpectEnded(PendingKeys, PendingPad, PendingStick, {SfxId::UiBack});
     }
-
-    std::optional<VirtualDevice> Pad;
-    std::optional<VirtualDevice> Stick;
 
 private:
     void ExpectTables(const BindingTable &Keys, const BindingTable &PadTable, const BindingTable &StickTable,
@@ -203,12 +166,12 @@ TEST_F(CaptureFrames, OfAKeyBindsWhatAGamepadsPressMeans) {
         std::int32_t Key;
         Sounds Heard;
     };
-    for (const Case &press : {Case{SDL_GAMEPAD_BUTTON_SOUTH, 40, {SfxId::UiConfirm}},
-             Case{SDL_GAMEPAD_BUTTON_START, 40, {SfxId::UiConfirm}},
-             Case{SDL_GAMEPAD_BUTTON_DPAD_UP, 82, {SfxId::UiMove}},
-             Case{SDL_GAMEPAD_BUTTON_DPAD_DOWN, 81, {SfxId::UiMove}},
-             Case{SDL_GAMEPAD_BUTTON_DPAD_LEFT, 80, {SfxId::UiMove}},
-             Case{SDL_GAMEPAD_BUTTON_DPAD_RIGHT, 79, {SfxId::UiMove}}}) {
+    for (const Case &press : {Case{SDL_GAMEPAD_BUTTON_SOUTH, EnterKey, {SfxId::UiConfirm}},
+             Case{SDL_GAMEPAD_BUTTON_START, EnterKey, {SfxId::UiConfirm}},
+             Case{SDL_GAMEPAD_BUTTON_DPAD_UP, UpKey, {SfxId::UiMove}},
+             Case{SDL_GAMEPAD_BUTTON_DPAD_DOWN, DownKey, {SfxId::UiMove}},
+             Case{SDL_GAMEPAD_BUTTON_DPAD_LEFT, LeftKey, {SfxId::UiMove}},
+             Case{SDL_GAMEPAD_BUTTON_DPAD_RIGHT, RightKey, {SfxId::UiMove}}}) {
         SCOPED_TRACE(press.Button);
         Capture(ControlsDeviceKeyboard);
         Tap(*Pad, press.Button);
@@ -216,20 +179,20 @@ TEST_F(CaptureFrames, OfAKeyBindsWhatAGamepadsPressMeans) {
     }
     Capture(ControlsDeviceKeyboard);
     Swing(*Pad, SDL_GAMEPAD_AXIS_LEFTX, -32768);
-    ExpectKeyBound(80, {SfxId::UiMove});
+    ExpectKeyBound(LeftKey, {SfxId::UiMove});
 }
 
 TEST_F(CaptureFrames, OfAKeyBindsWhatAJoysticksPressMeans) {
     PlugInStick();
     Capture(ControlsDeviceKeyboard);
     Tap(*Stick, 0);
-    ExpectKeyBound(40, {SfxId::UiConfirm});
+    ExpectKeyBound(EnterKey, {SfxId::UiConfirm});
     Capture(ControlsDeviceKeyboard);
     PointHat(SDL_HAT_DOWN);
-    ExpectKeyBound(81, {SfxId::UiMove});
+    ExpectKeyBound(DownKey, {SfxId::UiMove});
     Capture(ControlsDeviceKeyboard);
     Swing(*Stick, 1, -32768);
-    ExpectKeyBound(82, {SfxId::UiMove});
+    ExpectKeyBound(UpKey, {SfxId::UiMove});
 }
 
 TEST_F(CaptureFrames, OfAKeyGoesOnAtAPressThatMeansNothing) {

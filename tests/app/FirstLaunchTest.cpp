@@ -10,9 +10,7 @@ protected:
     /// Starts on one made-up display whose desktop mode is also the only one that it offers.
     void StartOnDesktop(int Width, int Height) {
         FakeDisplays displays(Watch);
-        displays.Primary = 7;
-        displays.OfWindow = 7;
-        displays.Add(7, Width, Height).Modes = {Mode(Width, Height, 60.0F)};
+        displays.AddOnly(Width, Height).Modes = {Mode(Width, Height, 60.0F)};
         StartAndNoteSize();
         EXPECT_TRUE(displays.Lent.empty());
     }
@@ -111,9 +109,7 @@ TEST_F(FirstLaunch, OnAFiveToFourScreenEndsAtTheFallbackRow) {
 
 TEST_F(FirstLaunch, TakesTheRatesOfTheDesktopsSize) {
     FakeDisplays displays(Watch);
-    displays.Primary = 7;
-    displays.OfWindow = 7;
-    displays.Add(7, 1920, 1080).Modes = {
+    displays.AddOnly(1920, 1080).Modes = {
         Mode(1920, 1080, 144.0F), Mode(1280, 720, 75.0F), Mode(1920, 1080, 0.0F, 60000, 1001)};
     Start();
     EXPECT_EQ(State.RefreshRates, (std::vector<std::int32_t>{0, 60, 144}));

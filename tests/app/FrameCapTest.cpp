@@ -10,7 +10,6 @@ protected:
         RunningTest::SetUp();
         ShowWithoutWaiting(ScreenMainMenu);
         State.VSyncActive = false;
-        State.SaveRequested = false;
     }
 };
 

@@ -2,6 +2,7 @@
 #include "tests/app/ProgramTest.hpp"
 #include "tests/app/PushEvents.hpp"
 #include "tests/support/SameState.hpp"
+#include "tests/support/Screens.hpp"
 
 namespace {
 
@@ -97,8 +98,7 @@ TEST_F(FrameEvents, KeyRepeatsAreIgnoredInPlay) {
 }
 
 TEST_F(FrameEvents, KeyRepeatsAreIgnoredOnEveryOtherScreen) {
-    for (const enum Screen screen :
-        {ScreenMainMenu, ScreenOptions, ScreenHelp, ScreenPaused, ScreenCredits, ScreenGameOver}) {
+    for (const enum Screen screen : OtherScreens) {
         State.Screen = screen;
         const GameState before = State;
         for (int scancode = 1; scancode < 512; ++scancode) {

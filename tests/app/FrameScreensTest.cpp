@@ -1,18 +1,12 @@
 #include "tests/app/ProgramTest.hpp"
 #include "tests/support/Picture.hpp"
+#include "tests/support/Screens.hpp"
 #include "tests/support/VirtualDevice.hpp"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 
 namespace {
-
-constexpr std::array<enum Screen, 6> OtherScreens{
-    ScreenMainMenu, ScreenOptions, ScreenHelp, ScreenPaused, ScreenCredits, ScreenGameOver};
-
-constexpr std::array<enum Screen, 7> AllScreens{
-    ScreenMainMenu, ScreenOptions, ScreenHelp, ScreenPlaying, ScreenPaused, ScreenCredits, ScreenGameOver};
 
 class FrameScreens : public PlayingTest {
 protected:

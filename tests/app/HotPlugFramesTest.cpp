@@ -1,4 +1,5 @@
 #include "tests/app/ProgramTest.hpp"
+#include "tests/app/PushEvents.hpp"
 #include "tests/support/VirtualDevice.hpp"
 
 namespace {
@@ -84,9 +85,7 @@ TEST_F(HotPlugFrames, ADeviceThatDoesNotOpenIsSilent) {
 
 TEST_F(HotPlugFrames, EventsBehindAQuitRequestAreNotActedOn) {
     RunFrame(Program);
-    SDL_Event quit{};
-    quit.type = SDL_EVENT_QUIT;
-    ASSERT_TRUE(SDL_PushEvent(&quit));
+    PushEvent(SDL_EVENT_QUIT);
     const VirtualDevice pad(GamepadShape);
     RunFrame(Program);
     EXPECT_FALSE(State.Running);

@@ -83,8 +83,7 @@ KeyMoment MainMenuWithoutARun() {
 /// On the row BACK.
 KeyMoment OptionsMainPage() {
     KeyMoment moment{"OptionsMainPage", BusyGame(ScreenOptions), {}};
-    EnterOptions(moment.Before);
-    moment.Before.OptionsReturnScreen = ScreenPaused;
+    EnterOptions(moment.Before, ScreenPaused);
     moment.Before.OptionsMainSelection = 3;
     Add(moment.Table, UpKeys, Move(&GameState::OptionsMainSelection, 2));
     Add(moment.Table, DownKeys, Move(&GameState::OptionsMainSelection, 0));
@@ -98,7 +97,7 @@ KeyMoment OptionsMainPage() {
 /// On the page of the controls with its edit begun, and on the row of the third binding.
 KeyMoment ControlsPage() {
     KeyMoment moment{"ControlsPage", BusyGame(ScreenOptions), {}};
-    EnterOptions(moment.Before);
+    EnterOptions(moment.Before, ScreenMainMenu);
     moment.Before.OptionsPage = OptionsPageControls;
     BeginControlsEdit(moment.Before);
     moment.Before.PendingControlsDevice = ControlsDeviceGamepad;
@@ -145,7 +144,7 @@ KeyMoment CapturingAButton() {
         Add(moment.Table, keys, HearOnly(SfxId::UiMove));
     }
     Add(moment.Table, ActivateKeys, HearOnly(SfxId::UiConfirm));
-    Add(moment.Table, {EscapeKey}, EndCaptureWith({SfxId::UiBack}, [](GameState &) {}));
+    Add(moment.Table, {EscapeKey}, EndCaptureWith({SfxId::UiBack}, Nothing));
     Add(moment.Table, ClearKeys, EndCaptureWith({SfxId::UiConfirm}, [](GameState &Expected) {
         Expected.PendingJoystick[4] = -1;
     }));
@@ -185,7 +184,7 @@ KeyMoment CapturingAKey() {
 /// On the row VSYNC, with the edit begun.
 KeyMoment GraphicsPage() {
     KeyMoment moment{"GraphicsPage", BusyGame(ScreenOptions), {}};
-    EnterOptions(moment.Before);
+    EnterOptions(moment.Before, ScreenMainMenu);
     moment.Before.OptionsPage = OptionsPageGraphics;
     BeginGraphicsEdit(moment.Before, nullptr);
     moment.Before.GraphicsSelection = 4;
@@ -211,7 +210,7 @@ KeyMoment GraphicsPage() {
 /// On the row MUSIC VOLUME, with the edit begun.
 KeyMoment AudioPage() {
     KeyMoment moment{"AudioPage", BusyGame(ScreenOptions), {}};
-    EnterOptions(moment.Before);
+    EnterOptions(moment.Before, ScreenMainMenu);
     moment.Before.OptionsPage = OptionsPageAudio;
     BeginAudioEdit(moment.Before);
     moment.Before.AudioSelection = 1;
@@ -237,7 +236,7 @@ KeyMoment AudioPage() {
 KeyMoment Help() {
     KeyMoment moment{"Help", BusyGame(ScreenHelp), {}};
     moment.Before.HelpReturnScreen = ScreenPaused;
-    Add(moment.Table, {40, 88, 41}, Go(SfxId::UiBack, ScreenPaused));
+    Add(moment.Table, LeaveKeys, Go(SfxId::UiBack, ScreenPaused));
     return moment;
 }
 
@@ -277,7 +276,7 @@ KeyMoment Paused() {
 
 KeyMoment Credits() {
     KeyMoment moment{"Credits", BusyGame(ScreenCredits), {}};
-    Add(moment.Table, {40, 88, 41}, Go(SfxId::UiBack, ScreenMainMenu));
+    Add(moment.Table, LeaveKeys, Go(SfxId::UiBack, ScreenMainMenu));
     return moment;
 }
 
@@ -340,8 +339,9 @@ TEST_P(KeyTables, HaveNothingOutOfRange) {
 
 /// The keys that move menus are fixed, whatever is bound; only the key that heals is in the tables of play.
 TEST_P(KeyTables, DoNotDependOnTheOtherBindings) {
-    for (const BindingTable &bindings : {BindingTable{4, 7, 22, 26, SpaceBar},
-             BindingTable{40, 41, 81, 82, SpaceBar}, BindingTable{0, -1, 512, 0, SpaceBar}}) {
+    for (const BindingTable &bindings : {BindingTable{AKey, DKey, SKey, WKey, SpaceBar},
+             BindingTable{EnterKey, EscapeKey, DownKey, UpKey, SpaceBar},
+             BindingTable{0, -1, 512, 0, SpaceBar}}) {
         KeyMoment rebound = Moment;
         rebound.Before.KeyboardBindings = bindings;
         rebound.Before.GamepadBindings = bindings;
@@ -382,7 +382,7 @@ TEST_F(KeyDispatch, HandsOnTheFirstAndTheLastScancode) {
 }
 
 TEST_F(KeyDispatch, IsWhatHandlingDoesWithinTheRange) {
-    for (const std::int32_t scancode : {40, 41, 82, 5}) {
+    for (const std::int32_t scancode : {EnterKey, EscapeKey, UpKey, 5}) {
         GameState dispatched = State;
         GameState handled = State;
         DispatchKey(dispatched, nullptr, nullptr, scancode);

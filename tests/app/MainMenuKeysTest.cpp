@@ -19,17 +19,6 @@ protected:
             Effect(Expected);
         });
     }
-
-    /// Where each of Keys leads from each row, in order of the rows.
-    void ExpectRows(const Scancodes &Keys, const std::vector<std::uint32_t> &Next) {
-        for (std::uint32_t row = 0; row < Next.size(); ++row) {
-            State.MainMenuSelection = row;
-            ExpectKeys(Keys, [&Next, row](GameState &Expected) {
-                Hear(Expected, SfxId::UiMove);
-                Expected.MainMenuSelection = Next.at(row);
-            });
-        }
-    }
 };
 
 const Change ContinueGame = [](GameState &Expected) {
@@ -67,21 +56,21 @@ const Change Quit = [](GameState &Expected) {
 };
 
 TEST_F(MainMenuKeys, UpGoesThroughTheSixRowsWithARunAndWraps) {
-    ExpectRows(UpKeys, {5, 0, 1, 2, 3, 4});
+    ExpectRows(&GameState::MainMenuSelection, UpKeys, {5, 0, 1, 2, 3, 4});
 }
 
 TEST_F(MainMenuKeys, DownGoesThroughTheSixRowsWithARunAndWraps) {
-    ExpectRows(DownKeys, {1, 2, 3, 4, 5, 0});
+    ExpectRows(&GameState::MainMenuSelection, DownKeys, {1, 2, 3, 4, 5, 0});
 }
 
 TEST_F(MainMenuKeys, UpGoesThroughTheFiveRowsWithoutARunAndWraps) {
     EndTheRun();
-    ExpectRows(UpKeys, {4, 0, 1, 2, 3});
+    ExpectRows(&GameState::MainMenuSelection, UpKeys, {4, 0, 1, 2, 3});
 }
 
 TEST_F(MainMenuKeys, DownGoesThroughTheFiveRowsWithoutARunAndWraps) {
     EndTheRun();
-    ExpectRows(DownKeys, {1, 2, 3, 4, 0});
+    ExpectRows(&GameState::MainMenuSelection, DownKeys, {1, 2, 3, 4, 0});
 }
 
 TEST_F(MainMenuKeys, ContinueGameIsTheFirstRowWithARun) {
@@ -173,7 +162,7 @@ TEST_F(MainMenuKeys, WithoutARunTheSixthRowIsPastTheLast) {
 TEST_F(MainMenuKeys, AnyKeyPutsARowPastTheLastRightWithoutASound) {
     EndTheRun();
     State.MainMenuSelection = 5;
-    ExpectKeys({5, 79, 80, 511}, [](GameState &Expected) {
+    ExpectKeys({5, RightKey, LeftKey, 511}, [](GameState &Expected) {
         Expected.MainMenuSelection = 0;
     });
 }
@@ -189,7 +178,7 @@ TEST_F(MainMenuKeys, AnEscapeFromARowPastTheLastQuitsAsWell) {
 
 TEST_F(MainMenuKeys, WhatIsNoKeyDoesNotEvenPutTheRowRight) {
     State.MainMenuSelection = 6;
-    ExpectKeys({0, -1, 512}, [](GameState &) {});
+    ExpectKeys({0, -1, 512}, Nothing);
 }
 
 TEST_F(MainMenuKeys, TheRowIsNotRemappedWhenARunComesOrGoes) {
@@ -206,7 +195,7 @@ TEST_F(MainMenuKeys, TheRowIsNotRemappedWhenARunComesOrGoes) {
 
 TEST_F(MainMenuKeys, EachKeySoundsOnceInTheOrderOfThePresses) {
     State.MainMenuSelection = 2;
-    for (const std::int32_t key : {81, 26, 22, 5, 82, 88}) {
+    for (const std::int32_t key : {DownKey, WKey, SKey, 5, UpKey, KeypadEnterKey}) {
         Press(key);
     }
     EXPECT_EQ(State.Screen, ScreenOptions);

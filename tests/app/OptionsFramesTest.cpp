@@ -11,16 +11,13 @@ namespace {
 class OptionsFrames : public PlayingTest {
 protected:
     OptionsFrames() {
-        Displays.OfWindow = 7;
-        Displays.Primary = 7;
-        Displays.Add(7, 1280, 720).Modes = {
+        Displays.AddOnly(1280, 720).Modes = {
             Mode(1280, 720, 60.0F), Mode(1920, 1080, 60.0F), Mode(1024, 768, 60.0F)};
     }
 
     void SetUp() override {
         PlayingTest::SetUp();
         ForgetEvents();
-        Written = {};
         State.SaveRequested = false;
         Frame({SDL_SCANCODE_ESCAPE, SDL_SCANCODE_DOWN, SDL_SCANCODE_RETURN}); // pause, OPTIONS
         ASSERT_EQ(State.Screen, ScreenOptions);
@@ -29,9 +26,7 @@ protected:
 
     /// One frame with these presses in it.
     void Frame(std::initializer_list<SDL_Scancode> Keys) {
-        for (const SDL_Scancode key : Keys) {
-            PushKey(key);
-        }
+        PushKeys(Keys);
         RunFrame(Program);
     }
 
@@ -74,16 +69,14 @@ TEST_F(OptionsFrames, ApplyOfTheControlsIsWrittenWithinItsFrameAndOnlyIfSomethin
 
 TEST_F(OptionsFrames, ApplyOfTheGraphicsIsWrittenWithinItsFrameAndOnlyIfSomethingChanged) {
     Open(OptionsPageGraphics);
-    {
-        Watch.Forget();
-        ExpectWrites(&GameState::GraphicsSelection, 6, 0);
-        EXPECT_EQ(Watch.SetRenderVSync.Count(), 0);
-        EXPECT_EQ(Watch.SetRenderLogicalPresentation.Count(), 0);
-        State.GraphicsSelection = 1;
-        Frame({SDL_SCANCODE_RIGHT});
-        EXPECT_EQ(Written.OptionsWrites, 0);
-        EXPECT_EQ(Watch.SetRenderLogicalPresentation.Count(), 0);
-    }
+    Watch.Forget();
+    ExpectWrites(&GameState::GraphicsSelection, 6, 0);
+    EXPECT_EQ(Watch.SetRenderVSync.Count(), 0);
+    EXPECT_EQ(Watch.SetRenderLogicalPresentation.Count(), 0);
+    State.GraphicsSelection = 1;
+    Frame({SDL_SCANCODE_RIGHT});
+    EXPECT_EQ(Written.OptionsWrites, 0);
+    EXPECT_EQ(Watch.SetRenderLogicalPresentation.Count(), 0);
     EXPECT_EQ(LogicalWidth, 1280);
     ExpectWrites(&GameState::GraphicsSelection, 6, 1);
     EXPECT_EQ(LogicalWidth, 960);

@@ -10,18 +10,7 @@ constexpr std::int32_t BackRow = 3;
 class OptionsKeys : public KeyTest {
 protected:
     OptionsKeys() : KeyTest(ScreenOptions) {
-        EnterOptions(State);
-        State.OptionsReturnScreen = ScreenPaused;
-    }
-
-    void ExpectRows(const Scancodes &Keys, const std::vector<std::int32_t> &Next) {
-        for (std::int32_t row = 0; row < 4; ++row) {
-            State.OptionsMainSelection = row;
-            ExpectKeys(Keys, [&Next, row](GameState &Expected) {
-                Hear(Expected, SfxId::UiMove);
-                Expected.OptionsMainSelection = Next.at(static_cast<std::size_t>(row));
-            });
-        }
+        EnterOptions(State, ScreenPaused);
     }
 
     /// Expects each activating key to open a page from a row of the main page, and to begin its edit.
@@ -41,7 +30,7 @@ protected:
             GameState pressed = State;
             pressed.PendingSounds.Count = 0;
             DispatchKey(pressed, nullptr, nullptr, key);
-            const bool unbinds = key == 76 || key == 42; // delete and backspace
+            const bool unbinds = key == DeleteKey || key == BackspaceKey;
             EXPECT_EQ(SoundsOf(pressed), unbinds ? OfUnbinding : SoundsOfKey(key)) << "scancode " << key;
         }
     }
@@ -49,20 +38,20 @@ protected:
 private:
     static Sounds SoundsOfKey(std::int32_t Scancode) {
         switch (Scancode) {
-        case 82: // up and W
-        case 26:
-        case 81: // down and S
-        case 22:
-        case 80: // left and A
-        case 4:
-        case 79: // right and D
-        case 7:
+        case UpKey:
+        case WKey:
+        case DownKey:
+        case SKey:
+        case LeftKey:
+        case AKey:
+        case RightKey:
+        case DKey:
             return {SfxId::UiMove};
-        case 40: // the two enter keys and the space bar
-        case 88:
-        case 44:
+        case EnterKey:
+        case KeypadEnterKey:
+        case SpaceBar:
             return {SfxId::UiConfirm};
-        case 41:
+        case EscapeKey:
             return {SfxId::UiBack};
         default:
             return {};
@@ -71,16 +60,16 @@ private:
 };
 
 TEST_F(OptionsKeys, UpGoesThroughTheFourRowsAndWraps) {
-    ExpectRows(UpKeys, {3, 0, 1, 2});
+    ExpectRows(&GameState::OptionsMainSelection, UpKeys, {3, 0, 1, 2});
 }
 
 TEST_F(OptionsKeys, DownGoesThroughTheFourRowsAndWraps) {
-    ExpectRows(DownKeys, {1, 2, 3, 0});
+    ExpectRows(&GameState::OptionsMainSelection, DownKeys, {1, 2, 3, 0});
 }
 
 TEST_F(OptionsKeys, LeftAndRightDoNothingOnTheMainPageButSound) {
-    ExpectRows(LeftKeys, {0, 1, 2, 3});
-    ExpectRows(RightKeys, {0, 1, 2, 3});
+    ExpectRows(&GameState::OptionsMainSelection, LeftKeys, {0, 1, 2, 3});
+    ExpectRows(&GameState::OptionsMainSelection, RightKeys, {0, 1, 2, 3});
 }
 
 TEST_F(OptionsKeys, TheFirstRowOpensControls) {
@@ -208,8 +197,9 @@ TEST_F(OptionsKeys, TheMainPageKeepsItsRowUntilTheNextVisit) {
 
 TEST_F(OptionsKeys, EnteringForgetsPageCaptureAndEdits) {
     State = BusyGame(ScreenPaused);
-    EnterOptions(State);
+    EnterOptions(State, ScreenPaused);
     EXPECT_EQ(State.Screen, ScreenOptions);
+    EXPECT_EQ(State.OptionsReturnScreen, ScreenPaused);
     EXPECT_EQ(State.OptionsPage, OptionsPageMain);
     EXPECT_FALSE(State.CaptureActive);
     EXPECT_EQ(State.CaptureKind, 0);

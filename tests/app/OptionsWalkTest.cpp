@@ -89,9 +89,22 @@ std::int32_t &SelectionOf(GameState &State, enum OptionsPage Page) {
     }
 }
 
-/// The row of a page's DEFAULT SETTINGS; APPLY, REVERT and BACK follow it.
+// The last four rows of a page.
+
 std::int32_t DefaultsRowOf(enum OptionsPage Page) {
     return Page == OptionsPageGraphics ? 5 : 6;
+}
+
+std::int32_t ApplyRowOf(enum OptionsPage Page) {
+    return DefaultsRowOf(Page) + 1;
+}
+
+std::int32_t RevertRowOf(enum OptionsPage Page) {
+    return DefaultsRowOf(Page) + 2;
+}
+
+std::int32_t BackRowOf(enum OptionsPage Page) {
+    return DefaultsRowOf(Page) + 3;
 }
 
 bool Activates(std::int32_t Key) {
@@ -102,9 +115,7 @@ bool Activates(std::int32_t Key) {
 class OptionsWalk : public RunningTest {
 protected:
     OptionsWalk() : Random(20240607) {
-        Displays.OfWindow = 7;
-        Displays.Primary = 7;
-        Displays.Add(7, 1920, 1080).Modes = {Mode(2560, 1080, 60.0F), Mode(1920, 1080, 144.0F),
+        Displays.AddOnly(1920, 1080).Modes = {Mode(2560, 1080, 60.0F), Mode(1920, 1080, 144.0F),
             Mode(1920, 1080, 60.0F), Mode(1920, 1200, 75.0F), Mode(1600, 1200, 85.0F),
             Mode(1280, 720, 144.0F), Mode(1280, 720, 60.0F), Mode(1024, 768, 85.0F), Mode(1024, 768, 60.0F),
             Mode(640, 480, 60.0F), Mode(5120, 1440, 120.0F)};
@@ -114,8 +125,7 @@ protected:
         RunningTest::SetUp();
         ASSERT_EQ(State.Resolutions.size(), 5U);
         ASSERT_GE(Localization.Languages.size(), 2U);
-        State.OptionsReturnScreen = ScreenPaused;
-        EnterOptions(State);
+        EnterOptions(State, ScreenPaused);
     }
 
     /// A key as HandleKey sees it. Who leaves the options is sent back at once.
@@ -123,7 +133,7 @@ protected:
         State.PendingSounds = {};
         DispatchKey(State, Program.Window, Program.Renderer, Key);
         if (State.Screen != ScreenOptions) {
-            EnterOptions(State);
+            EnterOptions(State, ScreenPaused);
         }
     }
 
@@ -138,12 +148,11 @@ protected:
 
     bool IsOnApply() {
         return State.OptionsPage != OptionsPageMain && !State.CaptureActive &&
-               SelectionOf(State, State.OptionsPage) == DefaultsRowOf(State.OptionsPage) + 1;
+               SelectionOf(State, State.OptionsPage) == ApplyRowOf(State.OptionsPage);
     }
 
     bool IsOnBack() {
-        return !State.CaptureActive &&
-               SelectionOf(State, State.OptionsPage) == DefaultsRowOf(State.OptionsPage) + 3;
+        return !State.CaptureActive && SelectionOf(State, State.OptionsPage) == BackRowOf(State.OptionsPage);
     }
 
     /// Presses a drawn key, but never APPLY.
@@ -161,7 +170,7 @@ protected:
 
     /// Opens a page and changes it at random; no capture is left running.
     void EditAtRandom(enum OptionsPage Page, int Steps) {
-        EnterOptions(State);
+        EnterOptions(State, ScreenPaused);
         PressOn(Page - 1);
         ASSERT_EQ(State.OptionsPage, Page);
         for (int i = 0; i < Steps; ++i) {
@@ -227,9 +236,9 @@ TEST_F(OptionsWalk, RevertAfterApplyChangesNothing) {
     for (int walk = 0; walk < 120; ++walk) {
         const enum OptionsPage page = EditPages.at(Random() % EditPages.size());
         EditAtRandom(page, 40);
-        PressOn(DefaultsRowOf(page) + 1);
+        PressOn(ApplyRowOf(page));
         const GameState applied = WithoutRow();
-        PressOn(DefaultsRowOf(page) + 2);
+        PressOn(RevertRowOf(page));
         ASSERT_TRUE(SameState(WithoutRow(), applied)) << walk << " page " << page;
     }
 }
@@ -245,13 +254,13 @@ TEST_F(OptionsWalk, DefaultSettingsAloneChangeNothingThatIsApplied) {
         ASSERT_TRUE(SameState(WithoutGraphics(AppliedOf(State)), WithoutGraphics(applied))) << walk;
         ASSERT_EQ(WindowCalls(), 0U) << walk;
         ASSERT_EQ(LogicalWidth, width) << walk;
-        PressOn(DefaultsRowOf(page) + 3);
+        PressOn(BackRowOf(page));
         ASSERT_EQ(State.OptionsPage, OptionsPageMain) << walk;
         ASSERT_TRUE(SameState(AppliedOf(State), applied)) << walk;
         ASSERT_FALSE(State.OptionsDirty) << walk;
         // Other options for the next walk.
         EditAtRandom(page, 20);
-        PressOn(DefaultsRowOf(page) + 1);
+        PressOn(ApplyRowOf(page));
         State.OptionsDirty = false;
         LeaveToTheMainPage();
     }
@@ -270,7 +279,7 @@ TEST_F(OptionsWalk, ApplyMarksTheOptionsExactlyIfSomethingDiffers) {
         ASSERT_EQ(IsDirty(), differs) << walk << " page " << page;
         const std::int32_t widthBefore = LogicalWidth;
         Watch.Forget();
-        PressOn(DefaultsRowOf(page) + 1);
+        PressOn(ApplyRowOf(page));
         ASSERT_EQ(State.OptionsDirty, differs) << walk << " page " << page;
         edited.OptionsDirty = differs;
         if (differs && page == OptionsPageGraphics) {
@@ -296,15 +305,15 @@ TEST_F(OptionsWalk, RevertLeavesNothingToApply) {
         const enum OptionsPage page = EditPages.at(Random() % EditPages.size());
         const GameState applied = AppliedOf(State);
         EditAtRandom(page, 30);
-        PressOn(DefaultsRowOf(page) + 2);
+        PressOn(RevertRowOf(page));
         ASSERT_FALSE(IsDirty()) << walk << " page " << page;
         ASSERT_TRUE(SameState(EditedOf(State), applied)) << walk << " page " << page;
-        PressOn(DefaultsRowOf(page) + 1);
+        PressOn(ApplyRowOf(page));
         ASSERT_FALSE(State.OptionsDirty) << walk << " page " << page;
     }
 }
 
-TEST_F(OptionsWalk, EveryKeyLeavesASoundRecord) {
+TEST_F(OptionsWalk, EveryKeyKeepsThePromises) {
     for (int step = 0; step < 6000; ++step) {
         Press(DrawKey());
         ASSERT_EQ(BrokenOption(State), "") << "step " << step;
@@ -316,7 +325,7 @@ TEST_F(OptionsWalk, TheLogicalScreenIsTheOneOfTheLastApply) {
     std::vector<std::int32_t> seen;
     for (int walk = 0; walk < 80; ++walk) {
         EditAtRandom(OptionsPageGraphics, 25);
-        PressOn(6);
+        PressOn(ApplyRowOf(OptionsPageGraphics));
         const Resolution size = CurrentResolution(State);
         std::int32_t expected = 1280;
         if (State.AspectMode == AspectClassic4x3) {

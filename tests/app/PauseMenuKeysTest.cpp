@@ -13,24 +13,14 @@ protected:
             Effect(Expected);
         });
     }
-
-    void ExpectRows(const Scancodes &Keys, const std::vector<std::int32_t> &Next) {
-        for (std::int32_t row = 0; row < 4; ++row) {
-            State.PauseSelection = row;
-            ExpectKeys(Keys, [&Next, row](GameState &Expected) {
-                Hear(Expected, SfxId::UiMove);
-                Expected.PauseSelection = Next.at(static_cast<std::size_t>(row));
-            });
-        }
-    }
 };
 
 TEST_F(PauseMenuKeys, UpGoesThroughTheFourRowsAndWraps) {
-    ExpectRows(UpKeys, {3, 0, 1, 2});
+    ExpectRows(&GameState::PauseSelection, UpKeys, {3, 0, 1, 2});
 }
 
 TEST_F(PauseMenuKeys, DownGoesThroughTheFourRowsAndWraps) {
-    ExpectRows(DownKeys, {1, 2, 3, 0});
+    ExpectRows(&GameState::PauseSelection, DownKeys, {1, 2, 3, 0});
 }
 
 TEST_F(PauseMenuKeys, TheFirstRowResumes) {

@@ -12,8 +12,6 @@ protected:
     }
 };
 
-const Change Nothing = [](GameState &) {};
-
 const Change Pause = [](GameState &Expected) {
     Hear(Expected, SfxId::UiBack);
     Expected.Screen = ScreenPaused;
@@ -88,9 +86,9 @@ TEST_F(PlayingKeys, MenuKeysActOnlyIfTheyAreBound) {
     for (const Scancodes &keys : {UpKeys, DownKeys, LeftKeys, RightKeys, EnterKeys}) {
         ExpectKeys(keys, Nothing);
     }
-    State.KeyboardBindings = {4, 7, 26, 22, 40};
-    ExpectKeys({4, 7, 26, 22, 88}, Nothing); // steering, fire and bomb are polled
-    ExpectKeys({40}, Heal);
+    State.KeyboardBindings = {AKey, DKey, WKey, SKey, EnterKey};
+    ExpectKeys({AKey, DKey, WKey, SKey, KeypadEnterKey}, Nothing); // steering, fire and bomb are polled
+    ExpectKeys({EnterKey}, Heal);
 }
 
 TEST_F(PlayingKeys, EveryPauseBeginsOnTheFirstRow) {

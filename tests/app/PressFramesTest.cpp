@@ -1,42 +1,22 @@
-#include "app/Events.hpp"
-#include "tests/app/ProgramTest.hpp"
-#include "tests/app/PushEvents.hpp"
+#include "sim/NewRun.hpp"
+#include "tests/app/DeviceTest.hpp"
 #include "tests/support/SameState.hpp"
-#include "tests/support/VirtualDevice.hpp"
-
-#include <optional>
+#include "tests/support/Screens.hpp"
 
 namespace {
 
-/// Presses on real devices, through SDL's own events, in a program with a run that can be continued.
-class PressFrames : public PlayingTest {
+/// Presses on the main menu of a program with a run that can be continued.
+class PressFrames : public DeviceTest {
 protected:
     void SetUp() override {
-        PlayingTest::SetUp();
-        if (HasRealDevices()) {
-            GTEST_SKIP() << "a real pad or joystick is plugged in";
-        }
-        ForgetEvents();
-        Show(ScreenMainMenu);
+        DeviceTest::SetUp();
+        StartNewRun(State);
+        ShowWithoutWaiting(ScreenMainMenu);
     }
 
     void TearDown() override {
-        Stop(); // before the devices go
-        Pad.reset();
-        Stick.reset();
+        DeviceTest::TearDown();
         OtherPad.reset();
-    }
-
-    void PlugInPad() {
-        Pad.emplace(GamepadShape);
-        DrainEvents(Program);
-        ASSERT_EQ(Program.Devices.GamepadId, Pad->Id);
-    }
-
-    void PlugInStick() {
-        Stick.emplace(JoystickShape);
-        DrainEvents(Program);
-        ASSERT_EQ(Program.Devices.JoystickId, Stick->Id);
     }
 
     void PlugInOtherPad() {
@@ -50,14 +30,6 @@ protected:
         State.PendingSounds.Count = 0;
     }
 
-    /// Presses a button and lets go of it, with the events read in between.
-    void Tap(VirtualDevice &Device, int Button) {
-        Device.SetButton(Button, true);
-        DrainEvents(Program);
-        Device.SetButton(Button, false);
-        DrainEvents(Program);
-    }
-
     void MoveAxis(VirtualDevice &Device, int Axis, Sint16 Value) {
         Device.SetAxis(Axis, Value);
         DrainEvents(Program);
@@ -68,9 +40,7 @@ protected:
         DrainEvents(Program);
     }
 
-    std::optional<VirtualDevice> Pad;
     std::optional<VirtualDevice> OtherPad;
-    std::optional<VirtualDevice> Stick;
 };
 
 TEST_F(PressFrames, TheDirectionalPadMovesTheMenu) {
@@ -283,8 +253,7 @@ TEST_F(PressFrames, HealIsSilentInMenus) {
     PlugInStick();
     State.FirstAidKits = 1;
     State.Player.Hp = 20;
-    for (const enum Screen screen :
-        {ScreenMainMenu, ScreenOptions, ScreenHelp, ScreenPaused, ScreenCredits, ScreenGameOver}) {
+    for (const enum Screen screen : OtherScreens) {
         Show(screen);
         const GameState before = State;
         Tap(*Pad, SDL_GAMEPAD_BUTTON_NORTH);

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+
 // Events that a test puts into SDL's queue by hand, behind those that are there.
 
 inline void PushEvent(SDL_Event Event) {
@@ -24,6 +26,13 @@ inline void PushKey(SDL_Scancode Scancode, bool Repeat = false) {
     event.key.down = true;
     event.key.repeat = Repeat;
     PushEvent(event);
+}
+
+/// Keys go down, one after the other.
+inline void PushKeys(std::initializer_list<SDL_Scancode> Scancodes) {
+    for (const SDL_Scancode scancode : Scancodes) {
+        PushKey(scancode);
+    }
 }
 
 /// Empties the queue.

@@ -10,9 +10,7 @@ namespace {
 class RateChoice : public FilesTest {
 protected:
     RateChoice() {
-        Displays.Primary = 7;
-        Displays.OfWindow = 7;
-        Displays.Add(7, 1920, 1080).Modes = {Mode(1920, 1080, 60.0F), Mode(1920, 1080, 144.0F)};
+        Displays.AddOnly(1920, 1080).Modes = {Mode(1920, 1080, 60.0F), Mode(1920, 1080, 144.0F)};
     }
 
     void SetUp() override {
@@ -27,9 +25,7 @@ protected:
 
     /// One frame with these presses in it.
     void Frame(std::initializer_list<SDL_Scancode> Keys) {
-        for (const SDL_Scancode key : Keys) {
-            PushKey(key);
-        }
+        PushKeys(Keys);
         RunFrame(Program);
     }
 

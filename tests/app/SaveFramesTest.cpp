@@ -1,4 +1,5 @@
 #include "tests/app/ProgramTest.hpp"
+#include "tests/support/Screens.hpp"
 
 namespace {
 
@@ -60,8 +61,7 @@ TEST_F(SaveFrames, AFailureOnAMenuIsTriedAgainAfterASecond) {
 }
 
 TEST_F(SaveFrames, SavingGoesOnOnEveryScreen) {
-    for (const enum Screen screen : {ScreenMainMenu, ScreenOptions, ScreenHelp, ScreenPlaying, ScreenPaused,
-             ScreenCredits, ScreenGameOver}) {
+    for (const enum Screen screen : AllScreens) {
         ShowWithoutWaiting(screen);
         State.SaveRequested = true;
         State.SaveDelay = 0.05F;

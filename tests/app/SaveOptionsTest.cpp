@@ -1,4 +1,5 @@
 #include "tests/app/ProgramTest.hpp"
+#include "tests/support/Screens.hpp"
 
 namespace {
 
@@ -69,8 +70,7 @@ TEST_F(OptionsInFrames, AFailingWriteIsTriedAndLoggedInEveryFrameAndTheGameGoesO
 }
 
 TEST_F(OptionsInFrames, AreWrittenOnEveryScreen) {
-    for (const enum Screen screen : {ScreenMainMenu, ScreenOptions, ScreenHelp, ScreenPlaying, ScreenPaused,
-             ScreenCredits, ScreenGameOver}) {
+    for (const enum Screen screen : AllScreens) {
         ShowWithoutWaiting(screen);
         State.OptionsDirty = true;
         RunFrame(Program);

@@ -14,9 +14,7 @@ protected:
 
     /// One frame of 0.033 seconds with these presses in it.
     void Frame(std::initializer_list<SDL_Scancode> Keys = {}) {
-        for (const SDL_Scancode key : Keys) {
-            PushKey(key);
-        }
+        PushKeys(Keys);
         LetTimePass(1000);
         RunFrame(Program);
     }

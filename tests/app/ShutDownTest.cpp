@@ -2,19 +2,12 @@
 #include "tests/app/ProgramTest.hpp"
 #include "tests/support/VirtualDevice.hpp"
 
-#include <algorithm>
-
 namespace {
 
-using Names = std::vector<std::string>;
+using Lines = std::vector<std::string>;
 
 class ShuttingDown : public RunningTest {
 protected:
-    void SetUp() override {
-        RunningTest::SetUp();
-        State.SaveRequested = false;
-    }
-
     // The writers, to be noted among the calls.
     WatchedCall<void()> WriteOptions{"the options' writer"};
     WatchedCall<void()> WriteSave{"the save's writer"};
@@ -59,7 +52,7 @@ TEST_F(ShuttingDown, TriesAFailingWriteOnceAndGoesOn) {
     Watch.Forget();
     Stop();
     EXPECT_EQ(log.Lines,
-        (Names{"Failed to write options config: Config.ini", "Failed to write save state: SaveState.bin"}));
+        (Lines{"Failed to write options config: Config.ini", "Failed to write save state: SaveState.bin"}));
     EXPECT_EQ(Watch.Quit.Count(), 1);
 }
 

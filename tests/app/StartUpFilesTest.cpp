@@ -191,8 +191,7 @@ protected:
     /// display with these modes.
     void ExpectRate(std::int32_t Rate, bool Fullscreen, const std::vector<SDL_DisplayMode> &Modes) {
         FakeDisplays displays(Watch);
-        displays.OfWindow = 7;
-        displays.Add(7, 1920, 1080).Modes = Modes;
+        displays.AddOnly(1920, 1080).Modes = Modes;
         Put("Config.ini",
             std::string("[Graphics]\r\nResolutionWidth=\"1920\"\r\nResolutionHeight=\"1080\"\r\n"
                         "RefreshRate=\"144\"\r\nFullscreen=\"") +

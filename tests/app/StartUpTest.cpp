@@ -6,7 +6,7 @@
 namespace {
 
 using StartingUp = ProgramTest;
-using Names = std::vector<std::string>;
+using Lines = std::vector<std::string>;
 
 TEST_F(StartingUp, GoesInItsOrder) {
     Watch.Forget();
@@ -27,7 +27,7 @@ TEST_F(StartingUp, GoesInItsOrder) {
 TEST_F(StartingUp, SaysNoMoreThanThatTheDriverHasNoIcons) {
     const LogCatcher log;
     Start();
-    EXPECT_EQ(log.Lines, Names{NoIconsLine});
+    EXPECT_EQ(log.Lines, Lines{NoIconsLine});
 }
 
 TEST_F(StartingUp, BringsUpVideoAndPadsAndLeavesAudioToTheMixer) {
@@ -191,7 +191,7 @@ TEST_F(StartingUp, GoesOnWithoutTheIcon) {
     Watch.SetWindowIcon.Refuse();
     const LogCatcher log;
     Start();
-    EXPECT_EQ(log.Lines, (Names{"SetWindowIconFromAtlas failed: refused for the test"}));
+    EXPECT_EQ(log.Lines, (Lines{"SetWindowIconFromAtlas failed: refused for the test"}));
     EXPECT_FALSE(SDL_CursorVisible());
     EXPECT_EQ(State.Screen, ScreenMainMenu);
 }
@@ -200,7 +200,7 @@ TEST_F(StartingUp, GoesOnWithoutVSync) {
     Watch.SetRenderVSync.Refuse();
     const LogCatcher log;
     Start();
-    EXPECT_EQ(log.Lines, (Names{NoIconsLine, "SDL_SetRenderVSync(1) failed: refused for the test"}));
+    EXPECT_EQ(log.Lines, (Lines{NoIconsLine, "SDL_SetRenderVSync(1) failed: refused for the test"}));
     EXPECT_FALSE(State.VSyncActive);
 }
 
@@ -208,7 +208,7 @@ TEST_F(StartingUp, GoesOnWithoutLogicalPresentation) {
     Watch.SetRenderLogicalPresentation.Refuse();
     const LogCatcher log;
     Start();
-    EXPECT_EQ(log.Lines, (Names{"SDL_SetRenderLogicalPresentation failed: refused for the test", NoIconsLine,
+    EXPECT_EQ(log.Lines, (Lines{"SDL_SetRenderLogicalPresentation failed: refused for the test", NoIconsLine,
                              "SDL_SetRenderLogicalPresentation failed: refused for the test"}));
 }
 

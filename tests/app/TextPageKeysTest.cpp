@@ -17,8 +17,6 @@ protected:
     GameOverKeys() : KeyTest(ScreenGameOver) {}
 };
 
-const Change Nothing = [](GameState &) {};
-
 /// A way back, with the sound of it.
 Change Leave(SfxId Sound, enum Screen ReturnScreen) {
     return [Sound, ReturnScreen](GameState &Expected) {
@@ -39,7 +37,7 @@ Change LeaveForTheFirstRow(SfxId Sound) {
 TEST_F(HelpKeys, EnterAndEscapeGoBackWhereItWasOpened) {
     for (const enum Screen opener : {ScreenMainMenu, ScreenPaused}) {
         State.HelpReturnScreen = opener;
-        ExpectKeys({40, 88, 41}, Leave(SfxId::UiBack, opener));
+        ExpectKeys(LeaveKeys, Leave(SfxId::UiBack, opener));
     }
 }
 
@@ -59,13 +57,13 @@ TEST_F(HelpKeys, TheMainMenuKeepsItsRow) {
 }
 
 TEST_F(CreditsKeys, EnterAndEscapeGoBackToTheMainMenu) {
-    ExpectKeys({40, 88, 41}, Leave(SfxId::UiBack, ScreenMainMenu));
+    ExpectKeys(LeaveKeys, Leave(SfxId::UiBack, ScreenMainMenu));
 }
 
 TEST_F(CreditsKeys, TheirWayBackIsTheMainMenuWhereverHelpAndOptionsReturn) {
     State.HelpReturnScreen = ScreenPaused;
     State.OptionsReturnScreen = ScreenPaused;
-    ExpectKeys({40, 88, 41}, Leave(SfxId::UiBack, ScreenMainMenu));
+    ExpectKeys(LeaveKeys, Leave(SfxId::UiBack, ScreenMainMenu));
 }
 
 TEST_F(CreditsKeys, TheSpaceBarDoesNotLeave) {

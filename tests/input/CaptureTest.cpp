@@ -1,7 +1,9 @@
 #include "input/Capture.hpp"
 
 #include "tests/input/InputTest.hpp"
-#include "tests/support/ControlsTest.hpp"
+#include "tests/support/EditedControls.hpp"
+#include "tests/support/Keys.hpp"
+#include "tests/support/SameState.hpp"
 
 #include <limits>
 #include <optional>

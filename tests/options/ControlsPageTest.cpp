@@ -1,7 +1,9 @@
 #include "options/ControlsPage.hpp"
 
 #include "input/BindingLabels.hpp"
-#include "tests/support/ControlsTest.hpp"
+#include "tests/support/EditedControls.hpp"
+#include "tests/support/Keys.hpp"
+#include "tests/support/SameState.hpp"
 #include "tests/support/TextScope.hpp"
 
 #include <algorithm>

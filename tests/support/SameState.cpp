@@ -12,9 +12,9 @@
 #include <type_traits>
 #include <vector>
 
-// The comparison is the records' own. What stands here only tells what differs; of a record that is bound
-// field by field a new field does not compile until it is told, and of the others one is told of without its
-// name.
+// The comparison is the records' own. What stands here only tells what differs. A new field of GameState
+// needs a row of Fields, or it is told of without its name; a new one of another record does not compile
+// until it is told.
 
 namespace {
 

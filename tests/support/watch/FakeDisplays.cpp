@@ -73,18 +73,19 @@ FakeDisplay &FakeDisplays::Add(SDL_DisplayID Id, int Width, int Height) {
     return List.back();
 }
 
+FakeDisplay &FakeDisplays::AddOnly(int Width, int Height) {
+    Primary = OfWindow = 7;
+    return Add(7, Width, Height);
+}
+
 const FakeDisplay *FakeDisplays::Find(SDL_DisplayID Id) const {
-    const auto found = std::find_if(List.begin(), List.end(), [Id](const FakeDisplay &Display) {
-        return Display.Id == Id;
-    });
+    const auto found = std::ranges::find(List, Id, &FakeDisplay::Id);
     return found == List.end() ? nullptr : &*found;
 }
 
 SDL_DisplayID *FakeDisplays::ListDisplays(int *Count) {
     auto *ids = static_cast<SDL_DisplayID *>(SDL_calloc(List.size() + 1, sizeof(SDL_DisplayID)));
-    std::transform(List.begin(), List.end(), ids, [](const FakeDisplay &Display) {
-        return Display.Id;
-    });
+    std::ranges::transform(List, ids, &FakeDisplay::Id);
     TellCount(Count, List.size());
     Lent.insert(ids);
     return ids;

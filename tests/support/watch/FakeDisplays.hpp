@@ -22,8 +22,11 @@ public:
     FakeDisplays(const FakeDisplays &) = delete;
     FakeDisplays &operator=(const FakeDisplays &) = delete;
 
-    /// Appends a display with a desktop of this size, and gives it to change.
+    /// Appends a display with a desktop of this size, and gives it to change before the next one is added.
     FakeDisplay &Add(SDL_DisplayID Id, int Width, int Height);
+
+    /// Adds the only display: the primary one, and the one that every window is on.
+    FakeDisplay &AddOnly(int Width, int Height);
 
     SDL_DisplayID Primary = 0;
     SDL_DisplayID OfWindow = 0; ///< what any window is told to be on

@@ -38,11 +38,11 @@ public:
     /// Answers in place of the real function, which it may call itself.
     std::function<Result(Parameters...)> Answer;
 
-    /// What a refused call does and gives, where that is not nothing and a false, null, 0 or, of a size or a
-    /// place, -1.
+    /// What a refused call does and gives. Without it the call does nothing and gives false, null or 0, or
+    /// -1 if it gives a size or a place (64 bits or a long).
     std::function<Result(Parameters...)> Failure;
 
-    /// Lets the calls from now on fail without reaching the library, after so many that work and for so many.
+    /// Lets this many calls fail without reaching the library, after so many from now on that work.
     void Refuse(int Times = CallWatch::Always, int After = 0) requires(!std::is_void_v<Result>) {
         Working = After;
         Failing = Times;

@@ -1,8 +1,6 @@
 #pragma once
 
 #include "state/GameState.hpp"
-#include "tests/support/Keys.hpp"
-#include "tests/support/SameState.hpp"
 
 /// The page in edit, every table and both devices at values of their own, so that a mix-up is seen.
 inline GameState EditedControls() {
