@@ -100,7 +100,11 @@ void FillDisc(SDL_Renderer *Renderer, float CenterX, float CenterY, float Radius
 }
 
 int GetPixelSnapStep(SDL_Renderer *Renderer) {
-    return std::max(RoundToInt(1.0F / PresentationScale(Renderer)), 1);
+    const float scale = PresentationScale(Renderer);
+    if (scale >= 1.0F) {
+        return 1;
+    }
+    return std::max(RoundToInt(1.0F / scale), 1);
 }
 
 float SnapToStep(float Value, int Step) {
