@@ -41,6 +41,6 @@ void SmallDisk::MakeReadOnly() const {}
 #endif
 
 void SmallDisk::FillUpTo(int KilobytesLeft) const {
-    const auto room = std::filesystem::space(Place).available;
+    const auto room = static_cast<std::size_t>(std::filesystem::space(Place).available);
     WriteBytes(Place / "filler", std::string(room - static_cast<std::size_t>(KilobytesLeft) * 1024, 'f'));
 }
