@@ -30,7 +30,7 @@ public:
     // Starts the program. Settings are environment variables, as above. Prepared is the home folder, which
     // must outlive this record; without one it is a new, empty one. Throws std::runtime_error if the display,
     // its window manager or the program cannot be started.
-    GameSession(const std::filesystem::path &Program, ScreenSize Screen = {},
+    explicit GameSession(const std::filesystem::path &Program, ScreenSize Screen = {},
         const Environment &Settings = {}, const PreparedHome *Prepared = nullptr, Desk Kind = Desk::Bare);
     ~GameSession();
     GameSession(const GameSession &) = delete;
