@@ -65,6 +65,7 @@ extern "C" int LLVMFuzzerInitialize(int * /*ArgumentCount*/, char *** /*Argument
 }
 
 std::string_view TextOf(std::span<const std::uint8_t> Input) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): the fuzzer's bytes are text
     return {reinterpret_cast<const char *>(Input.data()), Input.size()};
 }
 

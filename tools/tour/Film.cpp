@@ -48,9 +48,10 @@ constexpr std::array Round{
 };
 
 constexpr bool FitsRound(const Move &Made) {
-    return Made.At % FrameTime == 0ms && Made.Held % FrameTime == 0ms && Made.At + Made.Held < RoundTime;
+    return Made.At % FrameTime == Milliseconds::zero() && Made.Held % FrameTime == Milliseconds::zero() &&
+           Made.At + Made.Held < RoundTime;
 }
-static_assert(RoundTime % FrameTime == 0ms && std::ranges::all_of(Round, FitsRound),
+static_assert(RoundTime % FrameTime == Milliseconds::zero() && std::ranges::all_of(Round, FitsRound),
     "each key moves at the time of a picture, and is up again within the round");
 
 // A key that is held and let go by one call would keep the pictures waiting.
