@@ -7,8 +7,8 @@
 
 namespace {
 
-/// The scancode that an event stands for, or NoKey. The repeats of a key that is held are no presses. A
-/// stick's motion sets or clears its latches where no run goes on.
+/// The scancode that an event stands for, or NoKey. The repeats of a key that is held are no presses. Off
+/// ScreenPlaying a stick's motion sets or clears its latches.
 std::int32_t PressedKey(Program &Game, const SDL_Event &Event) {
     if (Event.type == SDL_EVENT_KEY_DOWN) {
         return Event.key.repeat ? NoKey : static_cast<std::int32_t>(Event.key.scancode);

@@ -29,7 +29,7 @@ void ClearRow(GameState &State) {
         ClearKeyboardBinding(KeyboardTable(State), State.CaptureKeyboardRow);
     } else if (State.CaptureKind == CaptureKindGamepad) {
         ClearGamepadBinding(GamepadTable(State), State.CaptureGamepadRow);
-    } else {
+    } else if (State.CaptureKind == CaptureKindJoystick) {
         ClearJoystickBinding(JoystickTable(State), State.CaptureJoystickRow);
     }
 }

@@ -95,7 +95,8 @@ bool IsEnemyBeside(const Turn &Turn, const Enemy &Enemy, std::int32_t Lane) {
     return false;
 }
 
-/// Whether an obstacle will stand beside this enemy, in the given lane, at the end of this step.
+/// Whether an obstacle, where this step will take it, reaches into the given lane beside this enemy, where it
+/// stands now.
 bool IsObstacleBeside(const Turn &Turn, const Enemy &Enemy, std::int32_t Lane) {
     const float x = LaneCenterX(Lane);
     return std::ranges::any_of(Turn.State.Obstacles, [&](const Obstacle &Obstacle) {

@@ -7,8 +7,9 @@
 #include <cstdint>
 
 // The moving things of a run. Positions are centres in logical pixels, times seconds, speeds logical pixels a
-// second; those of an Enemy, an Obstacle and an Item hold at a road speed scale of 1. Where a record has a
-// Lane, that says where the thing is, and X follows from it.
+// second. Those of an Enemy, an Obstacle and an Item are taken times the road's speed scale, and never as
+// slow as the road; that of an EnemyBullet comes on top of a share of the road's. Where a record has a Lane,
+// that says where the thing is, and X follows from it.
 //
 // The initial values of an Enemy, an Obstacle and an Item stand in for keys that a saved one lacks. What
 // enters the road gets its own where it is spawned, all but HitFlash.

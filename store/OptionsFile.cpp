@@ -60,7 +60,7 @@ void ReadSwitches(const IniDocument &Document, const char *Section,
     }
 }
 
-/// Takes a rate that the display offers; where no display has told its modes, any rate above 0. Otherwise the
+/// Takes a rate that RefreshRates has; where no display has told its modes, any rate above 0. Otherwise the
 /// one there was stays, or is 0 if the new list lacks it.
 void TakeRefreshRate(GameState &State, std::int32_t Rate) {
     const std::int32_t clamped = std::clamp(Rate, 0, MaxRefreshRate);

@@ -51,7 +51,8 @@ TEST(Replay, TheSameSeedAndInputsGiveTheSameRunToTheBitAtEveryOptimisationLevel)
     const Played played = Play(ReplaySeed);
     EXPECT_GT(played.HighestStage, 1);
     TellFigure("replay", played.Hash);
-    // Changes only when the rules of a run change, in a commit that says which.
+    // Changes only when the rules of a run change, or what RecordHash takes of it, in a commit that says
+    // which.
     EXPECT_EQ(played.Hash, 0x4F3867B7B53B97E1U);
 }
 
