@@ -11,10 +11,9 @@ namespace {
 /// The staging file that was opened last, until it is closed.
 std::FILE *StagingFile = nullptr;
 
-/// The name begins with a point as well, unlike those of the test framework's own files on Windows.
+/// That of the save state. The others are opened by streams, which some C++ libraries open by fopen, too.
 bool IsStagingPath(std::string_view Path) {
-    const std::string_view name = Path.substr(Path.find_last_of("/\\") + 1);
-    return name.starts_with('.') && name.ends_with(".tmp");
+    return Path.ends_with(".SaveState.bin.tmp");
 }
 
 } // namespace
@@ -37,13 +36,11 @@ extern "C" std::FILE *__wrap_fopen(const char *Path, const char *Mode) {
 
 namespace {
 
-/// What the game calls on Windows in the place of fopen. The C++ library opens its streams by it as well, and
-/// among them are all staging files but the save state's.
+/// What the game calls on Windows in the place of fopen, as the C++ library does for its streams.
 std::FILE *OpenByUtf16(const wchar_t *Path, const wchar_t *Mode) {
     const std::string path = std::filesystem::path(Path).string();
     const std::string mode = std::filesystem::path(Mode).string();
-    return path.ends_with(".SaveState.bin.tmp") ? __wrap_fopen(path.c_str(), mode.c_str())
-                                                : __real_fopen(path.c_str(), mode.c_str());
+    return __wrap_fopen(path.c_str(), mode.c_str());
 }
 
 } // namespace

@@ -13,8 +13,8 @@
     STEERED(1, ftell, TellPosition)
 
 /// Watches the calls that the code under test makes for its files. The test framework opens files as well: of
-/// the calls to fopen, fwrite and fclose only those for staging files are seen, and none to fseek and ftell
-/// is noted.
+/// the calls to fopen, fwrite and fclose only those for the save state's staging file are seen, and none to
+/// fseek and ftell is noted.
 class StoreWatch : public SdlWatch {
 public:
 // Some C libraries say that a pointer is not null, which is no part of a signature.
