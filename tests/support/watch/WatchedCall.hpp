@@ -38,8 +38,8 @@ public:
     /// Answers in place of the real function, which it may call itself.
     std::function<Result(Parameters...)> Answer;
 
-    /// What a refused call does and gives. Without it the call sets SDL's error alone and gives false, null or
-    /// 0, or -1 if it gives a size or a place (64 bits or a long).
+    /// What a refused call does and gives. Without it the call sets SDL's error alone and gives false, null
+    /// or 0, or -1 if it gives a size or a place (64 bits or a long).
     std::function<Result(Parameters...)> Failure;
 
     /// Lets this many calls fail without reaching the library, after so many from now on that work.
