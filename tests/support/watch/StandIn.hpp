@@ -63,7 +63,7 @@ Result PassOn(
         A, B, C, D, E)
 
 /// A field of a watch for a function, of the function's own signature.
-// NOLINTNEXTLINE(bugprone-macro-parentheses)
+// NOLINTNEXTLINE(bugprone-macro-parentheses): not every clangd knows NOLINTBEGIN
 #define NOTED_FIELD(Count, Function, Field) WatchedCall<SIGNATURE(Function)::Type> Field{#Function};
 // NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define STEERED_FIELD(Count, Function, Field) SteeredCall<SIGNATURE(Function)::Type> Field;
