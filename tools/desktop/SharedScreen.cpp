@@ -1,7 +1,9 @@
 #include "tools/desktop/SharedScreen.hpp"
 
+#include <bit>
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <functional>
 #include <numeric>
@@ -23,7 +25,7 @@ constexpr int RowsBetweenLooks = 16;
 SharedScreen::SharedScreen(const VirtualDisplay &Display) : Size(Display.Size()) {
     const int id = Display.SharedMemory().value_or(-1);
     void *const memory = shmat(id, nullptr, SHM_RDONLY);
-    if (reinterpret_cast<std::intptr_t>(memory) == -1) {
+    if (std::bit_cast<std::intptr_t>(memory) == -1) {
         Fail(std::strerror(errno));
     }
     const auto count = static_cast<std::size_t>(Size.Width) * static_cast<std::size_t>(Size.Height);

@@ -158,7 +158,7 @@ SharedImage::SharedImage(Display *Owner, int Width, int Height) : Server(Owner) 
     const auto bytes = static_cast<std::size_t>(Image->bytes_per_line) * static_cast<std::size_t>(Height);
     Segment.shmid = shmget(IPC_PRIVATE, bytes, IPC_CREAT | 0600);
     void *const memory = shmat(Segment.shmid, nullptr, 0);
-    if (reinterpret_cast<std::intptr_t>(memory) != -1) {
+    if (std::bit_cast<std::intptr_t>(memory) != -1) {
         Segment.shmaddr = Image->data = static_cast<char *>(memory);
         IsAttached = XShmAttach(Server, &Segment) != 0;
         XSync(Server, False);
@@ -265,7 +265,9 @@ void XClient::RequestClose(const DesktopWindow &Target) {
     event.xclient.window = Target.Id;
     event.xclient.message_type = XInternAtom(Link->Server, "WM_PROTOCOLS", False);
     event.xclient.format = 32;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-union-access): what Xlib's messages hold
     event.xclient.data.l[0] = static_cast<long>(XInternAtom(Link->Server, "WM_DELETE_WINDOW", False));
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-union-access): the same
     event.xclient.data.l[1] = CurrentTime;
     XSendEvent(Link->Server, Target.Id, False, NoEventMask, &event);
     XSync(Link->Server, False);
