@@ -25,7 +25,8 @@ constexpr int RowsBetweenLooks = 16;
 SharedScreen::SharedScreen(const VirtualDisplay &Display) : Size(Display.Size()) {
     const int id = Display.SharedMemory().value_or(-1);
     void *const memory = shmat(id, nullptr, SHM_RDONLY);
-    if (std::bit_cast<std::intptr_t>(memory) == -1) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): so shmat tells that it has failed
+    if (reinterpret_cast<std::intptr_t>(memory) == -1) {
         Fail(std::strerror(errno));
     }
     const auto count = static_cast<std::size_t>(Size.Width) * static_cast<std::size_t>(Size.Height);

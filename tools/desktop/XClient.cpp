@@ -158,7 +158,8 @@ SharedImage::SharedImage(Display *Owner, int Width, int Height) : Server(Owner) 
     const auto bytes = static_cast<std::size_t>(Image->bytes_per_line) * static_cast<std::size_t>(Height);
     Segment.shmid = shmget(IPC_PRIVATE, bytes, IPC_CREAT | 0600);
     void *const memory = shmat(Segment.shmid, nullptr, 0);
-    if (std::bit_cast<std::intptr_t>(memory) != -1) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): so shmat tells that it has failed
+    if (reinterpret_cast<std::intptr_t>(memory) != -1) {
         Segment.shmaddr = Image->data = static_cast<char *>(memory);
         IsAttached = XShmAttach(Server, &Segment) != 0;
         XSync(Server, False);
