@@ -1,6 +1,5 @@
 #include "tools/desktop/SharedScreen.hpp"
 
-#include <bit>
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
