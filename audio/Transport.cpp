@@ -72,23 +72,6 @@ bool TryRequest(MusicPlayer &Player, std::string_view Name) {
     return Player.RequestedPattern != nullptr;
 }
 
-/// Lets the mixer wait for as long as this lives. It mixes on a thread of its own, and would else, now and
-/// then, sound a piece that is set and not yet begun, or one whose fade has not begun.
-class MixerHold {
-public:
-    explicit MixerHold(MIX_Mixer *Mixer) : Held(Mixer) {
-        MIX_LockMixer(Held);
-    }
-    ~MixerHold() {
-        MIX_UnlockMixer(Held);
-    }
-    MixerHold(const MixerHold &) = delete;
-    MixerHold &operator=(const MixerHold &) = delete;
-
-private:
-    MIX_Mixer *Held;
-};
-
 /// Plays the pattern that is asked for, and ends a running fade where it stands.
 /// NOT-BUGS: The menu's music fades in once, at the start of the program
 bool PlayRequested(MusicRuntime &Runtime, const char *FailureText) {
@@ -123,7 +106,6 @@ void FollowWanted(MusicRuntime &Runtime, std::string_view Wanted, Screen Previou
         return;
     }
     const bool startsFade = isFirst && Runtime.StartupFadePending && Wanted == Runtime.MenuPattern;
-    const MixerHold hold(Runtime.Mixer);
     if (PlayRequested(Runtime, "PlayMusicPattern failed") && startsFade) {
         BeginStartupFade(Runtime);
     }
@@ -153,7 +135,6 @@ void PassLoopBoundary(MusicRuntime &Runtime) {
             return;
         }
     }
-    const MixerHold hold(Runtime.Mixer);
     PlayRequested(Runtime, "PlayMusicPattern failed at loop boundary");
 }
 

@@ -6,10 +6,7 @@
 #include "tests/audio/GameFolder.hpp"
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
-#include <future>
-#include <vector>
 
 namespace {
 
@@ -64,17 +61,11 @@ protected:
         MIX_Quit();
     }
 
-    /// The next ten milliseconds.
-    std::vector<float> Mix() const {
-        std::vector<float> samples(FramesPerUpdate);
-        MIX_Generate(Runtime.Mixer, samples.data(), static_cast<int>(samples.size() * sizeof(float)));
-        return samples;
-    }
-
     /// One update, and the ten milliseconds of music after it; gives the loudest sample of those.
     float Update() {
         UpdateMusicRuntime(State, Runtime);
-        const std::vector<float> samples = Mix();
+        std::vector<float> samples(FramesPerUpdate);
+        MIX_Generate(Runtime.Mixer, samples.data(), static_cast<int>(samples.size() * sizeof(float)));
         return std::abs(*std::ranges::max_element(samples, {}, [](float Sample) {
             return std::abs(Sample);
         }));
@@ -137,32 +128,6 @@ TEST_F(MusicOnTheMixer, CutsIntoTheGameAndBack) {
     State.Screen = ScreenMainMenu;
     Update();
     EXPECT_EQ(Heard(), "MENU");
-}
-
-// A device asks for its samples when it likes, also between the calls that change the piece.
-TEST_F(MusicOnTheMixer, IsNeverHeardBeforeThePieceBegins) {
-    UpdateTimes(5);
-    const SDL_PropertiesID properties = SDL_CreateProperties();
-    std::future<std::vector<float>> device;
-    Watch.CreateProperties.Answer = [&] {
-        device = std::async(std::launch::async, [&] {
-            return Mix();
-        });
-        device.wait_for(std::chrono::milliseconds(200)); // in vain, if the mixer is held
-        return properties;
-    };
-    State.Screen = ScreenPlaying;
-    UpdateMusicRuntime(State, Runtime);
-    ASSERT_TRUE(device.valid());
-    std::vector<float> heard = device.get();
-    const std::vector<float> after = Mix();
-    heard.insert(heard.end(), after.begin(), after.end());
-
-    MIX_SetTrackPlaybackPosition(Runtime.MusicTrack, 0);
-    std::vector<float> piece = Mix();
-    const std::vector<float> rest = Mix();
-    piece.insert(piece.end(), rest.begin(), rest.end());
-    EXPECT_EQ(heard, piece);
 }
 
 TEST_F(MusicOnTheMixer, WaitsForTheEndOfTheLoopOtherwise) {

@@ -211,8 +211,6 @@ constexpr SafeFunction Safe[] = {
     {"MIX_DestroyTrack", TakesDown},
     {"MIX_Quit", TakesDown},
     {"SDL_Delay", "it waits at least that long"},
-    {"MIX_LockMixer", "it waits for its turn"},
-    {"MIX_UnlockMixer", "what is held is let go"},
     {"SDL_GetTicks", "the clock is always there"},
     {"SDL_PollEvent", "false means that there is no event"},
     {"SDL_GetKeyboardState", "the array is always there"},
