@@ -140,6 +140,13 @@ void TellStart(const char *Name, std::size_t Start) {
     std::printf("    %s begins at %.3f s\n", Name, Seconds(Start));
 }
 
+void TellChange(const char *Name, const Change &Changed) {
+    TellStart(Name, Changed.Begin);
+    if (Changed.Heard < Changed.Begin) {
+        std::printf("    and was heard for %zu frames before that\n", Changed.Begin - Changed.Heard);
+    }
+}
+
 struct RunMusic {
     const char *Name;
     const char *File;
@@ -196,7 +203,7 @@ TEST_F(Music, FadesOutIn1500MillisecondsAtTheEnd) {
     EXPECT_LT(points.back().Gain, 0.03 * PlainGain) << "the end does not wait for the fade";
 }
 
-// Not a sample lies between the two, and the press itself is not heard.
+// Not a sample of anything else lies between the two, and the press itself is not heard.
 TEST_F(Music, NewGameCutsToTheGameplayPiece) {
     RecordedGame game;
     ASSERT_TRUE(game.Listen(1.5));
@@ -208,14 +215,14 @@ TEST_F(Music, NewGameCutsToTheGameplayPiece) {
     const Sound menu = Piece("MenuCredits.ogg");
     const Sound gameplay = Piece("Gameplay.ogg");
     const std::size_t start = FindPiece(heard, menu, 0);
-    const std::size_t cut = FindPiece(heard, gameplay, start + FadedIn);
-    ASSERT_LT(cut, heard.size());
+    const Change cut = FindChange(heard, gameplay, start + FadedIn, PlainGain);
+    ASSERT_LT(cut.Begin, heard.size());
     std::printf("    pressed at %.3f s, the run is seen at %.3f s\n", Seconds(pressed), Seconds(shown));
-    TellStart("the run's piece", cut);
-    EXPECT_GE(cut + BlockFrames, pressed);
-    EXPECT_LE(cut, shown + FrameRate / 5);
-    EXPECT_TRUE(IsAlone(heard, menu, start, start + FadedIn, cut, PlainGain));
-    EXPECT_TRUE(IsAlone(heard, gameplay, cut, cut, shown + FrameRate, PlainGain));
+    TellChange("the run's piece", cut);
+    EXPECT_GE(cut.Heard + BlockFrames, pressed);
+    EXPECT_LE(cut.Begin, shown + FrameRate / 5);
+    EXPECT_TRUE(IsAlone(heard, menu, start, start + FadedIn, cut.Heard, PlainGain));
+    EXPECT_TRUE(IsAlone(heard, gameplay, cut.Begin, cut.Begin, shown + FrameRate, PlainGain));
 }
 
 // The pause has the run's music, and so has the main menu that is reached from it until the loop ends.
@@ -248,11 +255,12 @@ TEST_F(Music, EffectsLieOverItAndThePauseMenuDoesNotCutIt) {
     const Sound menu = Piece("MenuCredits.ogg");
     const Sound gameplay = Piece("Gameplay.ogg");
     const std::size_t start = FindPiece(heard, menu, 0);
-    const std::size_t cut = FindPiece(heard, gameplay, start + FadedIn);
-    ASSERT_LT(cut, end);
-    TellStart("the run's piece", cut);
-    TakeOut(heard, menu, start, start + FadedIn, cut, PlainGain);
-    TakeOut(heard, gameplay, cut, cut, end, PlainGain);
+    const Change cut = FindChange(heard, gameplay, start + FadedIn, PlainGain);
+    ASSERT_LT(cut.Begin, end);
+    TellChange("the run's piece", cut);
+    TakeOut(heard, menu, start, start + FadedIn, cut.Heard, PlainGain);
+    TakeOut(heard, gameplay, cut.Heard, cut.Heard, cut.Begin, PlainGain);
+    TakeOut(heard, gameplay, cut.Begin, cut.Begin, end, PlainGain);
     const Sound rest(heard.begin() + static_cast<std::ptrdiff_t>(start + FadedIn),
         heard.begin() + static_cast<std::ptrdiff_t>(end));
     const std::vector<Stretch> sounds = FindSounds(rest, RoundingError);
@@ -272,11 +280,11 @@ TEST_P(MusicOfARun, IsCutTo) {
     ASSERT_TRUE(game.Listen(1.0));
     const Sound heard = game.End();
     const Sound piece = Piece(GetParam().File);
-    const std::size_t cut = FindPiece(heard, piece, FadedIn);
-    ASSERT_LT(cut, heard.size());
-    TellStart(GetParam().File, cut);
-    EXPECT_LE(cut, shown + FrameRate / 5);
-    EXPECT_TRUE(IsAlone(heard, piece, cut, cut, shown + FrameRate, PlainGain));
+    const Change cut = FindChange(heard, piece, FadedIn, PlainGain);
+    ASSERT_LT(cut.Begin, heard.size());
+    TellChange(GetParam().File, cut);
+    EXPECT_LE(cut.Begin, shown + FrameRate / 5);
+    EXPECT_TRUE(IsAlone(heard, piece, cut.Begin, cut.Begin, shown + FrameRate, PlainGain));
 }
 
 INSTANTIATE_TEST_SUITE_P(Music, MusicOfARun,
@@ -319,22 +327,22 @@ TEST_F(Music, GameOverWaitsForTheLoopsEndAndTheMenuAfterItDoesNot) {
     const Sound gameplay = Piece("Gameplay.ogg");
     const Sound gameOver = Piece("GameOver.ogg");
     const Sound menu = Piece("MenuCredits.ogg");
-    const std::size_t start = FindPiece(heard, gameplay, 0);
-    ASSERT_LT(start, over);
-    const std::size_t ended = FindPiece(heard, gameOver, start);
-    ASSERT_LT(ended, heard.size());
-    const std::size_t cut = FindPiece(heard, menu, ended);
-    ASSERT_LT(cut, heard.size());
-    TellStart("the run's piece", start);
-    TellStart("the piece of the game's end", ended);
-    TellStart("the menu's piece", cut);
+    const Change start = FindChange(heard, gameplay, FadedIn, PlainGain);
+    ASSERT_LT(start.Begin, over);
+    const Change ended = FindChange(heard, gameOver, start.Begin, PlainGain);
+    ASSERT_LT(ended.Begin, heard.size());
+    const Change cut = FindChange(heard, menu, ended.Begin, PlainGain);
+    ASSERT_LT(cut.Begin, heard.size());
+    TellChange("the run's piece", start);
+    TellChange("the piece of the game's end", ended);
+    TellChange("the menu's piece", cut);
     // The mixer starts the loop anew by itself, and the next frame sees that.
-    EXPECT_GE(ended, start + gameplay.size());
-    EXPECT_LE(ended, start + gameplay.size() + FrameRate / 5);
-    EXPECT_TRUE(IsAlone(heard, gameplay, start, start, ended, PlainGain));
-    EXPECT_TRUE(IsAlone(heard, gameOver, ended, ended, cut, PlainGain));
-    EXPECT_LE(cut, back + FrameRate / 5);
-    EXPECT_TRUE(IsAlone(heard, menu, cut, cut, back + FrameRate, PlainGain));
+    EXPECT_GE(ended.Heard, start.Begin + gameplay.size());
+    EXPECT_LE(ended.Begin, start.Begin + gameplay.size() + FrameRate / 5);
+    EXPECT_TRUE(IsAlone(heard, gameplay, start.Begin, start.Begin, ended.Heard, PlainGain));
+    EXPECT_TRUE(IsAlone(heard, gameOver, ended.Begin, ended.Begin, cut.Heard, PlainGain));
+    EXPECT_LE(cut.Begin, back + FrameRate / 5);
+    EXPECT_TRUE(IsAlone(heard, menu, cut.Begin, cut.Begin, back + FrameRate, PlainGain));
 }
 
 // Half of sixty percent.

@@ -68,6 +68,31 @@ bool IsHeardAt(const Sound &Heard, const Sound &Piece, std::size_t Start) {
     return false;
 }
 
+// Whether the frames [From, To) hold the piece at that gain and nothing else.
+bool Holds(const Sound &Heard, const Sound &Piece, std::size_t Start, std::size_t From, std::size_t To,
+    double Gain) {
+    const auto gain = static_cast<float>(Gain);
+    for (std::size_t i = From; i < To; ++i) {
+        const Frame &wanted = Piece[(i - Start) % Piece.size()];
+        if (std::abs(Heard[i].Left - gain * wanted.Left) > RoundingError ||
+            std::abs(Heard[i].Right - gain * wanted.Right) > RoundingError) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// The frame at which it begins for good, whether or not a block begins there.
+std::size_t FindBegin(const Sound &Heard, const Sound &Piece, std::size_t From, double Gain) {
+    constexpr std::size_t after = FrameRate / 5;
+    for (std::size_t begin = From; begin + after + BlockFrames <= Heard.size(); ++begin) {
+        if (Holds(Heard, Piece, begin, begin + after, begin + after + BlockFrames, Gain)) {
+            return begin;
+        }
+    }
+    return Heard.size();
+}
+
 } // namespace
 
 Sound ReadRecording(const std::filesystem::path &File) {
@@ -122,6 +147,22 @@ std::size_t FindPiece(const Sound &Heard, const Sound &Piece, std::size_t From) 
         }
     }
     return Heard.size();
+}
+
+Change FindChange(const Sound &Heard, const Sound &Piece, std::size_t From, double Gain) {
+    constexpr std::size_t most = 4; // blocks, however late the second call comes on a busy machine
+    const std::size_t begin = FindBegin(Heard, Piece, From, Gain);
+    if (begin == Heard.size()) {
+        return {begin, begin};
+    }
+    // The block in which it begins, or which begins with it, may hold the press's sound, too.
+    const std::size_t block = begin / BlockFrames * BlockFrames;
+    for (std::size_t early = most * BlockFrames; early > 0; early -= BlockFrames) {
+        if (early <= block && Holds(Heard, Piece, block - early, block - early, block, Gain)) {
+            return {block - early, begin};
+        }
+    }
+    return {begin, begin};
 }
 
 void TakeOut(

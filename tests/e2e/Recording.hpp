@@ -45,6 +45,17 @@ Comparison Compare(
 // heard. Other sounds may lie over parts of its first two seconds.
 std::size_t FindPiece(const Sound &Heard, const Sound &Piece, std::size_t From);
 
+// Where a piece that takes the place of another is first heard, and where it begins for good. They differ
+// where the mixer, which has a thread of its own, comes between the two calls that set a piece and begin it:
+// then it sounds a few blocks of the piece, and the rest that it has decoded of it, before the beginning.
+struct Change {
+    std::size_t Heard = 0;
+    std::size_t Begin = 0;
+};
+// The first such change to a piece at a gain, at or after From: both are the frame count of the recording if
+// there is none. No other sound may lie over the piece a fifth of a second after its beginning.
+Change FindChange(const Sound &Heard, const Sound &Piece, std::size_t From, double Gain);
+
 // Takes a looping piece at a gain out of the frames [From, To) of a recording, so that what lies over it is
 // left.
 void TakeOut(
