@@ -195,6 +195,7 @@ bool PlayMusicPattern(MusicPlayer &Player, const MusicPattern *Pattern, std::int
     if (Pattern == nullptr || Player.Track == nullptr) {
         return false;
     }
+    // NOT-BUGS: The first instant of a piece is now and then heard twice
     if (!MIX_SetTrackAudio(Player.Track, Pattern->Audio) || !StartLooping(Player.Track, FadeInMs)) {
         return false;
     }
