@@ -151,9 +151,10 @@ std::size_t FindPiece(const Sound &Heard, const Sound &Piece, std::size_t From) 
 
 Change FindChange(const Sound &Heard, const Sound &Piece, std::size_t From, double Gain) {
     constexpr std::size_t most = 4; // blocks, however late the second call comes on a busy machine
+    const Change none{Heard.size(), Heard.size()};
     const std::size_t begin = FindBegin(Heard, Piece, From, Gain);
     if (begin == Heard.size()) {
-        return {begin, begin};
+        return none;
     }
     // The block in which it begins, or which begins with it, may hold the press's sound, too.
     const std::size_t block = begin / BlockFrames * BlockFrames;
@@ -162,7 +163,7 @@ Change FindChange(const Sound &Heard, const Sound &Piece, std::size_t From, doub
             return {block - early, begin};
         }
     }
-    return {begin, begin};
+    return begin == block ? Change{begin, begin} : none;
 }
 
 void TakeOut(
