@@ -173,7 +173,7 @@ TEST_F(Music, TheFirstMenuPieceRisesFromTwentyEightPercentIn350Milliseconds) {
         ASSERT_TRUE(game.Listen(2.0));
         const Sound heard = game.End();
         const Sound menu = Piece("MenuCredits.ogg");
-        const std::size_t start = FindPiece(heard, menu, 0);
+        const std::size_t start = FindPiece(heard, menu);
         ASSERT_LT(start + 2 * FadedIn, heard.size());
         TellStart("the menu's piece", start);
         const Sound before(heard.begin(), heard.begin() + static_cast<std::ptrdiff_t>(start));
@@ -191,7 +191,7 @@ TEST_F(Music, FadesOutIn1500MillisecondsAtTheEnd) {
     const std::size_t before = (game.FramesSoFar() / BlockFrames - 1) * BlockFrames;
     const Sound heard = game.End();
     const Sound menu = Piece("MenuCredits.ogg");
-    const std::size_t start = FindPiece(heard, menu, 0);
+    const std::size_t start = FindPiece(heard, menu);
     ASSERT_LT(start, heard.size());
     const std::vector<Point> points = GainsOf(heard, menu, start, before, heard.size());
     const Line line = LineThrough(Between(points, 0.02 * PlainGain, 0.98 * PlainGain));
@@ -214,7 +214,7 @@ TEST_F(Music, NewGameCutsToTheGameplayPiece) {
     const Sound heard = game.End();
     const Sound menu = Piece("MenuCredits.ogg");
     const Sound gameplay = Piece("Gameplay.ogg");
-    const std::size_t start = FindPiece(heard, menu, 0);
+    const std::size_t start = FindPiece(heard, menu);
     const Change cut = FindChange(heard, gameplay, start + FadedIn, PlainGain);
     ASSERT_LT(cut.Begin, heard.size());
     std::printf("    pressed at %.3f s, the run is seen at %.3f s\n", Seconds(pressed), Seconds(shown));
@@ -254,7 +254,7 @@ TEST_F(Music, EffectsLieOverItAndThePauseMenuDoesNotCutIt) {
 
     const Sound menu = Piece("MenuCredits.ogg");
     const Sound gameplay = Piece("Gameplay.ogg");
-    const std::size_t start = FindPiece(heard, menu, 0);
+    const std::size_t start = FindPiece(heard, menu);
     const Change cut = FindChange(heard, gameplay, start + FadedIn, PlainGain);
     ASSERT_LT(cut.Begin, end);
     TellChange("the run's piece", cut);
@@ -352,7 +352,7 @@ TEST_F(Music, VolumesScaleTheLevel) {
     const std::size_t end = game.FramesSoFar();
     const Sound heard = game.End();
     const Sound menu = Piece("MenuCredits.ogg");
-    const std::size_t start = FindPiece(heard, menu, 0);
+    const std::size_t start = FindPiece(heard, menu);
     ASSERT_LT(start + FadedIn + BlockFrames, end);
     std::printf(
         "    the gain is %.4f (0.3000)\n", Compare(heard, menu, start, start + FadedIn, BlockFrames).Gain);

@@ -69,7 +69,7 @@ bool IsHeardAt(const Sound &Heard, const Sound &Piece, std::size_t Start) {
 }
 
 // Whether the frames [From, To) hold the piece at that gain and nothing else.
-bool Holds(const Sound &Heard, const Sound &Piece, std::size_t Start, std::size_t From, std::size_t To,
+bool HoldsPiece(const Sound &Heard, const Sound &Piece, std::size_t Start, std::size_t From, std::size_t To,
     double Gain) {
     const auto gain = static_cast<float>(Gain);
     for (std::size_t i = From; i < To; ++i) {
@@ -86,7 +86,7 @@ bool Holds(const Sound &Heard, const Sound &Piece, std::size_t Start, std::size_
 std::size_t FindBegin(const Sound &Heard, const Sound &Piece, std::size_t From, double Gain) {
     constexpr std::size_t after = FrameRate / 5;
     for (std::size_t begin = From; begin + after + BlockFrames <= Heard.size(); ++begin) {
-        if (Holds(Heard, Piece, begin, begin + after, begin + after + BlockFrames, Gain)) {
+        if (HoldsPiece(Heard, Piece, begin, begin + after, begin + after + BlockFrames, Gain)) {
             return begin;
         }
     }
@@ -139,9 +139,8 @@ Comparison Compare(
     return result;
 }
 
-std::size_t FindPiece(const Sound &Heard, const Sound &Piece, std::size_t From) {
-    const std::size_t firstBlock = (From + BlockFrames - 1) / BlockFrames;
-    for (std::size_t start = firstBlock * BlockFrames; start < Heard.size(); start += BlockFrames) {
+std::size_t FindPiece(const Sound &Heard, const Sound &Piece) {
+    for (std::size_t start = 0; start < Heard.size(); start += BlockFrames) {
         if (IsHeardAt(Heard, Piece, start)) {
             return start;
         }
@@ -159,7 +158,7 @@ Change FindChange(const Sound &Heard, const Sound &Piece, std::size_t From, doub
     // The block in which it begins, or which begins with it, may hold the press's sound, too.
     const std::size_t block = begin / BlockFrames * BlockFrames;
     for (std::size_t early = most * BlockFrames; early > 0; early -= BlockFrames) {
-        if (early <= block && Holds(Heard, Piece, block - early, block - early, block, Gain)) {
+        if (early <= block && HoldsPiece(Heard, Piece, block - early, block - early, block, Gain)) {
             return {block - early, begin};
         }
     }

@@ -41,9 +41,9 @@ struct Comparison {
 Comparison Compare(
     const Sound &Heard, const Sound &Piece, std::size_t Start, std::size_t From, std::size_t Count);
 
-// Where a piece begins in a recording, at or after From: the frame count of the recording if it cannot be
+// Where a piece begins in a recording for the first time: the frame count of the recording if it cannot be
 // heard. Other sounds may lie over parts of its first two seconds.
-std::size_t FindPiece(const Sound &Heard, const Sound &Piece, std::size_t From);
+std::size_t FindPiece(const Sound &Heard, const Sound &Piece);
 
 // Where a piece that takes the place of another is first heard, and where it begins for good. They differ
 // where the mixer, which has a thread of its own, comes between the two calls that set a piece and begin it:
